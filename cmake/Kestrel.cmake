@@ -1,0 +1,30 @@
+# SPDX-License-Identifier: MIT
+# kestrel_library(FOLDER SOURCES a.cpp ... [LINKS other folders])
+# One static library per folder of src/; "ui/qt" becomes the target kestrel_ui_qt.
+# It sees only the folders that it links, so that a wrong include fails to link as well as in the include check.
+function(kestrel_library folder)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  string(REPLACE "/" "_" name ${folder})
+  list(TRANSFORM ARG_LINKS REPLACE "/" "_")
+  list(TRANSFORM ARG_LINKS PREPEND kestrel_)
+  if(ARG_SOURCES)
+    add_library(kestrel_${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(kestrel_${name} PUBLIC kestrel_options ${ARG_LINKS})
+  else()
+    add_library(kestrel_${name} INTERFACE)
+    target_link_libraries(kestrel_${name} INTERFACE kestrel_options ${ARG_LINKS})
+  endif()
+endfunction()
+
+# kestrel_test(NAME SOURCES a_test.cpp ... [LINKS folders])
+# One test program per folder; every GoogleTest case becomes a ctest case.
+function(kestrel_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  list(TRANSFORM ARG_LINKS REPLACE "/" "_")
+  list(TRANSFORM ARG_LINKS PREPEND kestrel_)
+  add_executable(${name}_test ${ARG_SOURCES})
+  target_link_libraries(${name}_test PRIVATE kestrel_options ${ARG_LINKS} GTest::gtest GTest::gtest_main)
+  target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_compile_definitions(${name}_test PRIVATE KESTREL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  gtest_discover_tests(${name}_test TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60)
+endfunction()

@@ -1,0 +1,21 @@
+# SPDX-License-Identifier: MIT
+# Language level and warnings, carried by the interface target kestrel_options.
+add_library(kestrel_options INTERFACE)
+target_compile_features(kestrel_options INTERFACE cxx_std_20)
+set(CMAKE_CXX_EXTENSIONS OFF)
+target_include_directories(kestrel_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(
+  kestrel_options
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Wshadow
+            -Wconversion
+            -Wno-sign-conversion
+            -Wold-style-cast
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            -Wnull-dereference
+            $<$<BOOL:${KESTREL_WERROR}>:-Werror>)
+# Assertions of the kind "cannot happen" stay on in release builds of the standard library's containers.
+target_compile_definitions(kestrel_options INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)

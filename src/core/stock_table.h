@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+// One stored puzzle, and the table of all 500. Used by whoever opens, prints, rates or renews puzzles.
+#pragma once
+
+#include <array>
+#include <cassert>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "core/grid.h"
+
+namespace kestrel {
+
+inline constexpr int kLevels = 5;
+inline constexpr int kPuzzlesPerLevel = 100;
+inline constexpr int kTechniques = 22;
+
+inline constexpr std::size_t kRecordBytes = 222;
+inline constexpr std::size_t kStockBytes = kRecordBytes * kLevels * kPuzzlesPerLevel;  // 111,000
+
+struct SudokuRecord {
+  std::int16_t Level = 0;      // 1 ("Very Easy") to 5 ("Very Hard")
+  std::int16_t Reserved1 = 0;  // not interpreted, kept as it is
+  std::int16_t Reserved2 = 0;  // not interpreted; 0 in a new puzzle
+  DigitGrid GivenCells{};
+  DigitGrid SolutionCells{};
+  std::int16_t BestMinutes = 0;  // best time 0:00 means that there is none
+  std::int16_t BestSeconds = 0;
+  std::int16_t BestPlayer = 0;                             // 0 = nobody
+  std::array<std::int16_t, kTechniques> TechniqueCount{};  // by display slot
+  std::int32_t Score = 0;
+
+  friend bool operator==(const SudokuRecord&, const SudokuRecord&) = default;
+};
+
+// A record as it stands in the stock file: 222 bytes, integers little-endian, no gaps.
+void EncodeRecord(const SudokuRecord& record, std::span<std::uint8_t, kRecordBytes> bytes);
+// The record of 222 bytes; nothing is checked, every byte pattern is a record.
+SudokuRecord DecodeRecord(std::span<const std::uint8_t, kRecordBytes> bytes);
+
+// The place of a puzzle in the stock file, 1..500.
+constexpr int RecordNumber(int level, int number) {
+  return (level - 1) * kPuzzlesPerLevel + number;
+}
+
+// 5 x 100 records, indexed by level 1..5 and number 1..100.
+class StockTable {
+ public:
+  SudokuRecord& operator()(int level, int number) { return records_[Index(level, number)]; }
+  const SudokuRecord& operator()(int level, int number) const { return records_[Index(level, number)]; }
+
+  friend bool operator==(const StockTable&, const StockTable&) = default;
+
+ private:
+  static std::size_t Index(int level, int number) {
+    assert(level >= 1 && level <= kLevels && number >= 1 && number <= kPuzzlesPerLevel);
+    return static_cast<std::size_t>(RecordNumber(level, number) - 1);
+  }
+
+  std::array<SudokuRecord, kLevels * kPuzzlesPerLevel> records_{};
+};
+
+}  // namespace kestrel
