@@ -65,9 +65,6 @@ struct ConversionTables {
 
 constexpr void ConversionTables::InitConversionArrays() {
   const auto narrow = [](int value) { return static_cast<std::int16_t>(value); };
-  const auto at = [](auto& table, int index) -> auto& {
-    return table[static_cast<std::size_t>(index)];
-  };
   for (int cell = 0; cell < kCells; ++cell) {
     CellRow[cell] = narrow(cell / 9);
     CellCol[cell] = narrow(cell % 9);

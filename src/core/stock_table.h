@@ -3,11 +3,12 @@
 #pragma once
 
 #include <array>
-#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string_view>
 
+#include "core/check.h"
 #include "core/grid.h"
 
 namespace kestrel {
@@ -39,6 +40,26 @@ void EncodeRecord(const SudokuRecord& record, std::span<std::uint8_t, kRecordByt
 // The record of 222 bytes; nothing is checked, every byte pattern is a record.
 SudokuRecord DecodeRecord(std::span<const std::uint8_t, kRecordBytes> bytes);
 
+// A file that did not come from this program may hold anything, and the table keeps every byte of it. Who
+// uses a field as an index or as a digit goes through these.
+
+// The digit of a cell 0..80, 1..9; 0 for an empty cell and for a byte that is no digit.
+constexpr int DigitAt(const DigitGrid& grid, int cell) {
+  return grid[cell] <= 9 ? grid[cell] : 0;
+}
+
+// The same for a whole grid.
+DigitGrid SafeDigits(const DigitGrid& grid);
+
+// The best time in seconds, minutes x 60 + seconds; negative only when the record holds nonsense.
+constexpr std::int32_t BestTime(const SudokuRecord& record) {
+  return record.BestMinutes * 60 + record.BestSeconds;
+}
+
+// What is wrong with a record filed under `level`, in a few words; empty when nothing is. Looks at the ranges
+// of all fields, at the solution's rows, columns and boxes, and at givens that differ from the solution.
+std::string_view CheckRecord(const SudokuRecord& record, int level);
+
 // The place of a puzzle in the stock file, 1..500.
 constexpr int RecordNumber(int level, int number) {
   return (level - 1) * kPuzzlesPerLevel + number;
@@ -54,7 +75,7 @@ class StockTable {
 
  private:
   static std::size_t Index(int level, int number) {
-    assert(level >= 1 && level <= kLevels && number >= 1 && number <= kPuzzlesPerLevel);
+    Require(level >= 1 && level <= kLevels && number >= 1 && number <= kPuzzlesPerLevel);
     return static_cast<std::size_t>(RecordNumber(level, number) - 1);
   }
 

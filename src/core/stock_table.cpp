@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+// The record's 222 bytes, and the look at a record that may hold anything.
+#include "core/stock_table.h"
+
+#include <algorithm>
+#include <type_traits>
+
+namespace kestrel {
+
+namespace {
+
+// Walks over the fields of a record in the order of the file; reading and writing share it, so that they
+// cannot differ.
+template <class Record, class Field>
+void EachField(Record& record, Field field) {
+  field(record.Level);
+  field(record.Reserved1);
+  field(record.Reserved2);
+  for (auto& digit : record.GivenCells) field(digit);
+  for (auto& digit : record.SolutionCells) field(digit);
+  field(record.BestMinutes);
+  field(record.BestSeconds);
+  field(record.BestPlayer);
+  for (auto& count : record.TechniqueCount) field(count);
+  field(record.Score);
+}
+
+bool IsComplete(const DigitGrid& solution) {
+  const auto all_nine = [&](const auto& unit_cell) {
+    CandidateMask seen = 0;
+    for (int position = 0; position < kUnitSize; ++position) {
+      const int digit = DigitAt(solution, unit_cell(position));
+      if (digit != 0) seen |= DigitBit(digit);
+    }
+    return seen == kAllDigits;
+  };
+  for (int unit = 0; unit < kUnitSize; ++unit) {
+    const bool complete = all_nine([&](int k) { return RowCell[unit][k]; }) &&
+                          all_nine([&](int k) { return RowCell[k][unit]; }) &&
+                          all_nine([&](int k) { return BoxCell[unit][k]; });
+    if (!complete) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+void EncodeRecord(const SudokuRecord& record, std::span<std::uint8_t, kRecordBytes> bytes) {
+  auto* next = bytes.data();
+  EachField(record, [&next](auto value) {
+    const auto bits = static_cast<std::make_unsigned_t<decltype(value)>>(value);
+    for (std::size_t i = 0; i < sizeof(bits); ++i) *next++ = static_cast<std::uint8_t>(bits >> (8 * i));
+  });
+}
+
+SudokuRecord DecodeRecord(std::span<const std::uint8_t, kRecordBytes> bytes) {
+  SudokuRecord record;
+  const auto* next = bytes.data();
+  EachField(record, [&next](auto& value) {
+    std::uint32_t bits = 0;
+    for (std::size_t i = 0; i < sizeof(value); ++i) bits |= std::uint32_t{*next++} << (8 * i);
+    value = static_cast<std::remove_reference_t<decltype(value)>>(bits);
+  });
+  return record;
+}
+
+DigitGrid SafeDigits(const DigitGrid& grid) {
+  DigitGrid safe{};
+  for (int cell = 0; cell < kCells; ++cell) safe[cell] = static_cast<std::uint8_t>(DigitAt(grid, cell));
+  return safe;
+}
+
+std::string_view CheckRecord(const SudokuRecord& record, int level) {
+  if (record.Level != level) return "its level is not the one that it is filed under";
+  if (!IsComplete(record.SolutionCells)) return "its solution is not a complete grid";
+  for (int cell = 0; cell < kCells; ++cell) {
+    const int given = record.GivenCells[cell];
+    if (given != 0 && given != record.SolutionCells[cell]) return "a given differs from the solution";
+  }
+  if (record.BestMinutes < 0 || record.BestSeconds < 0 || record.BestSeconds > 59 || record.BestPlayer < 0) {
+    return "its best time makes no sense";
+  }
+  if (std::ranges::any_of(record.TechniqueCount, [](int count) { return count < 0; }) || record.Score < 0) {
+    return "a count or its score is negative";
+  }
+  return {};
+}
+
+}  // namespace kestrel

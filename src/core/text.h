@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// Numbers and names as text. Used by the status texts, the settings and the players.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kestrel {
+
+// The last two characters of the decimal text of value + 100: 7 gives "07", 123 gives "23". Negative values
+// follow the same rule (-5 gives "95", -95 gives "5").
+std::string TwoDigits(std::int64_t value);
+
+// The whole number that a setting holds, blanks around it allowed; nothing for any other text and for numbers
+// that do not fit into 16 bits.
+std::optional<int> WholeNumber(std::string_view text);
+
+// The number a user typed: the leading numeric part of the text after blanks ("12abc" gives 12, "7.5e1" gives
+// 75), rounded to the nearest whole number, a half to the even neighbour. 0 when there is none or when it
+// does not fit into 16 bits.
+int LeadingNumber(std::string_view text);
+
+// A stored player name has this many characters (not bytes: one character may take up to four in UTF-8).
+inline constexpr std::size_t kNameCharacters = 16;
+
+// How many characters UTF-8 text has; a byte that belongs to no character counts as one.
+std::size_t CharacterCount(std::string_view text);
+
+// The name with exactly kNameCharacters characters: blanks added on the right, or cut, never inside a
+// character.
+std::string PadName(std::string_view name);
+
+}  // namespace kestrel
