@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
+#include <cerrno>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -42,5 +43,13 @@ class SystemCalls {
   virtual int ListFolder(const std::string& path, std::vector<std::string>& names);
   virtual void Sleep(int milliseconds);
 };
+
+// Makes a call again for as long as signals interrupt it.
+template <class Call>
+auto Uninterrupted(Call call) {
+  auto result = call();
+  while (result == -1 && errno == EINTR) result = call();
+  return result;
+}
 
 }  // namespace kestrel

@@ -56,6 +56,8 @@ class SettingsFile final : public Settings {
     std::string section, key, value;
   };
 
+  bool Load();  // false when the file cannot be read; what was read before stays
+
   Files& files_;
   std::string path_;
   SettingsText text_;             // as last read or written
