@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+// The command line: what may stand on it, its help texts, and its reading. Used by every command.
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestrel {
+
+inline constexpr std::string_view kProgramName = "kestrel-sudoku-cli";
+
+enum class ExitStatus : int {
+  kGood = 0,
+  kBadInput = 1,  // some input was bad, or a check failed
+  kFailure = 2,   // usage, or a file that could not be read or written
+};
+
+struct OptionSpec {
+  std::string_view name;   // without the two dashes
+  std::string_view value;  // what its argument is called in the help; empty for a switch
+  std::string_view help;
+};
+
+struct CommandSpec {
+  std::string_view name;      // "rate", "stock new"
+  std::string_view operands;  // as the usage line shows them: "[FILE...]"
+  int max_operands;
+  std::string_view summary;  // one line, for the list of commands
+  std::string_view details;  // for the command's own help; may have several lines
+  std::span<const OptionSpec> options;
+};
+
+// What stood behind the name of a command. The first thing wrong with it is kept in words.
+class Arguments {
+ public:
+  // Options are --name VALUE or --name=VALUE, in any place; "--" ends them; "-" is an operand.
+  Arguments(const CommandSpec& spec, std::span<const std::string> words);
+
+  const std::vector<std::string>& Operands() const { return operands_; }
+  bool Has(std::string_view option) const { return options_.contains(option); }
+  // The value of an option, or `otherwise` when it is not there.
+  std::string Text(std::string_view option, std::string_view otherwise) const;
+  // The same for whole numbers; a value outside lowest..highest is an error.
+  std::uint64_t Number(std::string_view option, std::uint64_t otherwise, std::uint64_t lowest,
+                       std::uint64_t highest);
+  // The same for one of a few words; gives the word's index.
+  int OneOf(std::string_view option, std::span<const std::string_view> words);
+
+  // Notes that something is wrong, for checks beyond the above. Only the first error is kept.
+  void Fail(std::string error);
+  // Empty when nothing is wrong.
+  const std::string& Error() const { return error_; }
+
+ private:
+  std::vector<std::string> operands_;
+  std::map<std::string, std::string, std::less<>> options_;
+  std::string error_;
+};
+
+// Reads a decimal number without sign or blanks; nothing when it is none or does not fit.
+std::optional<std::uint64_t> ParseNumber(std::string_view text);
+
+// The help of one command.
+void PrintCommandHelp(std::ostream& out, const CommandSpec& spec);
+
+}  // namespace kestrel

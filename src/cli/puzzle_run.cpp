@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "cli/puzzle_run.h"
+
+#include <algorithm>
+#include <ostream>
+#include <utility>
+
+#include "cli/json.h"
+#include "cli/ordered_work.h"
+#include "cli/progress.h"
+#include "cli/puzzle_reader.h"
+
+namespace kestrel {
+namespace {
+
+// Lines are handed to the threads in bundles: enough work to outweigh the handing over, few enough that the
+// threads end together.
+constexpr std::size_t kBundle = 32;
+
+using Bundle = std::vector<InputLine>;
+
+struct BundleResult {
+  std::string out;
+  std::string err;
+  ExitStatus status = ExitStatus::kGood;
+  std::uint64_t puzzles = 0;
+  std::uint64_t bytes = 0;  // of the input, up to the end of this bundle
+};
+
+void ReportBadLine(const InputLine& line, bool json, BundleResult& result) {
+  const bool whole_file = line.line == 0;
+  result.status = std::max(result.status, whole_file ? ExitStatus::kFailure : ExitStatus::kBadInput);
+  result.err +=
+      whole_file ? std::string(kProgramName) + ": " + line.file : line.file + ":" + std::to_string(line.line);
+  result.err += ": " + line.error + "\n";
+  if (!json) return;
+  JsonObject object = JsonLine();
+  object.Add("file", line.file);
+  if (!whole_file) object.Add("line", static_cast<std::int64_t>(line.line));
+  result.out += object.Add("error", line.error).Text() + "\n";
+}
+
+}  // namespace
+
+ExitStatus RunOnPuzzles(const PuzzleRun& run, CliPorts& ports) {
+  PuzzleReader reader(run.files, ports.in);
+  Progress progress(ports.err, ports.err_is_terminal, run.label, reader.TotalBytes());
+  ExitStatus status = ExitStatus::kGood;
+  std::uint64_t puzzles = 0;
+  ports.out << run.header;
+
+  const auto read = [&](Bundle& bundle) {
+    InputLine line;
+    while (bundle.size() < kBundle && reader.Next(line)) bundle.push_back(std::move(line));
+    return !bundle.empty();
+  };
+  const auto make_worker = [&] {
+    return [&run, write = run.make_writer()](const Bundle& bundle) {
+      BundleResult result;
+      for (const InputLine& line : bundle) {
+        if (line.error.empty()) {
+          write(line.givens, result.out);
+          ++result.puzzles;
+        } else {
+          ReportBadLine(line, run.json, result);
+        }
+      }
+      result.bytes = bundle.back().bytes;
+      return result;
+    };
+  };
+  const auto write = [&](const BundleResult& result) {
+    progress.Hide();
+    ports.err << result.err << std::flush;
+    ports.out << result.out;
+    status = std::max(status, result.status);
+    puzzles += result.puzzles;
+    progress.Show(result.bytes, std::to_string(puzzles) + " puzzles");
+    return ports.out.good();
+  };
+  RunOrdered<Bundle>(run.jobs, read, make_worker, write);
+  return status;
+}
+
+}  // namespace kestrel

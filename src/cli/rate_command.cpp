@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// `rate`: level, score and technique counts of puzzles.
+#include <array>
+#include <memory>
+#include <string>
+
+#include "cli/command.h"
+#include "cli/json.h"
+#include "cli/puzzle_reader.h"
+#include "cli/puzzle_run.h"
+#include "cli/rating_text.h"
+#include "cli/solution_counter.h"
+#include "solver/solver.h"
+
+namespace kestrel {
+namespace {
+
+constexpr std::array<OptionSpec, 3> kRateOptions{{
+    kFormatOption,
+    {"solutions", "", "also count the solutions: 0, 1, or 2 for two and more"},
+    kJobsOption,
+}};
+
+std::string RateHeader(bool solutions) {
+  return "puzzle\tlevel\tscore\t" + CountsHeader() + "\tgrid" + (solutions ? "\tsolutions\n" : "\n");
+}
+
+// One output line; `solutions` is negative when they were not counted.
+std::string RateTsv(const DigitGrid& givens, const Rating& rating, int solutions) {
+  std::string text = GridText(givens) + '\t' + std::to_string(rating.level) + '\t' +
+                     std::to_string(rating.Score()) + '\t' + CountsTsv(CountsBySlot(rating.counters)) + '\t' +
+                     GridText(SolvedGrid(rating.state));
+  if (solutions >= 0) text += '\t' + std::to_string(solutions);
+  return text + '\n';
+}
+
+std::string RateJson(const DigitGrid& givens, const Rating& rating, int solutions) {
+  JsonObject object = JsonLine();
+  object.Add("puzzle", GridText(givens))
+      .Add("level", rating.level)
+      .Add("score", rating.Score())
+      .AddRaw("counts", CountsJson(CountsBySlot(rating.counters)))
+      .Add("grid", GridText(SolvedGrid(rating.state)));
+  if (solutions >= 0) object.Add("solutions", solutions);
+  return object.Text() + '\n';
+}
+
+}  // namespace
+
+const CommandSpec kRateSpec{
+    "rate",
+    "[FILE...]",
+    1 << 20,
+    "Rate puzzles: level, score, and how often each technique was needed",
+    "Reads one puzzle a line: the first 81 characters, row by row, with 0 or . for an\n"
+    "empty cell; text after them is ignored, and so are blank lines and lines that\n"
+    "begin with #. Without FILE, or where FILE is -, standard input is read.\n\n"
+    "Writes a header line and one line a puzzle, tab separated: puzzle, level (1 to 5;\n"
+    "6 when the 22 techniques are not enough), score (0 at level 6), the 22 counts,\n"
+    "and the grid as far as it was solved.",
+    kRateOptions};
+
+ExitStatus RateCommand(Arguments& arguments, CliPorts& ports) {
+  PuzzleRun run;
+  run.label = "rate";
+  run.files = arguments.Operands();
+  run.jobs = JobsOf(arguments);
+  run.json = JsonOf(arguments);
+  const bool solutions = arguments.Has("solutions");
+  if (!arguments.Error().empty()) return ExitStatus::kFailure;
+  if (!run.json) run.header = RateHeader(solutions);
+  run.make_writer = [json = run.json, solutions] {
+    const auto counter = solutions ? std::make_shared<SolutionCounter>() : nullptr;
+    return [=](const DigitGrid& givens, std::string& text) {
+      NeverStop yield;
+      const Rating rating = SolveAndRate(givens, yield);
+      const int count = counter ? counter->Count(givens).count : -1;
+      text += json ? RateJson(givens, rating, count) : RateTsv(givens, rating, count);
+    };
+  };
+  return RunOnPuzzles(run, ports);
+}
+
+}  // namespace kestrel

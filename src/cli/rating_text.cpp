@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "cli/rating_text.h"
+
+#include "cli/json.h"
+
+namespace kestrel {
+
+SlotCounts CountsBySlot(const TechniqueCounters& counters) {
+  SlotCounts counts{};
+  for (int slot = 0; slot < kTechniques; ++slot) counts[slot] = counters[kCounterOfSlot[slot]];
+  return counts;
+}
+
+std::string CountsHeader() {
+  std::string text;
+  for (const TechniqueRow& row : kTechniqueTable) {
+    if (!text.empty()) text += '\t';
+    text += row.abbreviation;
+  }
+  return text;
+}
+
+std::string CountsTsv(const SlotCounts& counts) {
+  std::string text;
+  for (const int count : counts) {
+    if (!text.empty()) text += '\t';
+    text += std::to_string(count);
+  }
+  return text;
+}
+
+std::string CountsJson(const SlotCounts& counts) {
+  JsonObject object;
+  for (int slot = 0; slot < kTechniques; ++slot) object.Add(kTechniqueTable[slot].abbreviation, counts[slot]);
+  return object.Text();
+}
+
+DigitGrid SolvedGrid(const SolverState& state) {
+  DigitGrid grid{};
+  for (int cell = 0; cell < kCells; ++cell) grid[cell] = static_cast<std::uint8_t>(state.CellValue(cell));
+  return grid;
+}
+
+}  // namespace kestrel

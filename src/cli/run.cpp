@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "cli/run.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+#include <thread>
+
+namespace kestrel {
+namespace {
+
+struct Command {
+  const CommandSpec* spec;
+  ExitStatus (*run)(Arguments&, CliPorts&);
+};
+
+constexpr std::array<Command, 8> kCommands{{
+    {&kRateSpec, RateCommand},
+    {&kSolveSpec, SolveCommand},
+    {&kGenerateSpec, GenerateCommand},
+    {&kStockNewSpec, StockNewCommand},
+    {&kStockRenewSpec, StockRenewCommand},
+    {&kStockVerifySpec, StockVerifyCommand},
+    {&kStockListSpec, StockListCommand},
+    {&kStockExportSpec, StockExportCommand},
+}};
+
+constexpr std::string_view kStockWord = "stock";
+
+void PrintProgramHelp(std::ostream& out, std::string_view prefix) {
+  out << "Usage: " << kProgramName << " COMMAND [OPTION...] [FILE...]\n"
+      << "Rates, solves and makes sudokus, and looks after the stock file of Kestrel Sudoku.\n\nCommands:\n";
+  for (const Command& command : kCommands) {
+    if (!command.spec->name.starts_with(prefix)) continue;
+    out << "  " << command.spec->name << std::string(16 - command.spec->name.size(), ' ')
+        << command.spec->summary << '\n';
+  }
+  out << "\nOptions:\n"
+         "  --help            show this text and end; after a command: the help of that command\n"
+         "  --version         show the version and end\n\n"
+         "Exit status: 0 all good, 1 some input was bad or a check failed, 2 usage or file error.\n";
+}
+
+ExitStatus UsageError(CliPorts& ports, const std::string& text, std::string_view command) {
+  PrintError(ports, text);
+  ports.err << "Try '" << kProgramName << (command.empty() ? "" : " ") << command << " --help'.\n";
+  return ExitStatus::kFailure;
+}
+
+ExitStatus RunCommand(const Command& command, std::span<const std::string> words, CliPorts& ports) {
+  const auto end_of_options = std::ranges::find(words, "--");
+  if (std::find(words.begin(), end_of_options, "--help") != end_of_options) {
+    PrintCommandHelp(ports.out, *command.spec);
+    return ExitStatus::kGood;
+  }
+  Arguments arguments(*command.spec, words);
+  const ExitStatus status = command.run(arguments, ports);
+  if (arguments.Error().empty()) return status;
+  return UsageError(ports, std::string(command.spec->name) + ": " + arguments.Error(), command.spec->name);
+}
+
+ExitStatus Dispatch(std::span<const std::string> words, CliPorts& ports) {
+  if (words.empty()) return UsageError(ports, "no command given", "");
+  if (words[0] == "--help" || words[0] == "help") {
+    PrintProgramHelp(ports.out, "");
+    return ExitStatus::kGood;
+  }
+  if (words[0] == "--version") {
+    ports.out << kProgramName << ' ' << KESTREL_VERSION << '\n';
+    return ExitStatus::kGood;
+  }
+  std::string name = words[0];
+  std::size_t used = 1;
+  if (name == kStockWord) {
+    if (words.size() == 1) return UsageError(ports, "stock: no command given", "stock");
+    if (words[1] == "--help") {
+      PrintProgramHelp(ports.out, kStockWord);
+      return ExitStatus::kGood;
+    }
+    name += " " + words[used++];
+  }
+  const auto command = std::ranges::find(kCommands, name, [](const Command& c) { return c.spec->name; });
+  if (command == kCommands.end()) return UsageError(ports, "unknown command '" + name + "'", "");
+  return RunCommand(*command, words.subspan(used), ports);
+}
+
+}  // namespace
+
+ExitStatus RunCli(std::span<const std::string> words, CliPorts& ports) {
+  const ExitStatus status = Dispatch(words, ports);
+  ports.out.flush();
+  if (ports.out) return status;
+  PrintError(ports, "standard output could not be written");
+  return ExitStatus::kFailure;
+}
+
+int JobsOf(Arguments& arguments) {
+  const unsigned cores = std::max(1U, std::thread::hardware_concurrency());
+  return static_cast<int>(arguments.Number(kJobsOption.name, cores, 1, 1024));
+}
+
+bool JsonOf(Arguments& arguments) {
+  constexpr std::array<std::string_view, 2> kFormats{"tsv", "json"};
+  return arguments.OneOf(kFormatOption.name, kFormats) == 1;
+}
+
+std::uint64_t SeedOf(Arguments& arguments, CliPorts& ports) {
+  if (arguments.Has(kSeedOption.name)) return arguments.Number(kSeedOption.name, 0, 0, UINT64_MAX);
+  if (!arguments.Error().empty()) return 0;
+  const std::uint64_t seed = ports.seeds.NextSeed();
+  ports.err << "seed " << seed << '\n';
+  return seed;
+}
+
+void PrintError(CliPorts& ports, const std::string& text) {
+  ports.err << kProgramName << ": " << text << '\n';
+}
+
+}  // namespace kestrel

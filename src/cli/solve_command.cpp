@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+// `solve`: the solved grid of puzzles, or every step on the way there.
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "cli/command.h"
+#include "cli/explain.h"
+#include "cli/json.h"
+#include "cli/puzzle_reader.h"
+#include "cli/puzzle_run.h"
+#include "cli/rating_text.h"
+#include "solver/solver.h"
+
+namespace kestrel {
+namespace {
+
+constexpr std::array<OptionSpec, 4> kSolveOptions{{
+    {"steps", "", "write every step in words"},
+    {"trace", "", "write the numbers (1..22) of the techniques that made progress"},
+    {"format", "FORMAT", "text (default) or json, one object a line"},
+    kJobsOption,
+}};
+
+enum class Detail { kGrid, kSteps, kTrace };
+
+JsonArray DigitsJson(CandidateMask digits) {
+  JsonArray array;
+  for (int digit = 1; digit <= 9; ++digit) {
+    if (HasDigit(digits, digit)) array.Add(digit);
+  }
+  return array;
+}
+
+std::string_view RoleName(Role role) {
+  constexpr std::array<std::string_view, 7> kNames{"base", "pivot", "wing", "fin", "floor", "roof", "link"};
+  return kNames[static_cast<std::size_t>(role)];
+}
+
+JsonArray UnitsJson(const std::vector<Unit>& units) {
+  JsonArray array;
+  for (const Unit& unit : units) array.Add(UnitName(unit));
+  return array;
+}
+
+JsonObject CellJson(int cell, CandidateMask digits) {
+  JsonObject object;
+  object.Add("cell", CellName(cell)).AddRaw("digits", DigitsJson(digits).Text());
+  return object;
+}
+
+std::string StepJson(int number, const Finding& finding) {
+  JsonArray pattern;
+  for (const PatternCell& cell : finding.pattern) {
+    pattern.AddRaw(CellJson(cell.cell, cell.digits).Add("role", RoleName(cell.role)).Text());
+  }
+  JsonObject object;
+  object.Add("number", number)
+      .Add("step", finding.step)
+      .Add("technique", TechniqueOfStep(finding.step).caption)
+      .Add("form", finding.form)
+      .AddRaw("digits", DigitsJson(finding.digits).Text())
+      .AddRaw("pattern", pattern.Text())
+      .AddRaw("units", UnitsJson(finding.units).Text())
+      .AddRaw("covers", UnitsJson(finding.covers).Text());
+  if (finding.placed_cell >= 0) {
+    JsonObject place;
+    place.Add("cell", CellName(finding.placed_cell)).Add("digit", finding.placed_digit);
+    object.AddRaw("place", place.Text());
+  } else {
+    JsonArray removals;
+    for (const Removal& removal : finding.removals) {
+      removals.AddRaw(CellJson(removal.cell, removal.digits).Text());
+    }
+    object.AddRaw("remove", removals.Text());
+  }
+  return object.Add("text", StepSentence(finding)).Text();
+}
+
+// Collects the steps of one puzzle in the form that is wanted.
+class StepWriter final : public StepObserver {
+ public:
+  StepWriter(Detail detail, bool json) : detail_(detail), json_(json) {}
+
+  void OnStep(const Finding& finding, const SolverState& /*after*/) override {
+    ++count_;
+    if (detail_ == Detail::kTrace && json_) {
+      array_.Add(finding.step);
+    } else if (detail_ == Detail::kTrace) {
+      text_ += (count_ == 1 ? "" : " ") + std::to_string(finding.step);
+    } else if (json_) {
+      array_.AddRaw(StepJson(count_, finding));
+    } else {
+      text_ += std::to_string(count_) + ". " + StepSentence(finding) + '\n';
+    }
+  }
+
+  const std::string& Text() const { return text_; }
+  std::string Json() const { return array_.Text(); }
+  int Count() const { return count_; }
+
+ private:
+  Detail detail_;
+  bool json_;
+  int count_ = 0;
+  std::string text_;
+  JsonArray array_;
+};
+
+std::string SolveJson(const DigitGrid& givens, const Rating& rating, Detail detail, const StepWriter& steps) {
+  JsonObject object = JsonLine();
+  object.Add("puzzle", GridText(givens)).Add("level", rating.level).Add("score", rating.Score());
+  if (detail == Detail::kSteps) object.AddRaw("steps", steps.Json());
+  if (detail == Detail::kTrace) object.AddRaw("trace", steps.Json());
+  return object.Add("grid", GridText(SolvedGrid(rating.state))).Text() + '\n';
+}
+
+// A block of lines: the puzzle, its steps, how it ended, and a blank line.
+std::string StepsText(const DigitGrid& givens, const Rating& rating, const StepWriter& steps) {
+  std::string end = "Solved in ";
+  if (rating.level == kBeyondTechniques) end = "Not solved, no technique helps after ";
+  end += std::to_string(steps.Count()) + (steps.Count() == 1 ? " step" : " steps");
+  if (rating.level != kBeyondTechniques) {
+    end += ": level " + std::to_string(rating.level) + ", score " + std::to_string(rating.Score());
+  }
+  return "Puzzle " + GridText(givens) + '\n' + steps.Text() + end + ".\nGrid   " +
+         GridText(SolvedGrid(rating.state)) + "\n\n";
+}
+
+std::string SolveText(const DigitGrid& givens, Detail detail, bool json) {
+  StepWriter steps(detail, json);
+  NeverStop yield;
+  RateOptions options;
+  if (detail != Detail::kGrid) options.observer = &steps;
+  const Rating rating = SolveAndRate(givens, yield, options);
+  if (json) return SolveJson(givens, rating, detail, steps);
+  if (detail == Detail::kSteps) return StepsText(givens, rating, steps);
+  if (detail == Detail::kTrace) return steps.Text() + '\n';
+  return GridText(SolvedGrid(rating.state)) + '\n';
+}
+
+}  // namespace
+
+const CommandSpec kSolveSpec{
+    "solve",
+    "[FILE...]",
+    1 << 20,
+    "Solve puzzles with the 22 techniques, without guessing",
+    "Reads puzzles as 'rate' does. Writes the grid of each, 81 digits with 0 for a cell\n"
+    "that the techniques leave open; with --steps every step in words: its number, the\n"
+    "technique, the cells and digits of the pattern, and what is placed or removed.\n"
+    "Rows are called A to H and J, columns 1 to 9: C7 is in the third row.\n"
+    "With --trace one line a puzzle: the numbers of the techniques, in order.",
+    kSolveOptions};
+
+ExitStatus SolveCommand(Arguments& arguments, CliPorts& ports) {
+  constexpr std::array<std::string_view, 2> kFormats{"text", "json"};
+  PuzzleRun run;
+  run.label = "solve";
+  run.files = arguments.Operands();
+  run.jobs = JobsOf(arguments);
+  run.json = arguments.OneOf("format", kFormats) == 1;
+  if (arguments.Has("steps") && arguments.Has("trace")) {
+    arguments.Fail("'--steps' and '--trace' exclude each other");
+  }
+  if (!arguments.Error().empty()) return ExitStatus::kFailure;
+  const Detail detail = arguments.Has("steps")   ? Detail::kSteps
+                        : arguments.Has("trace") ? Detail::kTrace
+                                                 : Detail::kGrid;
+  run.make_writer = [detail, json = run.json] {
+    return [=](const DigitGrid& givens, std::string& text) { text += SolveText(givens, detail, json); };
+  };
+  return RunOnPuzzles(run, ports);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+// `stock verify`, `stock list` and `stock export`: the commands that only read a stock.
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <ostream>
+#include <string>
+
+#include "cli/command.h"
+#include "cli/json.h"
+#include "cli/progress.h"
+#include "cli/rating_text.h"
+#include "cli/stock_check.h"
+#include "cli/stock_path.h"
+
+namespace kestrel {
+namespace {
+
+constexpr OptionSpec kLevelOption{"level", "L", "only level L, 1 to 5"};
+constexpr std::array<OptionSpec, 2> kVerifyOptions{{kStockOption, kJobsOption}};
+constexpr std::array<OptionSpec, 3> kListOptions{{kLevelOption, kStockOption, kFormatOption}};
+constexpr std::array<OptionSpec, 3> kExportOptions{
+    {kLevelOption, kStockOption, {"format", "FORMAT", "lines (default) or json, one object a line"}}};
+
+// A grid of a record: '?' for what is no digit.
+std::string RecordGrid(const DigitGrid& grid) {
+  std::string text;
+  for (const int digit : grid) text += digit <= 9 ? static_cast<char>('0' + digit) : '?';
+  return text;
+}
+
+int GivenCount(const SudokuRecord& record) {
+  return static_cast<int>(std::ranges::count_if(record.GivenCells, [](int digit) { return digit != 0; }));
+}
+
+// The best time as minutes and seconds, "-" when there is none.
+std::string BestTimeText(const SudokuRecord& record) {
+  if (record.BestMinutes == 0 && record.BestSeconds == 0) return "-";
+  const std::string seconds = std::to_string(record.BestSeconds);
+  return std::to_string(record.BestMinutes) + (seconds.size() < 2 ? ":0" : ":") + seconds;
+}
+
+JsonObject RecordJson(int level, int number, const SudokuRecord& record) {
+  JsonObject object = JsonLine();
+  object.Add("level", level).Add("number", number).Add("score", record.Score);
+  object.Add("givens", GivenCount(record));
+  object.Add("best_seconds", 60 * record.BestMinutes + record.BestSeconds);
+  return object.Add("best_player", record.BestPlayer);
+}
+
+std::string ListLine(int level, int number, const SudokuRecord& record) {
+  return std::to_string(level) + '\t' + std::to_string(number) + '\t' + std::to_string(record.Score) + '\t' +
+         std::to_string(GivenCount(record)) + '\t' + BestTimeText(record) + '\t' +
+         std::to_string(record.BestPlayer) + '\t' + CountsTsv(record.TechniqueCount) + '\n';
+}
+
+std::string ListJson(int level, int number, const SudokuRecord& record) {
+  return RecordJson(level, number, record).AddRaw("counts", CountsJson(record.TechniqueCount)).Text() + '\n';
+}
+
+std::string ExportLine(int level, int number, const SudokuRecord& record) {
+  return RecordGrid(record.GivenCells) + '\t' + RecordGrid(record.SolutionCells) + '\t' +
+         std::to_string(level) + '\t' + std::to_string(number) + '\t' + std::to_string(record.Score) + '\n';
+}
+
+std::string ExportJson(int level, int number, const SudokuRecord& record) {
+  return RecordJson(level, number, record)
+             .AddRaw("counts", CountsJson(record.TechniqueCount))
+             .Add("puzzle", RecordGrid(record.GivenCells))
+             .Add("solution", RecordGrid(record.SolutionCells))
+             .Text() +
+         '\n';
+}
+
+using RecordWriter = std::string (*)(int level, int number, const SudokuRecord& record);
+
+// Writes the records of the stock that the arguments name, of one level or of all.
+ExitStatus WriteRecords(Arguments& arguments, CliPorts& ports, const std::string& header,
+                        RecordWriter writer) {
+  const int only = static_cast<int>(arguments.Number("level", 0, 1, kLevels));
+  const std::string path = StockPath(arguments, ports);
+  StockTable stock;
+  if (!arguments.Error().empty() || !ReadStockOf(path, ports, stock)) return ExitStatus::kFailure;
+  ports.out << header;
+  for (int level = 1; level <= kLevels; ++level) {
+    for (int number = 1; number <= kPuzzlesPerLevel; ++number) {
+      if (only == 0 || level == only) ports.out << writer(level, number, stock(level, number));
+    }
+  }
+  return ExitStatus::kGood;
+}
+
+}  // namespace
+
+const CommandSpec kStockVerifySpec{
+    "stock verify",
+    "[FILE]",
+    1,
+    "Check every puzzle of a stock",
+    "Writes one line for everything that is wrong: a puzzle without exactly one solution,\n"
+    "a wrong solution, a level, score or count other than the solver finds now, scores\n"
+    "that do not ascend, a puzzle that is another one in disguise. The exit status is 1\n"
+    "when there is a fault.\n"
+    "Without FILE the stock that the game plays from is checked or, before the game has\n"
+    "made one, the stock that came with the program.",
+    kVerifyOptions};
+
+const CommandSpec kStockListSpec{
+    "stock list",
+    "[FILE]",
+    1,
+    "List the puzzles of a stock",
+    "Writes a header line and one line a puzzle, tab separated: level, number, score,\n"
+    "number of givens, best time and the number of the player who set it (0 nobody), and\n"
+    "the 22 technique counts. Without FILE as for 'stock verify'.",
+    kListOptions};
+
+const CommandSpec kStockExportSpec{
+    "stock export",
+    "[FILE]",
+    1,
+    "Write the puzzles of a stock as text",
+    "Writes one line a puzzle, tab separated: puzzle, solution, level, number, score.\n"
+    "'rate' and 'solve' read such lines. Without FILE as for 'stock verify'.",
+    kExportOptions};
+
+ExitStatus StockVerifyCommand(Arguments& arguments, CliPorts& ports) {
+  const int jobs = JobsOf(arguments);
+  const std::string path = StockPath(arguments, ports);
+  StockTable stock;
+  if (!arguments.Error().empty() || !ReadStockOf(path, ports, stock)) return ExitStatus::kFailure;
+  Progress progress(ports.err, ports.err_is_terminal, "stock verify", kLevels * kPuzzlesPerLevel);
+  const std::vector<StockFault> faults = CheckStock(stock, jobs, [&](int checked) {
+    progress.Show(static_cast<std::uint64_t>(checked), std::to_string(checked) + " puzzles");
+  });
+  progress.Hide();
+  const std::uint64_t length = ports.files.Length(path).value_or(0);
+  if (length != kStockBytes) {
+    ports.out << "file: " << length << " bytes instead of " << kStockBytes << '\n';
+  }
+  for (const StockFault& fault : faults) {
+    ports.out << "level " << fault.level << " number " << fault.number << ": " << fault.text << '\n';
+  }
+  if (!faults.empty() || length != kStockBytes) return ExitStatus::kBadInput;
+  ports.out << path << ": 500 puzzles, no faults\n";
+  return ExitStatus::kGood;
+}
+
+ExitStatus StockListCommand(Arguments& arguments, CliPorts& ports) {
+  const bool json = JsonOf(arguments);
+  const std::string header = "level\tnumber\tscore\tgivens\tbest\tplayer\t" + CountsHeader() + '\n';
+  return WriteRecords(arguments, ports, json ? "" : header, json ? ListJson : ListLine);
+}
+
+ExitStatus StockExportCommand(Arguments& arguments, CliPorts& ports) {
+  constexpr std::array<std::string_view, 2> kFormats{"lines", "json"};
+  const bool json = arguments.OneOf("format", kFormats) == 1;
+  return WriteRecords(arguments, ports, "", json ? ExportJson : ExportLine);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "cli/stock_path.h"
+
+#include "core/stock_file.h"
+
+namespace kestrel {
+
+std::string WritableStockPath(Arguments& arguments, CliPorts& ports) {
+  const bool by_option = arguments.Has(kStockOption.name);
+  if (by_option && !arguments.Operands().empty()) arguments.Fail("the stock file is named twice");
+  if (by_option) return arguments.Text(kStockOption.name, "");
+  return arguments.Operands().empty() ? ports.user_stock : arguments.Operands()[0];
+}
+
+std::string StockPath(Arguments& arguments, CliPorts& ports) {
+  std::string path = WritableStockPath(arguments, ports);
+  const bool named = arguments.Has(kStockOption.name) || !arguments.Operands().empty();
+  if (!named && !ports.shipped_stock.empty() && !ports.files.Exists(path)) return ports.shipped_stock;
+  return path;
+}
+
+bool ReadStockOf(const std::string& path, CliPorts& ports, StockTable& stock) {
+  const FileResult result = ReadStockFile(ports.files, path, stock);
+  if (!result) PrintError(ports, path + ": " + result.Reason());
+  return static_cast<bool>(result);
+}
+
+}  // namespace kestrel
