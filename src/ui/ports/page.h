@@ -20,6 +20,10 @@ struct TextSize {
   int height = 0;
 };
 
+// What a line width of 1 is on paper, in hundredths of a millimetre, on every printer: thin lines (2) have
+// 0.1 mm, thick ones (8) 0.4 mm.
+inline constexpr int kLineWidthStep = 5;
+
 // All places and sizes are in the printer's units, from the top-left corner of the paper. A call that fails
 // is skipped.
 class Page {
@@ -29,7 +33,7 @@ class Page {
   Page& operator=(const Page&) = delete;
   virtual ~Page() = default;
 
-  // The size of the paper.
+  // The size of the paper, the same from one SetUp of the printer to the next.
   virtual int Width() = 0;
   virtual int Height() = 0;
 
@@ -39,7 +43,7 @@ class Page {
   // Prints one line of text with its top-left corner at (x, y).
   virtual void Text(int x, int y, const TextStyle& style, std::string_view text) = 0;
 
-  // `width` is the line width as the layout gives it (2 thin, 8 thick).
+  // `width` is the line width as the layout gives it, in steps of kLineWidthStep.
   virtual void Line(int x1, int y1, int x2, int y2, int width) = 0;
   virtual void Box(int x1, int y1, int x2, int y2, int width) = 0;
 
@@ -56,14 +60,15 @@ class Printer {
   virtual ~Printer() = default;
 
   // Sets the standard printer to A4, portrait, medium quality, and gives its page for measuring and printing;
-  // null when the printer cannot be talked to.
+  // null when the printer cannot be talked to. The page is good until the next SetUp.
   virtual Page* SetUp() = 0;
 
   // Starts a document, as far as something must be done for it (asking for a file's name). False: the user
   // cancelled it, print nothing.
   [[nodiscard]] virtual bool BeginDocument() = 0;
 
-  // Ends the document. A page that was only just begun is not printed.
+  // Ends the document that BeginDocument started, also one that NewPage stopped: then what has not been sent
+  // yet is thrown away. A page that was only just begun is not printed.
   virtual void EndDocument() = 0;
 };
 

@@ -24,7 +24,8 @@ class Screen {
   // Takes it off the screen and clears `open`; ends a WaitUntilHidden for it.
   virtual void Hide(FormId form) = 0;
 
-  // Handles events until the form is hidden. False: the program is ending. No round of the main loop runs.
+  // Handles events until the form is hidden, none when it is already. False: the program is ending. No round
+  // of the main loop runs.
   [[nodiscard]] virtual bool WaitUntilHidden(FormId form) = 0;
 
   virtual void Focus(FormId form, ControlId control) = 0;
