@@ -37,7 +37,6 @@ void DesignPrintChoices(FormPrint& form) {
   Place(form.TextFrom, 1500, 660, 600, 345);
   form.TextFrom.text = "1";
   form.TextFrom.digits_only = true;
-  form.TextFrom.max_length = 3;
   form.TextFrom.tab_index = 1;
   form.TextFrom.spoken = texts::kFirstNumber;
   PlaceLabel(form.LabelTo, 2190, 705, 960, texts::kToOne);
