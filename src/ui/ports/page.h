@@ -21,8 +21,8 @@ struct TextSize {
 };
 
 // What a line width of 1 is on paper, in hundredths of a millimetre, on every printer: thin lines (2) have
-// 0.1 mm, thick ones (8) 0.4 mm.
-inline constexpr int kLineWidthStep = 5;
+// 0.12 mm, thick ones (8) 0.48 mm.
+inline constexpr int kLineWidthStep = 6;
 
 // All places and sizes are in the printer's units, from the top-left corner of the paper. A call that fails
 // is skipped.
