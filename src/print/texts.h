@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// The texts on the printed page and the messages of printing.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "print/print_settings.h"
+
+namespace kestrel::texts {
+
+// On the page, and beside the first number in the dialog
+inline constexpr std::string_view kPage = "Page ";
+inline constexpr std::string_view kNumber = "# ";
+inline constexpr std::string_view kTo = "to ";
+
+inline constexpr std::string_view kPrinterError =
+    "An error occured while attempting to communicate with the standard printer, please check the "
+    "availability and status of your printer.";
+inline constexpr std::string_view kPrinterErrorTitle = "Printer error";
+
+// What is wrong with choices that did not come from the dialog.
+inline constexpr std::string_view kBadLevel = "a level is a number from 1 to 5";
+inline constexpr std::string_view kBadPerPage = "a page has 1, 2 or 4 puzzles";
+inline constexpr std::string_view kBadPages = "the number of pages is from 1 to 10";
+std::string BadRange(const PrintSettings& settings);
+
+}  // namespace kestrel::texts
