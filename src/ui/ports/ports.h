@@ -55,9 +55,9 @@ enum class EndReason : std::uint8_t {
 // The game for a front end. Calls may nest: while Handle waits in a question or a computation yields, the
 // front end may hand over further events.
 //
-// Order: Start once, then rounds for as long as End() is None. Before each round the waiting events are
-// handed over; no round starts while a call of Start, Handle or Round has not returned (Round then does
-// nothing and returns true).
+// Order: Start once; then, for as long as End() is None, at least one round after every outermost Handle, and
+// further rounds while Round says so. No round runs while a call of Start, Handle or Round has not returned:
+// Round then does nothing.
 class GameLoop {
  public:
   GameLoop() = default;
@@ -71,7 +71,8 @@ class GameLoop {
   // One event of the user, or a timer. The front end has checked that the control can be reached.
   virtual void Handle(const Event& event) = 0;
 
-  // One round of the main loop. True: another one is due without waiting for an event.
+  // One round of the main loop. True: another one is due without waiting for an event. False, and nothing
+  // done, while another call has not returned.
   virtual bool Round() = 0;
 
   // True when the next round has something to lay out or to acknowledge, whatever a renewal does.

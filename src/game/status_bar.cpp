@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "game/status_bar.h"
+
+#include <algorithm>
+
+#include "game/texts.h"
+#include "ui/controls/texts.h"
+
+namespace kestrel {
+
+namespace {
+
+// Rounded down also below 0, which only times from a foreign stock file can be.
+std::int32_t WholeParts(std::int32_t sum, std::int32_t part) {
+  return sum / part - (sum % part < 0 ? 1 : 0);
+}
+
+std::string TimeOfSeconds(std::int32_t seconds) {
+  return texts::Time(WholeParts(seconds, 60), seconds % 60);
+}
+
+}  // namespace
+
+LevelTimes TimesOfLevel(const StockTable& stock, int level) {
+  std::int32_t best = 0;
+  std::int32_t sum = 0;
+  std::int32_t count = 0;
+  for (int number = 1; number <= kPuzzlesPerLevel; ++number) {
+    const SudokuRecord& record = stock(level, number);
+    if (record.BestMinutes <= 0 && record.BestSeconds <= 0) continue;
+    const std::int32_t seconds = record.BestMinutes * 60 + record.BestSeconds;
+    best = count == 0 ? seconds : std::min(best, seconds);
+    sum += seconds;
+    ++count;
+  }
+  return {best, count == 0 ? 0 : WholeParts(sum, count)};
+}
+
+void ShowStatus(Session& session, int level) {
+  auto& panels = session.forms.main.StatusBar;
+  panels(1).caption = texts::LevelPanel(texts::kLevelNames[static_cast<std::size_t>(level - 1)]);
+  panels(2).caption = texts::NumberPanel(session.puzzle.PuzzleNumber);
+  ShowTimes(session, level);
+}
+
+void ShowTimes(Session& session, int level) {
+  auto& panels = session.forms.main.StatusBar;
+  const OpenPuzzle& puzzle = session.puzzle;
+  const bool has_time = puzzle.PuzzleBestMinutes > 0 || puzzle.PuzzleBestSeconds > 0;
+  panels(3).caption = has_time ? texts::BestTimePanel(puzzle.PuzzleBestMinutes, puzzle.PuzzleBestSeconds,
+                                                      session.players.Name(puzzle.PuzzleBestPlayer))
+                               : std::string(texts::kNoBestTime);
+  const LevelTimes times = TimesOfLevel(*session.stock, level);
+  panels(4).caption = texts::LevelBestPanel(TimeOfSeconds(times.best));
+  panels(5).caption = texts::LevelAveragePanel(TimeOfSeconds(times.average));
+}
+
+}  // namespace kestrel

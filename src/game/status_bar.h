@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// The texts of the status bar. Used by opening and completion.
+#pragma once
+
+#include <string>
+
+#include "core/stock_table.h"
+#include "game/session.h"
+
+namespace kestrel {
+
+// The best and the average time of a level, whole seconds, over its puzzles that have a best time; 0 and 0
+// when none has.
+struct LevelTimes {
+  std::int32_t best = 0;
+  std::int32_t average = 0;
+};
+LevelTimes TimesOfLevel(const StockTable& stock, int level);
+
+// All five panels for the open puzzle, which was taken from `level`.
+void ShowStatus(Session& session, int level);
+
+// Panels 3 to 5: the puzzle's best time, and the level's best and average time.
+void ShowTimes(Session& session, int level);
+
+}  // namespace kestrel

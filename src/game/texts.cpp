@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// The composed texts of the main window.
+#include "game/texts.h"
+
+#include "core/text.h"
+
+namespace kestrel::texts {
+
+std::string WrongDigit(std::string_view cell_name) {
+  return "The solution of cell " + std::string(cell_name) + " is incorrect!";
+}
+
+std::string ErasedMark(std::string_view cell_name) {
+  return "The pencilmark of cell " + std::string(cell_name) + " to solve this cell is incorrectly erased!";
+}
+
+std::string HelpOn(std::string_view technique) {
+  return "Show help on " + std::string(technique);
+}
+
+std::string Caption(bool named, std::string_view player) {
+  if (!named) return "Kestrel Sudoku - Free Play (no player selected)";
+  return "Kestrel Sudoku - " + std::string(player) + " is playing";
+}
+
+std::string LevelPanel(std::string_view level_name) {
+  return "Level: " + std::string(level_name);
+}
+
+std::string NumberPanel(int number) {
+  return "Number: " + std::to_string(number);
+}
+
+std::string Time(std::int64_t minutes, std::int64_t seconds) {
+  return TwoDigits(minutes) + ":" + TwoDigits(seconds);
+}
+
+std::string BestTimePanel(int minutes, int seconds, std::string_view player) {
+  return "Best Time: " + Time(minutes, seconds) + " by " + std::string(player);
+}
+
+std::string LevelBestPanel(std::string_view time) {
+  return "Level Best Time: " + std::string(time);
+}
+
+std::string LevelAveragePanel(std::string_view time) {
+  return "Level Average Time: " + std::string(time);
+}
+
+}  // namespace kestrel::texts

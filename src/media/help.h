@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// The help window: which page it shows. Used by the main window.
+#pragma once
+
+#include <string_view>
+
+#include "ui/controls/browser_form.h"
+#include "ui/ports/help_window.h"
+#include "ui/ports/screen.h"
+
+namespace kestrel {
+
+// The help pages, in the written form; the front ends map this folder to where the pages are installed.
+inline constexpr std::string_view kHelpFolder = R"(C:\Orvex_Help\Kestrel_Sudoku\)";
+inline constexpr std::string_view kHelpIndex = "index.html";
+
+class Help {
+ public:
+  // All must outlive this object.
+  Help(Browser& browser, HelpWindow& view, Screen& screen)
+      : browser_(browser), view_(view), screen_(screen) {}
+
+  // Sends the help window to a page (file name in the help folder) and brings it on the screen, if it is not
+  // there. The main window stays usable.
+  void ShowPage(std::string_view file);
+
+ private:
+  Browser& browser_;
+  HelpWindow& view_;
+  Screen& screen_;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "ui/memory/recording_ports.h"
+
+#include "core/stock_file.h"
+
+namespace kestrel {
+
+bool MemoryFolders::Find(int folder_id, std::string& path) {
+  if (folder_id != kLocalAppData) return false;
+  path = home_;
+  return true;
+}
+
+std::string RecordingSettings::Read(std::string_view section, std::string_view key,
+                                    std::string_view fallback) {
+  return inner_.Read(section, key, fallback);
+}
+
+bool RecordingSettings::Write(std::string_view section, std::string_view key, std::string_view value) {
+  const bool stored = inner_.Write(section, key, value);
+  if (stored) {
+    transcript_.Line("setting " + std::string(section) + " " + std::string(key) + " " + JsonString(value));
+  }
+  return stored;
+}
+
+FileResult RecordingFiles::Replace(std::string_view path, std::span<const std::uint8_t> bytes) {
+  return Report(path, inner_.Replace(path, bytes));
+}
+
+FileResult RecordingFiles::Update(std::string_view path, std::size_t max_bytes,
+                                  const std::function<void(Bytes&)>& change) {
+  return Report(path, inner_.Update(path, max_bytes, change));
+}
+
+FileResult RecordingFiles::Report(std::string_view path, FileResult result) {
+  if (path.ends_with("\\" + std::string(kStockFileName))) {
+    transcript_.Line(result ? "stock written" : "stock failed");
+  }
+  return result;
+}
+
+std::int32_t MemorySound::Load(std::string_view path) {
+  const std::int32_t id = loads_++;
+  return files_.Exists(path) ? id : -1;
+}
+
+void MemorySound::Play(std::int32_t id) {
+  transcript_.Line("sound " + std::to_string(id));
+}
+
+void MemoryHelp::Navigate(std::string_view page) {
+  transcript_.Line("browse " + JsonString(page));
+}
+
+std::optional<std::string> MemoryShell::FindExecutable(std::string_view) {
+  if (!has_browser_) return std::nullopt;
+  return "browser";
+}
+
+bool MemoryShell::Open(std::string_view, std::string_view address) {
+  if (starts_) transcript_.Line("shell " + std::string(address));
+  return starts_;
+}
+
+}  // namespace kestrel

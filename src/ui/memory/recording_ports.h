@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+// Ports that report what the game does with them. Used by the script front end and by tests.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "core/clock.h"
+#include "core/files.h"
+#include "core/global.h"
+#include "core/settings.h"
+#include "ui/memory/transcript.h"
+#include "ui/ports/help_window.h"
+#include "ui/ports/shell.h"
+#include "ui/ports/sound_device.h"
+
+namespace kestrel {
+
+// A time of day that moves only when it is set.
+class MemoryClock final : public Clock {
+ public:
+  int SecondsOfDay() override { return now_; }
+  void Set(int second_of_day) { now_ = second_of_day; }
+
+ private:
+  int now_ = 12 * 3600;
+};
+
+class MemoryFolders final : public SpecialFolders {
+ public:
+  // The user's local application data folder, in the host's form.
+  explicit MemoryFolders(std::string home) : home_(std::move(home)) {}
+  bool Find(int folder_id, std::string& path) override;
+
+ private:
+  std::string home_;
+};
+
+// Reports "setting SECTION KEY VALUE" for every value that was stored.
+class RecordingSettings final : public Settings {
+ public:
+  RecordingSettings(Settings& inner, Transcript& transcript) : inner_(inner), transcript_(transcript) {}
+  std::string Read(std::string_view section, std::string_view key, std::string_view fallback) override;
+  bool Write(std::string_view section, std::string_view key, std::string_view value) override;
+
+ private:
+  Settings& inner_;
+  Transcript& transcript_;
+};
+
+// Reports "stock written" or "stock failed" when a stock file was to be written.
+class RecordingFiles final : public Files {
+ public:
+  RecordingFiles(Files& inner, Transcript& transcript) : inner_(inner), transcript_(transcript) {}
+  bool Exists(std::string_view path) override { return inner_.Exists(path); }
+  std::optional<std::uint64_t> Length(std::string_view path) override { return inner_.Length(path); }
+  FileResult Read(std::string_view path, std::size_t max_bytes, Bytes& bytes) override {
+    return inner_.Read(path, max_bytes, bytes);
+  }
+  FileResult Replace(std::string_view path, std::span<const std::uint8_t> bytes) override;
+  FileResult Update(std::string_view path, std::size_t max_bytes,
+                    const std::function<void(Bytes&)>& change) override;
+  FileResult Copy(std::string_view from, std::string_view to) override { return inner_.Copy(from, to); }
+  FileResult MakeFolder(std::string_view path) override { return inner_.MakeFolder(path); }
+  FileResult Remove(std::string_view path) override { return inner_.Remove(path); }
+
+ private:
+  FileResult Report(std::string_view path, FileResult result);
+
+  Files& inner_;
+  Transcript& transcript_;
+};
+
+// Reports "sound N"; N is the place of the sound among those that were asked for. A file that does not exist
+// cannot be loaded.
+class MemorySound final : public SoundDevice {
+ public:
+  MemorySound(bool available, Files& files, Transcript& transcript)
+      : available_(available), files_(files), transcript_(transcript) {}
+  bool Open() override { return available_; }
+  std::int32_t Load(std::string_view path) override;
+  void Play(std::int32_t id) override;
+
+ private:
+  bool available_;
+  Files& files_;
+  Transcript& transcript_;
+  std::int32_t loads_ = 0;
+};
+
+// Reports "browse PAGE".
+class MemoryHelp final : public HelpWindow {
+ public:
+  explicit MemoryHelp(Transcript& transcript) : transcript_(transcript) {}
+  void Navigate(std::string_view page) override;
+
+ private:
+  Transcript& transcript_;
+};
+
+// Reports "shell ADDRESS".
+class MemoryShell final : public Shell {
+ public:
+  // Without a browser no program is associated with HTML files; `starts` tells whether it can be started.
+  MemoryShell(bool has_browser, bool starts, Transcript& transcript)
+      : has_browser_(has_browser), starts_(starts), transcript_(transcript) {}
+  std::optional<std::string> FindExecutable(std::string_view path) override;
+  bool Open(std::string_view program, std::string_view address) override;
+
+ private:
+  bool has_browser_;
+  bool starts_;
+  Transcript& transcript_;
+};
+
+}  // namespace kestrel

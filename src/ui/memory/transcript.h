@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// Where the in-memory front end reports what the game does, line by line, and how values are written there.
+// Used by the recording ports and the script front end.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kestrel {
+
+class Transcript {
+ public:
+  Transcript() = default;
+  Transcript(const Transcript&) = delete;
+  Transcript& operator=(const Transcript&) = delete;
+  virtual ~Transcript() = default;
+  virtual void Line(std::string_view line) = 0;
+};
+
+// The text as a JSON string, quotes included. UTF-8 stays as it is.
+std::string JsonString(std::string_view text);
+
+// "true" or "false".
+std::string TruthValue(bool value);
+
+// A number of points: no decimals when it is whole.
+std::string Points(double points);
+
+}  // namespace kestrel

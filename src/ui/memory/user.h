@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// What a user can do to the controls, with the rules of a real window: what is disabled, hidden or behind a
+// modal dialog gets nothing. Used by the script front end and by tests.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "ui/memory/memory_desk.h"
+#include "ui/ports/ports.h"
+
+namespace kestrel {
+
+enum class Reach : std::uint8_t {
+  Done,      // the control got it
+  Modal,     // the control lies behind a box or a modal dialog
+  Hidden,    // it is hidden, or its window is not on the screen
+  Disabled,  // it is disabled
+  NoSuch     // there is no control of that name that could take it, or no such line or value
+};
+
+class User {
+ public:
+  // Both must outlive this object.
+  User(GameLoop& game, MemoryDesk& desk) : game_(game), desk_(desk) {}
+
+  // `name` is a control's full name: "CommandNew", "OptionType(3)".
+  Reach Press(std::string_view name);
+  Reach Release(std::string_view name, MouseButton button, int x, int y);
+  // A line of a list or combo, -1 for none, or a value of a slider.
+  Reach Select(std::string_view name, int index);
+  Reach DoubleClick(std::string_view name, int index);
+  // Types after the present text; what the box does not take is dropped.
+  Reach Type(std::string_view name, std::string_view text);
+  Reach Clear(std::string_view name);
+  Reach PressKey(std::string_view name, Key key);
+  Reach Leave(std::string_view name);
+
+  // The main window's state; nothing happens when it has that state.
+  Reach SetWindowState(WindowState state);
+  // The close button of the main window, or of the dialog or else the help window that is open.
+  Reach CloseMain();
+  Reach CloseDialog();
+
+  // Lets Timer1 fire, if it is enabled.
+  void Tick();
+
+ private:
+  template <class Action>
+  Reach Find(std::string_view name, Action action);
+  [[nodiscard]] Reach Check(FormId form, const Control& control) const;
+  void Send(FormId form, ControlId control, EventKind kind, Key key = Key::None);
+
+  GameLoop& game_;
+  MemoryDesk& desk_;
+};
+
+}  // namespace kestrel
