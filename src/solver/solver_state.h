@@ -90,11 +90,18 @@ class SolverState {
   void PlaceValue(int digit, int cell);
   // Removes the digit (1..9) from the cell's candidates. False, and nothing changed, if it was not one.
   bool RemoveCandidate(int digit, int cell);
+  // RemoveCandidate for every cell of the set. True if any cell had the digit.
+  bool RemoveFrom(CellSet cells, int digit);
   // Removes the digit from every cell other than a and b that sees both. True if any cell had it.
   bool EliminateSeenByBoth(int a, int b, int digit);
 
-  // Cells with exactly `count` candidates, 1..3.
-  [[nodiscard]] CellSet CellsWithCandidates(int count) const;
+  // The cells with exactly one, two and three candidates.
+  struct CellsBySize {
+    CellSet one;
+    CellSet two;
+    CellSet three;
+  };
+  [[nodiscard]] CellsBySize CellsByCandidates() const;
 
   // What a search has still to look at: at first everything, afterwards what has changed since the search
   // cleared the unit's or digit's bit because it had found nothing there. A search that skips the other

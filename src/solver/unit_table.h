@@ -30,6 +30,11 @@ constexpr PositionMask PositionBit(int position) {
   return static_cast<PositionMask>(1U << static_cast<unsigned>(position));
 }
 
+// A set of digits or positions less those of another.
+constexpr std::uint16_t Without(std::uint16_t set, unsigned gone) {
+  return static_cast<std::uint16_t>(set & ~gone);
+}
+
 struct UnitTables {
   std::array<std::array<std::uint8_t, kUnitSize>, kUnits> cell{};  // [unit][position]
   std::array<std::array<std::uint8_t, 3>, kCells> unit{};          // [cell] -> its row, column, box unit

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+// Two-String Kite and Skyscraper: two lines that each have a digit in exactly two cells, joined at one end.
+//
+//    2-String Kite                           Skyscraper
+//    row r     X . . . | a .                 row i    . E . . . L .
+//                      |. b                  row j    . . E . . L .     L in one column
+//    column c            .                   the digit is in one of the ends E, and goes from
+//              x         Y                   the cells that see both
+//    a, b in one box; the digit is in
+//    X or Y and goes from x, which sees both
+#include <array>
+#include <bit>
+
+#include "solver/describe.h"
+#include "solver/techniques.h"
+
+namespace kestrel {
+namespace {
+
+using Pair = std::array<int, 2>;  // two cells, in the order of their line
+
+// The lines first_line .. first_line + 8 in which the digit has exactly two places.
+struct Pairs {
+  unsigned lines = 0;
+  std::array<Pair, 9> cells{};
+
+  Pairs(const SolverState& state, int digit, int first_line) {
+    for (unsigned i = 0; i < 9; ++i) {
+      const auto unit = static_cast<std::size_t>(first_line) + i;
+      const unsigned places = state.Places(digit, static_cast<int>(unit));
+      if (BitCount[places] != 2) continue;
+      lines |= 1U << i;
+      cells[i] = {kUnitTables.cell[unit][std::countr_zero(places)],
+                  kUnitTables.cell[unit][std::countr_zero(places & (places - 1))]};
+    }
+  }
+
+  // Leaves out the lines whose two cells lie in one box.
+  void KeepSpread() {
+    for (unsigned rest = lines; rest != 0; rest &= rest - 1) {
+      const Pair& pair = cells[std::countr_zero(rest)];
+      if (CellBox[pair[0]] == CellBox[pair[1]]) lines &= ~(rest & (~rest + 1));
+    }
+  }
+};
+
+// The link comes first in each pair, the end last.
+void Describe(Finding& finding, int digit, const Pair& first, const Pair& second) {
+  finding.digits = DigitBit(digit);
+  AddCell(finding, first[1], DigitBit(digit));
+  AddCell(finding, first[0], DigitBit(digit), Role::Link);
+  AddCell(finding, second[0], DigitBit(digit), Role::Link);
+  AddCell(finding, second[1], DigitBit(digit));
+}
+
+// The first of the four ways in which a row pair and a column pair meet in a box, links first; false if none.
+bool JoinInBox(Pair& row, Pair& column) {
+  for (const int i : {0, 1}) {
+    for (const int j : {0, 1}) {
+      if (row[i] == column[j] || CellBox[row[i]] != CellBox[column[j]]) continue;
+      row = {row[i], row[1 - i]};
+      column = {column[j], column[1 - j]};
+      return true;
+    }
+  }
+  return false;
+}
+
+bool FindKiteOf(SolverState& state, const SolverInput& input, int digit) {
+  Pairs rows(state, digit, 0);
+  rows.KeepSpread();
+  if (rows.lines == 0) return false;
+  Pairs columns(state, digit, kFirstColumn);
+  columns.KeepSpread();
+  for (; rows.lines != 0; rows.lines &= rows.lines - 1) {
+    const int r = std::countr_zero(rows.lines);
+    for (unsigned rest = columns.lines; rest != 0; rest &= rest - 1) {
+      const int c = std::countr_zero(rest);
+      Pair row = rows.cells[r];
+      Pair column = columns.cells[c];
+      if (!JoinInBox(row, column) || !state.EliminateSeenByBoth(row[1], column[1], digit)) continue;
+      if (input.finding != nullptr) {
+        Describe(*input.finding, digit, row, column);
+        input.finding->units = {NamedUnit(r), NamedUnit(kFirstColumn + c)};
+        input.finding->covers = {NamedUnit(kFirstBox + CellBox[row[0]])};
+      }
+      return true;
+    }
+  }
+  return false;
+}
+
+// Tries the four ways in which two parallel pairs can be joined by a line across them. `crossing` tells the
+// line across of a cell.
+bool TrySkyscraper(SolverState& state, const SolverInput& input, int digit, const Pair& a, const Pair& b,
+                   int across) {
+  const auto crossing = [across](int cell) { return kUnitTables.unit[cell][across]; };
+  for (const int i : {0, 1}) {
+    for (const int j : {0, 1}) {
+      const int end_a = a[1 - i];
+      const int end_b = b[1 - j];
+      if (crossing(a[i]) != crossing(b[j]) || crossing(end_a) == crossing(end_b)) continue;
+      if (!state.EliminateSeenByBoth(end_a, end_b, digit)) continue;
+      if (input.finding != nullptr) {
+        Describe(*input.finding, digit, {a[i], end_a}, {b[j], end_b});
+        const int along = 1 - across;
+        input.finding->units = {NamedUnit(kUnitTables.unit[end_a][along]),
+                                NamedUnit(kUnitTables.unit[end_b][along])};
+        input.finding->covers = {NamedUnit(crossing(a[i]))};
+        input.finding->form = across == 1 ? 1 : 2;
+      }
+      return true;
+    }
+  }
+  return false;
+}
+
+bool FindSkyscraperOf(SolverState& state, const SolverInput& input, int digit) {
+  const Pairs rows(state, digit, 0);
+  const Pairs columns(state, digit, kFirstColumn);
+  // For every i < j the rows first, then the columns.
+  for (int i = 0; i < 8; ++i) {
+    for (int j = i + 1; j < 9; ++j) {
+      const unsigned both = 1U << static_cast<unsigned>(i) | 1U << static_cast<unsigned>(j);
+      if ((rows.lines & both) == both &&
+          TrySkyscraper(state, input, digit, rows.cells[i], rows.cells[j], 1)) {
+        return true;
+      }
+      if ((columns.lines & both) == both &&
+          TrySkyscraper(state, input, digit, columns.cells[i], columns.cells[j], 0)) {
+        return true;
+      }
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+bool FindTwoStringKite(SolverState& state, const SolverInput& input) {
+  CandidateMask& to_scan = state.DigitsToScan(DigitScan::TwoStringKite);
+  for (; to_scan != 0; to_scan &= to_scan - 1) {
+    if (FindKiteOf(state, input, LowestDigit(to_scan))) return true;
+  }
+  return false;
+}
+
+bool FindSkyscraper(SolverState& state, const SolverInput& input) {
+  CandidateMask& to_scan = state.DigitsToScan(DigitScan::Skyscraper);
+  for (; to_scan != 0; to_scan &= to_scan - 1) {
+    if (FindSkyscraperOf(state, input, LowestDigit(to_scan))) return true;
+  }
+  return false;
+}
+
+}  // namespace kestrel
