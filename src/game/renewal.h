@@ -7,7 +7,8 @@
 #include <optional>
 
 #include "game/session.h"
-#include "generator/generator.h"
+#include "generator/plain_generator.h"
+#include "solver/solver.h"
 
 namespace kestrel {
 
@@ -20,11 +21,11 @@ class Renewal {
   // played cannot be renewed.
   void Click(int level);
 
-  // Makes and rates one puzzle; kept for File when it has the level that is wanted.
+  // Makes and rates one puzzle, and keeps it for File when it has the level that is being renewed.
   void MakePuzzle();
 
   // Forgets the puzzle that MakePuzzle has kept.
-  void ForgetPuzzle() { made_.reset(); }
+  void ForgetPuzzle() { rating_.reset(); }
 
   // Files the kept puzzle, if there is one. After the hundredth the stock is written.
   void File();
@@ -33,9 +34,11 @@ class Renewal {
   void Acknowledge();
 
  private:
+  void EnableLabels(bool enabled);
+
   Session& session_;
-  Generator generator_;
-  std::optional<RatedPuzzle> made_;
+  PlainGenerator generator_;
+  std::optional<Rating> rating_;  // of the generator's puzzle, when it is to be filed
 };
 
 }  // namespace kestrel
