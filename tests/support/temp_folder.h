@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -38,7 +39,9 @@ class TempFolder {
   }
   std::string Get(std::string_view name) const {
     std::ifstream file(Path(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
   }
   // How many entries it has, hidden ones included.
   std::ptrdiff_t Count() const {

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+// The record's bytes, and the stock file: whole, short, long, missing, broken off, and full of nonsense.
+#include <gtest/gtest.h>
+
+#include "core/host_files.h"
+#include "core/random_source.h"
+#include "core/stock_file.h"
+#include "support/faulty_calls.h"
+#include "support/temp_folder.h"
+
+namespace kestrel {
+namespace {
+
+std::string RandomText(std::size_t size) {
+  RandomSource random(3);
+  std::string text(size, '\0');
+  for (char& c : text) c = static_cast<char>(random.Below(256));
+  return text;
+}
+
+class StockTest : public testing::Test {
+ protected:
+  FileResult Read() { return ReadStock(files_, folder_.Written(), *table_, status_); }
+  FileResult Write() { return WriteStock(files_, folder_.Written(), *table_); }
+
+  TempFolder folder_;
+  FaultyCalls calls_;
+  HostFiles files_{calls_};
+  std::unique_ptr<StockTable> table_ = std::make_unique<StockTable>();
+  std::int16_t status_ = kStockNotRead;
+};
+
+TEST(SudokuRecord, FieldsStandAtTheirOffsets) {
+  SudokuRecord record{0x0102, -2, 0x0304, {}, {}, 300, -1, 5, {}, 70000};
+  record.GivenCells.front() = 9;
+  record.GivenCells.back() = 255;
+  record.SolutionCells.front() = 7;
+  record.SolutionCells.back() = 8;
+  record.TechniqueCount.front() = -32768;
+  record.TechniqueCount.back() = 513;
+  std::array<std::uint8_t, kRecordBytes> bytes{}, expected{};
+  bytes.fill(0xAA);
+  EncodeRecord(record, bytes);
+  const auto put = [&expected](std::size_t offset, std::initializer_list<std::uint8_t> values) {
+    std::ranges::copy(values, expected.begin() + static_cast<std::ptrdiff_t>(offset));
+  };
+  put(0, {0x02, 0x01, 0xFE, 0xFF, 0x04, 0x03, 9});
+  put(86, {255, 7});
+  put(167, {8, 0x2C, 0x01, 0xFF, 0xFF, 5, 0, 0x00, 0x80});
+  put(216, {0x01, 0x02, 0x70, 0x11, 0x01, 0x00});
+  EXPECT_EQ(bytes, expected);
+  EXPECT_EQ(DecodeRecord(bytes), record);
+  record.Score = -2;
+  EncodeRecord(record, bytes);
+  EXPECT_TRUE(bytes[218] == 0xFE && bytes[219] == 0xFF && bytes[221] == 0xFF);
+  EXPECT_EQ(DecodeRecord(bytes), record);
+}
+
+TEST_F(StockTest, ReadingAndWritingBackKeepsEveryByte) {
+  for (const std::size_t size : {std::size_t{111000}, std::size_t{111123}}) {
+    const std::string text = RandomText(size);
+    folder_.Put("sudstock.kpz", text);
+    ASSERT_TRUE(Read());
+    EXPECT_EQ(status_, 62);
+    ASSERT_TRUE(Write());
+    EXPECT_EQ(folder_.Get("sudstock.kpz"), text);
+    // A change lands in its own record and nowhere else.
+    for (const auto& [level, number, offset] : {std::array{1, 1, 0}, {2, 1, 22200}, {5, 100, 110778}}) {
+      const std::int16_t old = std::exchange((*table_)(level, number).Reserved2, std::int16_t{0x1234});
+      ASSERT_TRUE(Write());
+      std::string changed = text;
+      EXPECT_EQ(folder_.Get("sudstock.kpz"),
+                changed.replace(static_cast<std::size_t>(offset) + 4, 2, "\x34\x12"));
+      (*table_)(level, number).Reserved2 = old;
+    }
+  }
+  std::filesystem::resize_file(folder_.Path("sudstock.kpz"), 40U << 20U);  // too long to be carried over
+  ASSERT_TRUE(Read());
+  EXPECT_FALSE(Write());
+  EXPECT_EQ(std::filesystem::file_size(folder_.Path("sudstock.kpz")), 40U << 20U);
+}
+
+TEST_F(StockTest, WhatAShortFileLacksIsZero) {
+  const std::string text = RandomText(kStockBytes);
+  for (const std::size_t size : {0, 1, 221, 222, 223, 22300, 65536, 110999}) {
+    folder_.Put("sudstock.kpz", std::string_view(text).substr(0, size));
+    status_ = kStockNotRead;
+    (*table_)(5, 100).Score = 1;
+    ASSERT_TRUE(Read());
+    EXPECT_EQ(status_, kStockComplete);
+    ASSERT_TRUE(Write());
+    EXPECT_EQ(folder_.Get("sudstock.kpz"), text.substr(0, size) + std::string(kStockBytes - size, '\0'));
+  }
+}
+
+TEST_F(StockTest, AFailedReadKeepsStatusAndWhatCameBefore) {
+  for (int level = 1; level <= 5; ++level) {
+    for (int number = 1; number <= 100; ++number) (*table_)(level, number).Score = 1000 * level + number;
+  }
+  EXPECT_FALSE(Read());  // no file
+  ASSERT_TRUE(Write());
+  EXPECT_EQ((*table_)(1, 1).Score, 1001);
+  *table_ = StockTable();
+  (*table_)(5, 100).Score = -7;
+  calls_.FailAt(4);  // open, status, the first read, and then the second one
+  EXPECT_FALSE(Read());
+  EXPECT_EQ(status_, kStockNotRead);
+  EXPECT_EQ((*table_)(3, 95).Score, 3095);  // record 295, the last one within 65,536 bytes
+  EXPECT_EQ((*table_)(3, 96).Score, 0);
+  EXPECT_EQ((*table_)(5, 100).Score, -7);
+  std::filesystem::remove(folder_.Path("sudstock.kpz"));
+  std::filesystem::create_directory(folder_.Path("sudstock.kpz"));
+  EXPECT_FALSE(Read());
+  EXPECT_FALSE(Write());
+}
+
+TEST_F(StockTest, TheProgramsCopyIsTakenOnlyWhenThereIsNone) {
+  TempFolder program;
+  CopyStockIfMissing(files_, program.Written(), folder_.Written());
+  EXPECT_EQ(folder_.Count(), 0);
+  for (const char* content : {"shipped", "newer"}) {
+    program.Put("sudstock.kpz", content);
+    CopyStockIfMissing(files_, program.Written(), folder_.Written());
+    EXPECT_EQ(folder_.Get("sudstock.kpz"), "shipped");
+  }
+}
+
+TEST(SudokuRecord, NonsenseIsFoundAndLeadsNowhere) {
+  SudokuRecord sound;
+  sound.Level = 3;
+  for (int cell = 0; cell < kCells; ++cell) {
+    const int digit = (3 * CellRow[cell] + CellRow[cell] / 3 + CellCol[cell]) % 9 + 1;
+    sound.SolutionCells[cell] = static_cast<std::uint8_t>(digit);
+    if (cell % 4 == 0) sound.GivenCells[cell] = sound.SolutionCells[cell];
+  }
+  EXPECT_EQ(CheckRecord(sound, 3), "");
+  EXPECT_NE(CheckRecord(sound, 2), "");
+  // Every byte with its top bit turned over makes nonsense, but for the reserved ones and low bytes of
+  // numbers.
+  std::array<std::uint8_t, kRecordBytes> bytes{};
+  EncodeRecord(sound, bytes);
+  for (std::size_t i = 0; i < kRecordBytes; ++i) {
+    const bool harmless = i < 6 ? i > 1 : i >= 168 && (i >= 218 ? i != 221 : i % 2 == 0 && i != 170);
+    bytes[i] ^= 0x80U;
+    EXPECT_EQ(CheckRecord(DecodeRecord(bytes), 3).empty(), harmless) << i;
+    bytes[i] ^= 0x80U;
+  }
+  sound.GivenCells[4] = sound.GivenCells[8];
+  EXPECT_NE(CheckRecord(sound, 3), "");
+  DigitGrid grid{};
+  for (int cell = 0; cell < kCells; ++cell) grid[cell] = static_cast<std::uint8_t>(cell * 3);
+  const DigitGrid safe = SafeDigits(grid);
+  for (int cell = 0; cell < kCells; ++cell) EXPECT_EQ(safe[cell], cell <= 3 ? cell * 3 : 0);
+}
+
+TEST(StockTableDeathTest, AnIndexOutsideEndsTheProgram) {
+  const auto table = std::make_unique<StockTable>();
+  for (const auto& [level, number] : {std::pair{0, 1}, {6, 1}, {1, 0}, {1, 101}, {-32768, 32767}}) {
+    EXPECT_DEATH((void)(*table)(level, number), "check");
+  }
+}
+
+}  // namespace
+}  // namespace kestrel
