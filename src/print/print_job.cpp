@@ -8,15 +8,9 @@
 
 namespace kestrel {
 
-std::string CheckPrintSettings(const PrintSettings& settings) {
-  const int per_page = settings.per_page;
-  if (settings.level_index < 0 || settings.level_index >= kLevels) return std::string(texts::kBadLevel);
-  if (per_page != 1 && per_page != 2 && per_page != 4) return std::string(texts::kBadPerPage);
-  if (settings.pages < 1 || settings.pages > kMostPages) return std::string(texts::kBadPages);
-  if (settings.first_number < 1 || settings.first_number > HighestFirstNumber(settings)) {
-    return texts::BadRange(settings);
-  }
-  return {};
+std::string CheckPrintRange(const PrintSettings& settings) {
+  const bool in_range = settings.first_number >= 1 && settings.first_number <= HighestFirstNumber(settings);
+  return in_range ? std::string() : texts::BadRange(settings);
 }
 
 Bytes PrintJob(const StockTable& stock, const PrintSettings& settings) {

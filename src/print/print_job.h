@@ -10,8 +10,8 @@
 
 namespace kestrel {
 
-// What is wrong with the settings, in words; empty when they can be printed.
-std::string CheckPrintSettings(const PrintSettings& settings);
+// What is wrong with the range of puzzles, in words; empty when the level has them all.
+std::string CheckPrintRange(const PrintSettings& settings);
 
 // The pages as a PDF file. The same stock and settings, which must be in range, give the same bytes.
 Bytes PrintJob(const StockTable& stock, const PrintSettings& settings);

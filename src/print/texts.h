@@ -19,10 +19,7 @@ inline constexpr std::string_view kPrinterError =
     "availability and status of your printer.";
 inline constexpr std::string_view kPrinterErrorTitle = "Printer error";
 
-// What is wrong with choices that did not come from the dialog.
-inline constexpr std::string_view kBadLevel = "a level is a number from 1 to 5";
-inline constexpr std::string_view kBadPerPage = "a page has 1, 2 or 4 puzzles";
-inline constexpr std::string_view kBadPages = "the number of pages is from 1 to 10";
+// Why puzzles cannot be printed whose range did not come from the dialog.
 std::string BadRange(const PrintSettings& settings);
 
 }  // namespace kestrel::texts
