@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt/mirror.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPushButton>
+#include <algorithm>
+#include <map>
+
+#include "ui/qt/board_widget.h"
+#include "ui/qt/form_window.h"
+#include "ui/qt/help_view.h"
+#include "ui/qt/mirrored.h"
+#include "ui/qt/palette.h"
+#include "ui/qt/small_widgets.h"
+#include "ui/qt/texts.h"
+#include "ui/qt/widget_factory.h"
+
+namespace kestrel {
+
+namespace {
+
+// Controls that the board paints.
+bool OnBoard(ControlId id) {
+  return id.name == "Grid" || id.name.starts_with("Mark") || id.name == "LabelRow" ||
+         id.name == "LabelColumn";
+}
+
+int Logical(int twips) {
+  return twips / kTwipsPerPixel;
+}
+
+// A frame round the technique list, in its own pixels outside the labels.
+void PaintListFrame(QPainter& painter, const MainWindow& main) {
+  UseDevicePixels(painter);
+  const PixelGrid grid(painter.device()->devicePixelRatioF());
+  const Label& first = main.LabelCount(0);
+  const Label& last = main.LabelCount(2 * kTechniqueRows - 1);
+  const QRect list = grid.Rect(first.left, first.top, last.left + last.width - first.left,
+                               last.top + last.height - first.top);
+  const int line = grid.Pixels(1);
+  painter.fillRect(list.adjusted(-line, -line, line, line), QColor(colours::kThinLine));
+}
+
+}  // namespace
+
+struct Mirror::View {
+  FormId form;
+  std::unique_ptr<FormWindow> window;
+  Window* control = nullptr;
+  Window shown;
+  std::vector<MirroredPtr> controls;
+  std::map<int, QWidget*> tab_order;
+};
+
+Mirror::Mirror(Forms& forms, EventSink& sink, Surroundings surroundings)
+    : forms_(forms), sink_(sink), surroundings_(std::move(surroundings)) {
+}
+
+Mirror::~Mirror() {
+  // Dialogs are children of the main window: they go first.
+  for (auto view = views_.rbegin(); view != views_.rend(); ++view) view->reset();
+}
+
+// ---- building ----
+
+template <class C>
+void Mirror::Add(View& view, ControlId id, C& control) {
+  if constexpr (!std::is_same_v<C, Window>) {
+    if (OnBoard(id)) return;
+    const WidgetContext context{view.form, sink_, *view.window,
+                                [&view](ControlId chosen) {
+                                  for (const MirroredPtr& other : view.controls) {
+                                    const ControlId each = other->Id();
+                                    if (each.name == chosen.name && each.index != chosen.index) {
+                                      other->Unchoose();
+                                    }
+                                  }
+                                },
+                                surroundings_.picture_folder};
+    view.controls.push_back(MakeMirrored(context, ParentFor(view, id), id, control));
+    QWidget* widget = view.controls.back()->Widget();
+    if (widget != nullptr && control.tab_index >= 0) view.tab_order[control.tab_index] = widget;
+  }
+}
+
+// The levels' progress bars stand on the start-up panel and go with it.
+QWidget* Mirror::ParentFor(View& view, ControlId id) {
+  if (id.name != "ProgressBar1") return view.window.get();
+  for (const MirroredPtr& other : view.controls) {
+    if (other->Id().name == "Picture3") return other->Widget();
+  }
+  return view.window.get();
+}
+
+template <class Form>
+void Mirror::BuildForm(View& view, Form& form) {
+  view.control = &form.window;
+  view.shown = form.window;
+  FormWindow* main = ExistingWindow(FormId::Main);
+  view.window = std::make_unique<FormWindow>(view.form, form.window.modal,
+                                             form.window.modal ? static_cast<QWidget*>(main) : nullptr);
+  view.window->setWindowTitle(ToQString(form.window.caption));
+  const QSize size(Logical(form.window.width), Logical(form.window.height));
+  if (view.form == FormId::Browser) {
+    view.window->resize(size);
+  } else {
+    view.window->setFixedSize(size);
+  }
+  // A panel must be there before what stands on it.
+  EachControl(form, [&](ControlId id, auto& control) {
+    if (id.name != "ProgressBar1") Add(view, id, control);
+  });
+  EachControl(form, [&](ControlId id, auto& control) {
+    if (id.name == "ProgressBar1") Add(view, id, control);
+  });
+  ConnectWindow(view, form.window);
+  SetTabOrder(view);
+}
+
+void Mirror::BuildMain(View& view) {
+  BuildForm(view, forms_.main);
+  board_ = new BoardWidget(forms_.main, sink_, surroundings_.marks_are_candidates, view.window.get());
+  board_->lower();
+  view.window->on_paint = [this](QPainter& painter) { PaintListFrame(painter, forms_.main); };
+  for (int i = 0; i < 2 * kTechniqueRows; ++i) {
+    list_[static_cast<std::size_t>(i)] = dynamic_cast<TextLabel*>(WidgetOf(FormId::Main, {"LabelCount", i}));
+  }
+  SyncList();
+}
+
+void Mirror::BuildBrowser(View& view) {
+  BuildForm(view, forms_.browser);
+  help_ = dynamic_cast<HelpView*>(WidgetOf(FormId::Browser, {"WebBrowser1"}));
+  help_->SetFolder(surroundings_.help_folder);
+  AddHelpBar(*view.window, *help_);
+}
+
+void Mirror::ConnectWindow(View& view, Window& window) {
+  FormWindow* widget = view.window.get();
+  const FormId form = view.form;
+  widget->on_close = [this, form] {
+    Event event;
+    event.form = form;
+    event.kind = EventKind::Close;
+    sink_.Send(event);
+  };
+  widget->on_state = [this, form, &view, &window](WindowState state) {
+    if (!view.window->isVisible() || state == window.state) return;
+    window.state = view.shown.state = state;
+    if (form != FormId::Main) return;
+    Event event;
+    event.control = {"MainWindow"};
+    event.kind = EventKind::Resize;
+    sink_.Send(event);
+  };
+  widget->on_place = [this, &view, &window] {
+    if (!view.window->isVisible() || view.window->isMinimized()) return;
+    window.left = view.shown.left = view.window->x() * kTwipsPerPixel;
+    window.top = view.shown.top = view.window->y() * kTwipsPerPixel;
+    if (view.form == FormId::Browser) FitHelpView(view);
+  };
+}
+
+// The help window's own rule: the view is smaller than the window by a fixed margin.
+void Mirror::FitHelpView(View& view) {
+  Window& window = forms_.browser.window;
+  window.width = view.shown.width = view.window->width() * kTwipsPerPixel;
+  window.height = view.shown.height = view.window->height() * kTwipsPerPixel;
+  forms_.browser.WebBrowser1.width = window.width - kBrowserMarginX;
+  forms_.browser.WebBrowser1.height = window.height - kBrowserMarginY;
+  for (const MirroredPtr& control : view.controls) control->Sync();
+}
+
+void Mirror::SetTabOrder(View& view) {
+  QWidget* last = nullptr;
+  for (const auto& [index, widget] : view.tab_order) {
+    if (last != nullptr) QWidget::setTabOrder(last, widget);
+    last = widget;
+  }
+}
+
+// ---- showing ----
+
+void Mirror::Sync() {
+  if (board_ != nullptr) board_->Sync();
+  for (const std::unique_ptr<View>& view : views_) {
+    if (!view) continue;
+    for (const MirroredPtr& control : view->controls) control->Sync();
+    SyncWindow(*view);
+  }
+  if (board_ != nullptr) SyncList();
+}
+
+void Mirror::SyncWindow(View& view) {
+  const Window& now = *view.control;
+  if (now == view.shown) return;
+  const Window before = std::exchange(view.shown, now);
+  if (now.caption != before.caption) view.window->setWindowTitle(ToQString(now.caption));
+  if (now.left != before.left || now.top != before.top) {
+    view.window->move(Logical(now.left), Logical(now.top));
+  }
+}
+
+// The technique list as a whole: a hairline where the tier changes, and counts that are read with their
+// names.
+void Mirror::SyncList() {
+  for (int slot = 0; slot < kTechniqueRows; ++slot) {
+    const Label& name = forms_.main.LabelCount(slot);
+    const Label& count = forms_.main.LabelCount(kTechniqueRows + slot);
+    const bool rule = slot > 0 && name.back != forms_.main.LabelCount(slot - 1).back;
+    list_[static_cast<std::size_t>(slot)]->SetRule(rule);
+    TextLabel* number = list_[static_cast<std::size_t>(kTechniqueRows + slot)];
+    number->SetRule(rule);
+    const QString spoken = ToQString(name.caption) + QStringLiteral(": ") + ToQString(count.caption);
+    if (number->accessibleName() != spoken) number->setAccessibleName(spoken);
+  }
+}
+
+// ---- finding ----
+
+Mirror::View& Mirror::ViewOf(FormId form) {
+  std::unique_ptr<View>& view = views_[static_cast<std::size_t>(form)];
+  if (view) return *view;
+  view = std::make_unique<View>();
+  view->form = form;
+  switch (form) {
+    case FormId::Main:
+      BuildMain(*view);
+      break;
+    case FormId::Names:
+      BuildForm(*view, forms_.names);
+      break;
+    case FormId::Print:
+      BuildForm(*view, forms_.print);
+      break;
+    case FormId::Browser:
+      BuildBrowser(*view);
+      break;
+  }
+  return *view;
+}
+
+FormWindow& Mirror::WindowOf(FormId form) {
+  return *ViewOf(form).window;
+}
+
+FormWindow* Mirror::ExistingWindow(FormId form) const {
+  const std::unique_ptr<View>& view = views_[static_cast<std::size_t>(form)];
+  return view ? view->window.get() : nullptr;
+}
+
+QWidget* Mirror::WidgetOf(FormId form, ControlId control) {
+  for (const MirroredPtr& each : ViewOf(form).controls) {
+    if (each->Id() == control) return each->Widget();
+  }
+  return nullptr;
+}
+
+QWidget* Mirror::TopWindow() const {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  return ExistingWindow(FormId::Main);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// The forms on the screen: windows and widgets made from the controls' one list per form, kept like them by
+// Sync(), and the user's doings told to the event sink. Used by the front end.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "ui/controls/forms.h"
+#include "ui/qt/event_sink.h"
+
+class QWidget;
+
+namespace kestrel {
+
+inline constexpr int kTechniqueRows = 22;
+
+class BoardWidget;
+class FormWindow;
+class HelpView;
+class MirroredControl;
+class TextLabel;
+
+class Mirror {
+ public:
+  struct Surroundings {
+    std::function<bool()> marks_are_candidates;  // of the open puzzle
+    QString help_folder;                         // host path of the installed help pages
+    QString picture_folder;                      // host path of logo and icons
+  };
+
+  // Both must outlive the mirror. Windows are made when they are first needed.
+  Mirror(Forms& forms, EventSink& sink, Surroundings surroundings);
+  ~Mirror();
+  Mirror(const Mirror&) = delete;
+  Mirror& operator=(const Mirror&) = delete;
+
+  // Brings everything on the screen in line with the controls.
+  void Sync();
+
+  // The window of a form, made if need be.
+  FormWindow& WindowOf(FormId form);
+  // Null while the window was never needed.
+  [[nodiscard]] FormWindow* ExistingWindow(FormId form) const;
+  // The widget of a control; null for those that are painted as part of the board.
+  QWidget* WidgetOf(FormId form, ControlId control);
+  [[nodiscard]] BoardWidget* Board() const { return board_; }
+  [[nodiscard]] HelpView* Help() const { return help_; }
+
+  // The topmost window on screen, for boxes to stand over.
+  [[nodiscard]] QWidget* TopWindow() const;
+
+ private:
+  struct View;
+
+  View& ViewOf(FormId form);
+  void BuildMain(View& view);
+  template <class Form>
+  void BuildForm(View& view, Form& form);
+  template <class C>
+  void Add(View& view, ControlId id, C& control);
+  void ConnectWindow(View& view, Window& window);
+  void SetTabOrder(View& view);
+  void BuildBrowser(View& view);
+  void FitHelpView(View& view);
+  void SyncWindow(View& view);
+  void SyncList();
+  QWidget* ParentFor(View& view, ControlId id);
+
+  Forms& forms_;
+  EventSink& sink_;
+  Surroundings surroundings_;
+  std::array<std::unique_ptr<View>, 4> views_;
+  BoardWidget* board_ = nullptr;
+  HelpView* help_ = nullptr;
+  std::array<TextLabel*, 2 * kTechniqueRows> list_{};  // the technique list: names, then counts
+};
+
+}  // namespace kestrel

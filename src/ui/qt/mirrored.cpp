@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt/mirrored.h"
+
+#include "ui/qt/device_painter.h"
+
+namespace kestrel {
+
+namespace {
+
+bool SamePlace(const Control& one, const Control& other) {
+  return one.left == other.left && one.top == other.top && one.width == other.width &&
+         one.height == other.height;
+}
+
+}  // namespace
+
+void ShowCommon(QWidget& widget, const Control& now, const Control* before, const QString& caption) {
+  if (before == nullptr || !SamePlace(now, *before)) {
+    // Inside Picture3 places are still those of the window.
+    QRect place = PixelGrid(1).Place(now);
+    if (QWidget* parent = widget.parentWidget(); parent != nullptr && !parent->isWindow()) {
+      place.translate(-parent->pos());
+    }
+    widget.setGeometry(place);
+  }
+  if (before == nullptr || now.enabled != before->enabled) widget.setEnabled(now.enabled);
+  if (before == nullptr || now.tooltip != before->tooltip) {
+    widget.setToolTip(ToQString(now.tooltip));
+    widget.setAccessibleDescription(ToQString(now.tooltip));
+  }
+  const QString spoken = now.spoken.empty() ? caption : ToQString(now.spoken);
+  if (widget.accessibleName() != spoken) widget.setAccessibleName(spoken);
+  if (before == nullptr || now.visible != before->visible) widget.setVisible(now.visible);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt/small_widgets.h"
+
+#include <QAccessibleWidget>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "core/host_files.h"
+#include "ui/controls/texts.h"
+#include "ui/qt/device_painter.h"
+#include "ui/qt/fonts.h"
+#include "ui/qt/palette.h"
+#include "ui/qt/text_conversion.h"
+
+namespace kestrel {
+
+namespace {
+
+using namespace colours;
+
+constexpr int kPadding = 5;  // between a ground's edge and its text, pixels of 96 dpi
+
+bool OnlyDigitsAndColon(const QString& text) {
+  for (const QChar letter : text) {
+    if (!letter.isDigit() && letter != QLatin1Char(':')) return false;
+  }
+  return !text.isEmpty();
+}
+
+void PaintFocusRing(QPainter& painter, const PixelGrid& grid, const QRect& area) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double line = grid.Pixels(1);
+  painter.setPen(QPen(QColor(kAccent), line));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(area).adjusted(line / 2, line / 2, -line / 2, -line / 2), grid.Pixels(3),
+                          grid.Pixels(3));
+}
+
+// The picture in the size that fits the scale best.
+QPixmap LoadForRatio(const QString& path, double ratio) {
+  const int times = ratio > 2 ? 3 : ratio > 1 ? 2 : 1;
+  const QFileInfo file(path);
+  const QString name = QStringLiteral("%1/%2@%3x.%4")
+                           .arg(file.path(), file.completeBaseName(), QString::number(times), file.suffix());
+  QPixmap pixmap(times > 1 && QFileInfo::exists(name) ? name : path);
+  pixmap.setDevicePixelRatio(1);
+  return pixmap;
+}
+
+QAccessibleInterface* MakeLabelInterface(const QString& /*class_name*/, QObject* object) {
+  if (dynamic_cast<TextLabel*>(object) != nullptr || dynamic_cast<StatusLabel*>(object) != nullptr) {
+    return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::StaticText);
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void InstallLabelAccess() {
+  QAccessible::installFactory(MakeLabelInterface);
+}
+
+// ---- TextLabel ----
+
+void TextLabel::Show(const Label& label) {
+  label_ = label;
+  caption_ = ToQString(label.caption);
+  update();
+}
+
+void TextLabel::SetRule(bool on) {
+  if (rule_ == on) return;
+  rule_ = on;
+  update();
+}
+
+void TextLabel::paintEvent(QPaintEvent* /*event*/) {
+  DevicePainter surface(*this);
+  QPainter& painter = surface.Painter();
+  QRect area = surface.Area();
+  const bool ground = !label_.transparent && label_.back != kWindowColour;
+  if (ground) painter.fillRect(area, ToQColor(label_.back, kWindow));
+  if (rule_)
+    painter.fillRect(area.left(), area.top(), area.width(), surface.Grid().Pixels(1), QColor(kThinLine));
+  painter.setFont(ToQFont(label_.font, surface.Grid().Ratio()));
+  painter.setPen(label_.enabled ? ToQColor(label_.fore, kText) : QColor(kDisabledText));
+  const int padding = surface.Grid().Pixels(kPadding);
+  if (ground) area.adjust(padding, 0, -padding, 0);
+  const int line_height = painter.fontMetrics().height();
+  if (area.height() >= 2 * line_height && !OnlyDigitsAndColon(caption_)) {
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, caption_);
+    return;
+  }
+  PaintText(painter, area, label_.align, caption_,
+            OnlyDigitsAndColon(caption_) ? Digits::OneWidth : Digits::AsDesigned);
+}
+
+// ---- LinkLabel ----
+
+LinkLabel::LinkLabel(QWidget* parent) : QAbstractButton(parent) {
+  setFocusPolicy(Qt::TabFocus);
+}
+
+void LinkLabel::Show(const Label& label) {
+  label_ = label;
+  setText(ToQString(label.caption));
+  setCursor(label.enabled ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  update();
+}
+
+void LinkLabel::enterEvent(QEnterEvent* event) {
+  update();
+  QAbstractButton::enterEvent(event);
+}
+
+void LinkLabel::leaveEvent(QEvent* event) {
+  update();
+  QAbstractButton::leaveEvent(event);
+}
+
+void LinkLabel::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    click();
+    return;
+  }
+  QAbstractButton::keyPressEvent(event);
+}
+
+// A pointer to the right; the caption ">" alone would be easy to miss.
+void LinkLabel::PaintArrow(QPainter& painter, const QRect& place) const {
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(underMouse() ? QColor(kThickLine) : QColor(kAccent));
+  const double size = place.height() * 0.8;
+  const QPointF tip(place.right() - size * 0.1, place.top() + place.height() / 2.0);
+  const double shaft = size * 0.16;
+  painter.drawPolygon(
+      QPolygonF({tip, tip + QPointF(-size * 0.55, -size * 0.5), tip + QPointF(-size * 0.55, -shaft),
+                 tip + QPointF(-size * 1.25, -shaft), tip + QPointF(-size * 1.25, shaft),
+                 tip + QPointF(-size * 0.55, shaft), tip + QPointF(-size * 0.55, size * 0.5)}));
+}
+
+void LinkLabel::paintEvent(QPaintEvent* /*event*/) {
+  DevicePainter surface(*this);
+  QPainter& painter = surface.Painter();
+  const QRect area = surface.Area();
+  if (hasFocus()) PaintFocusRing(painter, surface.Grid(), area);
+  if (text() == QLatin1String(">")) {
+    PaintArrow(painter, area);
+    return;
+  }
+  QFont font = ToQFont(label_.font, surface.Grid().Ratio());
+  font.setUnderline(isEnabled() && (underMouse() || hasFocus()));
+  painter.setFont(font);
+  painter.setPen(isEnabled() ? ToQColor(label_.fore, kLink) : QColor(kDisabledText));
+  const int inset = surface.Grid().Pixels(2);
+  PaintText(painter, area.adjusted(inset, 0, -inset, 0), label_.align, text());
+}
+
+// ---- PictureButton ----
+
+void PictureButton::Show(const Picture& picture) {
+  pixmap_ = QPixmap();
+  if (!picture.file.empty()) {
+    pixmap_.load(ToQString(ToHostPath(picture.file)));
+  } else if (!stand_in_.isEmpty()) {
+    pixmap_ = LoadForRatio(stand_in_, devicePixelRatioF());
+  }
+  const bool acts = picture.tab_index >= 0;
+  setFocusPolicy(acts ? Qt::TabFocus : Qt::NoFocus);
+  setCursor(acts ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  update();
+}
+
+void PictureButton::paintEvent(QPaintEvent* /*event*/) {
+  DevicePainter surface(*this);
+  QPainter& painter = surface.Painter();
+  const QRect area = surface.Area();
+  if (!pixmap_.isNull()) {
+    const QSize size = pixmap_.size().scaled(area.size(), Qt::KeepAspectRatio);
+    const QRect place(area.left() + (area.width() - size.width()) / 2,
+                      area.top() + (area.height() - size.height()) / 2, size.width(), size.height());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(place, pixmap_);
+  }
+  if (hasFocus()) PaintFocusRing(painter, surface.Grid(), area);
+}
+
+// ---- StartPanel ----
+
+void StartPanel::paintEvent(QPaintEvent* /*event*/) {
+  DevicePainter surface(*this);
+  QPainter& painter = surface.Painter();
+  const QRect area = surface.Area();
+  painter.fillRect(area, QColor(kPaper));
+  painter.setPen(QColor(kText));
+  painter.setFont(ToQFont(Font{"Arial", 30, true}, surface.Grid().Ratio()));
+  const QRect upper(area.left(), area.top(), area.width(), area.height() / 2);
+  PaintText(painter, upper, Align::Centre, ToQString(texts::kProductName));
+  painter.setFont(ToQFont(Font{}, surface.Grid().Ratio()));
+  for (const QObject* child : children()) {
+    const auto* bar = qobject_cast<const QWidget*>(child);
+    if (bar == nullptr) continue;
+    const PixelGrid& grid = surface.Grid();
+    const double twips = kTwipsPerPixel;
+    const QRect row =
+        grid.Rect(0, (bar->y() - 4) * twips, (bar->x() - 10) * twips, (bar->height() + 8) * twips);
+    PaintText(painter, row, Align::Right, bar->accessibleName());
+  }
+}
+
+// ---- SlimProgress ----
+
+SlimProgress::SlimProgress(QWidget* parent) : QProgressBar(parent) {
+  setFormat(QStringLiteral("%v of %m"));
+}
+
+void SlimProgress::paintEvent(QPaintEvent* /*event*/) {
+  DevicePainter surface(*this);
+  QPainter& painter = surface.Painter();
+  const QRect area = surface.Area();
+  const double radius = area.height() / 2.0;
+  const int range = std::max(1, maximum() - minimum());
+  const int filled = area.width() * (value() - minimum()) / range;
+  painter.setFont(ToQFont(Font{}, surface.Grid().Ratio()));
+  const bool tells = area.height() > painter.fontMetrics().height() - surface.Grid().Pixels(2);
+  const auto paint = [&](const QRect& part, QRgb ground, QRgb ink) {
+    painter.setClipRect(part);
+    PaintRounded(painter, area, radius, QColor(ground));
+    painter.setPen(QColor(ink));
+    if (tells) PaintText(painter, area, Align::Centre, text());
+  };
+  paint(QRect(area.left(), area.top(), filled, area.height()), kAccent, kAccentText);
+  paint(QRect(area.left() + filled, area.top(), area.width() - filled, area.height()), kTrack, kText);
+}
+
+// ---- StatusLabel ----
+
+void StatusLabel::Show(const StatusPanel& panel) {
+  caption_ = ToQString(panel.caption);
+  font_ = panel.font;
+  update();
+}
+
+void StatusLabel::paintEvent(QPaintEvent* /*event*/) {
+  DevicePainter surface(*this);
+  QPainter& painter = surface.Painter();
+  const QRect area = surface.Area();
+  const int line = surface.Grid().Pixels(1);
+  painter.fillRect(area.left(), area.top(), area.width(), line, QColor(kThinLine));
+  const int inset = surface.Grid().Pixels(5);
+  if (x() > 0) {
+    painter.fillRect(area.left(), area.top() + inset, line, area.height() - 2 * inset, QColor(kThinLine));
+  }
+  painter.setFont(ToQFont(font_, surface.Grid().Ratio()));
+  painter.setPen(QColor(kText));
+  const int padding = surface.Grid().Pixels(8);
+  PaintText(painter, area.adjusted(padding, line, -line, 0), Align::Left, caption_);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt/style.h"
+
+#include <QPainter>
+#include <QStyleOption>
+#include <cmath>
+
+#include "ui/qt/device_painter.h"
+#include "ui/qt/palette.h"
+
+namespace kestrel {
+
+namespace {
+
+using namespace colours;
+
+constexpr int kIndicator = 13;    // pixels of 96 dpi
+constexpr int kIndicatorGap = 6;  // to the text
+constexpr double kButtonRadius = 4;
+
+// A painter in device pixels for the duration of one drawing call.
+class DeviceScope {
+ public:
+  DeviceScope(QPainter& painter, const QWidget* widget)
+      : painter_(painter), grid_(painter.device() != nullptr ? painter.device()->devicePixelRatioF() : 1) {
+    painter_.save();
+    UseDevicePixels(painter_);
+    if (widget != nullptr) painter_.setFont(Scaled(widget->font()));
+  }
+  ~DeviceScope() { painter_.restore(); }
+  DeviceScope(const DeviceScope&) = delete;
+  DeviceScope& operator=(const DeviceScope&) = delete;
+
+  [[nodiscard]] const PixelGrid& Grid() const { return grid_; }
+  [[nodiscard]] QRect Map(const QRect& logical) const {
+    constexpr double kTwips = kTwipsPerPixel;
+    return grid_.Rect(logical.x() * kTwips, logical.y() * kTwips, logical.width() * kTwips,
+                      logical.height() * kTwips);
+  }
+
+ private:
+  [[nodiscard]] QFont Scaled(QFont font) const {
+    if (font.pixelSize() > 0) {
+      font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * grid_.Ratio())));
+    }
+    return font;
+  }
+
+  QPainter& painter_;
+  PixelGrid grid_;
+};
+
+bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
+  return (option.state & flag) != 0;
+}
+
+QColor TextColour(const QStyleOption& option) {
+  return Has(option, QStyle::State_Enabled) ? QColor(kText) : QColor(kDisabledText);
+}
+
+// The ring round what has the keyboard.
+void PaintFocus(QPainter& painter, const DeviceScope& scope, const QRect& place) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double line = scope.Grid().Pixels(1);
+  const double radius = scope.Grid().Pixels(3);
+  painter.setPen(QPen(QColor(kAccent), line));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
+}
+
+QColor ButtonFace(const QStyleOptionButton& option) {
+  const QColor face = option.palette.color(QPalette::Active, QPalette::Button);
+  const bool coloured = face != QColor(kButton);
+  if (!Has(option, QStyle::State_Enabled)) return coloured ? DisabledFace(face) : QColor(kDisabledButton);
+  if (Has(option, QStyle::State_Sunken)) return coloured ? face.darker(115) : QColor(kPressed);
+  if (Has(option, QStyle::State_MouseOver)) return coloured ? face.darker(106) : QColor(kHover);
+  return face;
+}
+
+void PaintButton(const QStyleOptionButton& option, QPainter& painter, const QWidget* widget) {
+  const DeviceScope scope(painter, widget);
+  const QRect place = scope.Map(option.rect);
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const bool is_default = (option.features & QStyleOptionButton::DefaultButton) != 0;
+  const QColor border = !enabled ? QColor(kDisabledBorder) : is_default ? QColor(kAccent) : QColor(kBorder);
+  const int line = scope.Grid().Pixels(is_default && enabled ? 2 : 1);
+  PaintRounded(painter, place, kButtonRadius * scope.Grid().Ratio(), ButtonFace(option), border, line);
+  if (Has(option, QStyle::State_HasFocus)) {
+    const int inset = scope.Grid().Pixels(is_default ? 3 : 2);
+    PaintFocus(painter, scope, place.adjusted(inset, inset, -inset, -inset));
+  }
+  painter.setPen(TextColour(option));
+  const int padding = scope.Grid().Pixels(2);
+  PaintText(painter, place.adjusted(padding, 0, -padding, 0), Align::Centre, option.text, Digits::AsDesigned,
+            true);
+}
+
+void PaintIndicator(const QStyleOption& option, QPainter& painter, const DeviceScope& scope, bool round) {
+  const QRect row = scope.Map(option.rect);
+  const int size = scope.Grid().Pixels(kIndicator);
+  const QRect place(row.left(), row.top() + (row.height() - size) / 2, size, size);
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const QColor ground = !enabled                               ? QColor(kDisabledButton)
+                        : Has(option, QStyle::State_Sunken)    ? QColor(kPressed)
+                        : Has(option, QStyle::State_MouseOver) ? QColor(kHover)
+                                                               : QColor(kPaper);
+  const QColor border = enabled ? QColor(kBorder) : QColor(kDisabledBorder);
+  PaintRounded(painter, place, round ? size / 2.0 : scope.Grid().Pixels(3), ground, border,
+               scope.Grid().Pixels(1));
+  if (!Has(option, QStyle::State_On)) return;
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor ink = enabled ? QColor(kAccent) : QColor(kDisabledText);
+  const double unit = size / 13.0;
+  if (round) {
+    const double inset = 3.5 * unit;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawEllipse(QRectF(place).adjusted(inset, inset, -inset, -inset));
+    return;
+  }
+  const QPointF corner = place.topLeft();
+  painter.setPen(QPen(ink, 2 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(QPolygonF({corner + QPointF(3.2, 6.8) * unit, corner + QPointF(5.6, 9.2) * unit,
+                                  corner + QPointF(9.8, 3.9) * unit}));
+}
+
+void PaintChoice(const QStyleOptionButton& option, QPainter& painter, const QWidget* widget, bool round) {
+  const DeviceScope scope(painter, widget);
+  PaintIndicator(option, painter, scope, round);
+  const int start = scope.Grid().Pixels(kIndicator + kIndicatorGap);
+  const QRect text_place = scope.Map(option.rect).adjusted(start, 0, 0, 0);
+  painter.setPen(TextColour(option));
+  PaintText(painter, text_place, Align::Left, option.text, Digits::AsDesigned, true);
+  if (!Has(option, QStyle::State_HasFocus) || !Has(option, QStyle::State_KeyboardFocusChange)) return;
+  const int width = painter.fontMetrics().horizontalAdvance(QString(option.text).remove('&'));
+  const int around = scope.Grid().Pixels(3);
+  const int height = scope.Grid().Pixels(17);
+  const QRect ring(text_place.left() - around, text_place.top() + (text_place.height() - height) / 2,
+                   width + 2 * around, height);
+  PaintFocus(painter, scope, ring);
+}
+
+}  // namespace
+
+CalmStyle::CalmStyle() : QProxyStyle(QStringLiteral("Fusion")) {
+}
+
+void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const {
+  if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+    if (element == CE_PushButton) return PaintButton(*button, *painter, widget);
+    if (element == CE_RadioButton) return PaintChoice(*button, *painter, widget, true);
+    if (element == CE_CheckBox) return PaintChoice(*button, *painter, widget, false);
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+  if (element == PE_FrameFocusRect) {
+    const DeviceScope scope(*painter, nullptr);
+    return PaintFocus(*painter, scope, scope.Map(option->rect));
+  }
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* return_data) const {
+  switch (hint) {
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+    case SH_EtchDisabledText:
+    case SH_DitherDisabledText:
+      return 0;
+    case SH_UnderlineShortcut:
+      return 1;
+    case SH_MessageBox_CenterButtons:
+      return 0;
+    default:
+      return QProxyStyle::styleHint(hint, option, widget, return_data);
+  }
+}
+
+int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+      return kIndicator;
+    case PM_RadioButtonLabelSpacing:
+    case PM_CheckBoxLabelSpacing:
+      return kIndicatorGap;
+    default:
+      return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+}
+
+QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                  const QWidget* widget) const {
+  QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  if (type == CT_PushButton) size = size.expandedTo(QSize(80, 27));
+  return size;
+}
+
+}  // namespace kestrel

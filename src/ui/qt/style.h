@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// The look of the standard widgets: quiet, light, drawn in whole device pixels. Set for the whole
+// application.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace kestrel {
+
+// Buttons, options and check boxes are drawn here; everything else comes from Fusion, which is on every
+// system.
+class CalmStyle final : public QProxyStyle {
+ public:
+  CalmStyle();
+
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* return_data) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// The texts that only the Qt front end shows or speaks.
+#pragma once
+
+namespace kestrel::texts {
+
+inline constexpr const char* kBoard = "Sudoku board";
+inline constexpr const char* kMarksTip =
+    "Left click on a pencil mark: the digit goes into the cell.\nRight click: the mark is taken away.";
+inline constexpr const char* kKeypadTip = "Click on a small digit to put it into the cell.";
+inline constexpr const char* kAssign = "Assign";
+inline constexpr const char* kAssignTip = "Puts the digit into the cell";
+inline constexpr const char* kDiscard = "Discard";
+inline constexpr const char* kDiscardTip = "Takes the pencil mark away";
+inline constexpr const char* kSelect = "Select";
+inline constexpr const char* kSelectTip = "Selects or deselects the row or column for Reset Cell";
+
+// Words of the spoken names of cells and marks.
+inline constexpr const char* kRow = "row";
+inline constexpr const char* kColumn = "column";
+inline constexpr const char* kEmpty = "empty";
+inline constexpr const char* kMarks = "marks";
+inline constexpr const char* kGiven = "given";
+inline constexpr const char* kMark = "mark";
+
+// Help window
+inline constexpr const char* kBack = "&Back";
+inline constexpr const char* kForward = "&Forward";
+inline constexpr const char* kContents = "&Contents";
+inline constexpr const char* kNoPage = "This page is missing";
+inline constexpr const char* kNoPageWhy = "The help page was not found where the help pages are installed:";
+
+}  // namespace kestrel::texts

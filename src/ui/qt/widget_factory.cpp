@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt/widget_factory.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpressionValidator>
+#include <QSlider>
+#include <QTimer>
+
+#include "ui/qt/fonts.h"
+#include "ui/qt/form_window.h"
+#include "ui/qt/help_view.h"
+#include "ui/qt/input_widgets.h"
+#include "ui/qt/palette.h"
+#include "ui/qt/small_widgets.h"
+
+namespace kestrel {
+
+namespace {
+
+// ---- showing, one function per kind ----
+
+void SetFace(QWidget& widget, Colour back) {
+  QPalette palette = widget.palette();
+  palette.setColor(QPalette::Button, ToQColor(back, colours::kButton));
+  widget.setPalette(palette);
+}
+
+void ShowButton(QPushButton& widget, const Button& now, const Button* before) {
+  if (before == nullptr || now.caption != before->caption || now.mnemonic != before->mnemonic) {
+    widget.setText(WithMnemonic(now.caption, now.mnemonic));
+  }
+  if (before == nullptr || now.back != before->back) SetFace(widget, now.back);
+}
+
+void ShowOption(QRadioButton& widget, const OptionButton& now, const OptionButton* before) {
+  if (before == nullptr || now.caption != before->caption) {
+    widget.setText(WithMnemonic(now.caption, now.mnemonic));
+  }
+  if (widget.isChecked() == now.value) return;
+  // With the group's rule on, the last chosen option could not be taken back.
+  widget.setAutoExclusive(false);
+  widget.setChecked(now.value);
+  widget.setAutoExclusive(true);
+}
+
+void ShowCheckBox(QCheckBox& widget, const CheckBox& now, const CheckBox* before) {
+  if (before == nullptr || now.caption != before->caption) {
+    widget.setText(WithMnemonic(now.caption, now.mnemonic));
+  }
+  widget.setChecked(now.value);
+}
+
+void ShowList(LineList& widget, const ListBox& now, const ListBox* before) {
+  if (before == nullptr || now.lines != before->lines) {
+    widget.clear();
+    for (const std::string& line : now.lines) widget.addItem(ToQString(line));
+  }
+  widget.Select(now.index);
+}
+
+void ShowCombo(QComboBox& widget, const ComboBox& now, const ComboBox* before) {
+  if (before == nullptr || now.lines != before->lines) {
+    widget.clear();
+    for (const std::string& line : now.lines) widget.addItem(ToQString(line));
+  }
+  widget.setCurrentIndex(now.index);
+}
+
+void ShowTextBox(TextField& widget, const TextBox& now, const TextBox* before) {
+  if (before == nullptr) {
+    if (now.max_length > 0) widget.setMaxLength(now.max_length);
+    if (now.digits_only) {
+      widget.setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]*"), &widget));
+    }
+  }
+  if (const QString text = ToQString(now.text); widget.text() != text) widget.setText(text);
+}
+
+void ShowSlider(QSlider& widget, const Slider& now, const Slider* /*before*/) {
+  widget.setRange(now.minimum, now.maximum);
+  widget.setValue(now.value);
+}
+
+void ShowProgress(SlimProgress& widget, const ProgressBar& now, const ProgressBar* /*before*/) {
+  widget.setRange(now.minimum, now.maximum);
+  widget.setValue(now.value);
+  widget.update();
+}
+
+void ShowText(TextLabel& widget, const Label& now, const Label* /*before*/) {
+  widget.Show(now);
+}
+
+void ShowLink(LinkLabel& widget, const Label& now, const Label* /*before*/) {
+  widget.Show(now);
+}
+
+void ShowPanel(StatusLabel& widget, const StatusPanel& now, const StatusPanel* /*before*/) {
+  widget.Show(now);
+}
+
+void ShowPicture(PictureButton& widget, const Picture& now, const Picture* before) {
+  if (before == nullptr || now.file != before->file) widget.Show(now);
+}
+
+// The panel paints itself; there is no file.
+void ShowPanelPicture(StartPanel& /*widget*/, const Picture& /*now*/, const Picture* /*before*/) {
+}
+
+void ShowHelpView(HelpView& /*widget*/, const WebView& /*now*/, const WebView* /*before*/) {
+}
+
+// A timer without a widget.
+class MirroredTimer final : public MirroredControl {
+ public:
+  MirroredTimer(FormId form, ControlId id, EventSink& sink, Timer& control)
+      : MirroredControl(form, id, sink), control_(control) {
+    QObject::connect(&timer_, &QTimer::timeout, [this] { Send(EventKind::Timer); });
+    timer_.setTimerType(Qt::PreciseTimer);
+    Sync();
+  }
+
+  void Sync() override {
+    if (timer_.interval() != control_.interval) timer_.setInterval(control_.interval);
+    if (control_.enabled == timer_.isActive()) return;
+    if (control_.enabled) {
+      timer_.start();
+    } else {
+      timer_.stop();
+    }
+  }
+
+ private:
+  Timer& control_;
+  QTimer timer_;
+};
+
+// The main window is played with the mouse: a click must not leave the keyboard's mark on a button there.
+void SetFocusPolicy(QWidget& widget, FormId form, int tab_index) {
+  if (tab_index < 0) {
+    widget.setFocusPolicy(Qt::NoFocus);
+  } else {
+    widget.setFocusPolicy(form == FormId::Main ? Qt::TabFocus : Qt::StrongFocus);
+  }
+}
+
+// A button pressed by its letter has not taken the focus; a text box must learn that it is left.
+void LeaveTextBox(QWidget& pressed) {
+  if (dynamic_cast<TextField*>(pressed.window()->focusWidget()) != nullptr) pressed.setFocus();
+}
+
+}  // namespace
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, Label& control) {
+  if (!control.link) {
+    return std::make_unique<Mirrored<Label, TextLabel>>(context.form, id, context.sink, control,
+                                                        *new TextLabel(parent), ShowText);
+  }
+  auto* widget = new LinkLabel(parent);
+  auto mirrored = std::make_unique<Mirrored<Label, LinkLabel>>(context.form, id, context.sink, control,
+                                                               *widget, ShowLink);
+  QObject::connect(widget, &LinkLabel::clicked, [entry = mirrored.get()] { entry->Tell(EventKind::Click); });
+  return mirrored;
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, Button& control) {
+  auto* widget = new QPushButton(parent);
+  widget->setAutoDefault(false);
+  widget->setDefault(control.is_default);
+  if (control.is_default) context.window.SetDefaultButton(widget);
+  if (control.is_cancel) context.window.SetCancelButton(widget);
+  auto mirrored = std::make_unique<Mirrored<Button, QPushButton>>(context.form, id, context.sink, control,
+                                                                  *widget, ShowButton);
+  SetFocusPolicy(*widget, context.form, control.tab_index);
+  QObject::connect(widget, &QPushButton::clicked, [entry = mirrored.get(), widget] {
+    LeaveTextBox(*widget);
+    if (widget->isEnabled()) entry->Tell(EventKind::Click);
+  });
+  return mirrored;
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, OptionButton& control) {
+  auto* widget = new QRadioButton(parent);
+  auto mirrored = std::make_unique<Mirrored<OptionButton, QRadioButton>>(context.form, id, context.sink,
+                                                                         control, *widget, ShowOption);
+  SetFocusPolicy(*widget, context.form, control.tab_index);
+  QObject::connect(widget, &QRadioButton::clicked,
+                   [entry = mirrored.get(), widget, id, unchoose = context.unchoose_others] {
+                     if (entry->Control().value) return;
+                     LeaveTextBox(*widget);
+                     unchoose(id);
+                     entry->UserChanged(&OptionButton::value, true, EventKind::Click);
+                   });
+  return mirrored;
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, CheckBox& control) {
+  auto* widget = new QCheckBox(parent);
+  auto mirrored = std::make_unique<Mirrored<CheckBox, QCheckBox>>(context.form, id, context.sink, control,
+                                                                  *widget, ShowCheckBox);
+  SetFocusPolicy(*widget, context.form, control.tab_index);
+  QObject::connect(widget, &QCheckBox::clicked, [entry = mirrored.get(), widget](bool checked) {
+    LeaveTextBox(*widget);
+    entry->UserChanged(&CheckBox::value, checked, EventKind::Click);
+  });
+  return mirrored;
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, ListBox& control) {
+  auto* widget = new LineList(parent);
+  widget->setFont(ToQFont(control.font, 1));
+  auto mirrored = std::make_unique<Mirrored<ListBox, LineList>>(context.form, id, context.sink, control,
+                                                                *widget, ShowList);
+  // A click on the line that is selected already counts as one, too.
+  const auto selected = [entry = mirrored.get(), widget] {
+    entry->UserChanged(&ListBox::index, widget->Selected(), EventKind::Click);
+  };
+  QObject::connect(widget, &LineList::itemSelectionChanged, selected);
+  QObject::connect(widget, &LineList::itemDoubleClicked,
+                   [entry = mirrored.get()] { entry->Tell(EventKind::DoubleClick); });
+  return mirrored;
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, ComboBox& control) {
+  auto* widget = new QComboBox(parent);
+  auto mirrored = std::make_unique<Mirrored<ComboBox, QComboBox>>(context.form, id, context.sink, control,
+                                                                  *widget, ShowCombo);
+  QObject::connect(widget, &QComboBox::activated, [entry = mirrored.get()](int index) {
+    entry->UserChanged(&ComboBox::index, index, EventKind::Click);
+  });
+  return mirrored;
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, TextBox& control) {
+  auto* widget = new TextField(parent);
+  widget->setFont(ToQFont(control.font, 1));
+  auto mirrored = std::make_unique<Mirrored<TextBox, TextField>>(context.form, id, context.sink, control,
+                                                                 *widget, ShowTextBox);
+  auto* entry = mirrored.get();
+  QObject::connect(widget, &TextField::textEdited,
+                   [entry](const QString& text) { entry->Set(&TextBox::text, text.toStdString()); });
+  widget->on_key = [entry](Key key) { entry->Tell(EventKind::Key, key); };
+  widget->on_leave = [entry] { entry->Tell(EventKind::Leave); };
+  return mirrored;
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, Slider& control) {
+  auto* widget = new QSlider(Qt::Horizontal, parent);
+  widget->setPageStep(1);
+  widget->setTickPosition(QSlider::TicksBelow);
+  widget->setTickInterval(1);
+  auto mirrored = std::make_unique<Mirrored<Slider, QSlider>>(context.form, id, context.sink, control,
+                                                              *widget, ShowSlider);
+  QObject::connect(widget, &QSlider::valueChanged, [entry = mirrored.get()](int value) {
+    entry->UserChanged(&Slider::value, value, EventKind::Change);
+  });
+  return mirrored;
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, ProgressBar& control) {
+  return std::make_unique<Mirrored<ProgressBar, SlimProgress>>(context.form, id, context.sink, control,
+                                                               *new SlimProgress(parent), ShowProgress);
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, StatusPanel& control) {
+  return std::make_unique<Mirrored<StatusPanel, StatusLabel>>(context.form, id, context.sink, control,
+                                                              *new StatusLabel(parent), ShowPanel);
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, Picture& control) {
+  if (id.name == "Picture3") {
+    return std::make_unique<Mirrored<Picture, StartPanel>>(context.form, id, context.sink, control,
+                                                           *new StartPanel(parent), ShowPanelPicture);
+  }
+  auto* widget = new PictureButton(context.logo, parent);
+  auto mirrored = std::make_unique<Mirrored<Picture, PictureButton>>(context.form, id, context.sink, control,
+                                                                     *widget, ShowPicture);
+  QObject::connect(widget, &PictureButton::clicked,
+                   [entry = mirrored.get()] { entry->Tell(EventKind::Click); });
+  return mirrored;
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, WebView& control) {
+  return std::make_unique<Mirrored<WebView, HelpView>>(context.form, id, context.sink, control,
+                                                       *new HelpView(parent), ShowHelpView);
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* /*parent*/, ControlId id, Timer& control) {
+  return std::make_unique<MirroredTimer>(context.form, id, context.sink, control);
+}
+
+}  // namespace kestrel
