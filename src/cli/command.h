@@ -28,6 +28,7 @@ struct CliPorts {
 extern const CommandSpec kRateSpec;
 extern const CommandSpec kSolveSpec;
 extern const CommandSpec kGenerateSpec;
+extern const CommandSpec kPrintSpec;
 extern const CommandSpec kStockNewSpec;
 extern const CommandSpec kStockRenewSpec;
 extern const CommandSpec kStockVerifySpec;
@@ -38,6 +39,7 @@ extern const CommandSpec kStockExportSpec;
 ExitStatus RateCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus SolveCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus GenerateCommand(Arguments& arguments, CliPorts& ports);
+ExitStatus PrintCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus StockNewCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus StockRenewCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus StockVerifyCommand(Arguments& arguments, CliPorts& ports);

@@ -14,10 +14,11 @@ struct Command {
   ExitStatus (*run)(Arguments&, CliPorts&);
 };
 
-constexpr std::array<Command, 8> kCommands{{
+constexpr std::array<Command, 9> kCommands{{
     {&kRateSpec, RateCommand},
     {&kSolveSpec, SolveCommand},
     {&kGenerateSpec, GenerateCommand},
+    {&kPrintSpec, PrintCommand},
     {&kStockNewSpec, StockNewCommand},
     {&kStockRenewSpec, StockRenewCommand},
     {&kStockVerifySpec, StockVerifyCommand},

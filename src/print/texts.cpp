@@ -5,9 +5,9 @@
 namespace kestrel::texts {
 
 std::string BadRange(const PrintSettings& settings) {
-  return "puzzles " + std::to_string(settings.first_number) + " to " + std::to_string(LastNumber(settings)) +
-         " are not all there, a level has 1 to 100: the first number is from 1 to " +
-         std::to_string(HighestFirstNumber(settings)) + " for this many";
+  return "a level ends at puzzle " + std::to_string(kPuzzlesPerLevel) + ": the first of " +
+         std::to_string(PuzzlesPrinted(settings)) + " puzzles is from 1 to " +
+         std::to_string(HighestFirstNumber(settings)) + ", not " + std::to_string(settings.first_number);
 }
 
 }  // namespace kestrel::texts
