@@ -19,13 +19,13 @@ namespace {
 constexpr std::size_t kChunk = 64U << 10U;
 constexpr int kMostLinks = 40;
 constexpr int kLockWait = 1000;  // milliseconds
-constexpr int kLockPause = 5;
+constexpr int kLockPause = 1;
 
 FileResult Failure() {
   return FileResult::Failed(std::generic_category().message(errno));
 }
 
-// Closes what was opened.
+// Closes what was opened. What closing says is not asked for: all that was written has been flushed before.
 class OpenFile {
  public:
   OpenFile(SystemCalls& calls, const std::string& path, int flags)
@@ -117,11 +117,12 @@ FileResult FlushFolder(SystemCalls& calls, const std::string& folder) {
 }
 
 FileResult ReplaceTarget(SystemCalls& calls, const Target& target, std::span<const std::uint8_t> bytes) {
+  // Renaming asks only for the folder's permissions; a file that was made read-only is to stay as it is.
   if (target.exists && (!IsRegular(target.status) || calls.WriteAccess(target.path) != 0)) return Failure();
   const std::string folder = FolderOf(target.path);
   SweepTemporaries(calls, folder);
   HostTemporary temporary(calls, folder);
-  // Nobody else may look into it before it has the permissions of the old file.
+  // 0600: nobody else may look into it before it has the permissions of the old file.
   const bool written = temporary.Create(target.exists ? 0600 : 0666) && temporary.Append(bytes) &&
                        (!target.exists || temporary.TakeOver(target.status)) && temporary.Flush() &&
                        temporary.RenameTo(target.path);
@@ -187,6 +188,7 @@ FileResult HostFiles::Update(std::string_view path, std::size_t max_bytes,
   // Looked at again under the lock: another copy may have made the file meanwhile.
   if (!FindTarget(calls_, host_path, target)) return Failure();
   Bytes bytes;
+  // What cannot be read whole must not be replaced: the change would be all that is left of the file.
   if (target.exists) {
     FileResult read = Read(path, max_bytes, bytes);
     if (!read) return read;
@@ -209,6 +211,7 @@ FileResult HostFiles::Copy(std::string_view from, std::string_view to) {
   }
   const std::string folder = FolderOf(target.path);
   SweepTemporaries(calls_, folder);
+  // The permissions of a new file, not those of `from`: an installed file may be write-protected.
   HostTemporary temporary(calls_, folder);
   const auto append = [&temporary](std::span<const std::uint8_t> piece) { return temporary.Append(piece); };
   const bool copied = temporary.Create(0666) && source.Read(SIZE_MAX, append) && temporary.Flush() &&
@@ -224,6 +227,7 @@ FileResult HostFiles::MakeFolder(std::string_view path) {
     (void)FlushFolder(calls_, FolderOf(folder));  // the folder is there, whatever comes of it
     return FileResult::Done();
   }
+  // EEXIST says too little, and on a read-only file system the reason is another one although it is there.
   const int reason = errno;
   if (calls_.Stat(folder, status) != 0 || !S_ISDIR(status.st_mode)) {
     errno = reason;

@@ -66,7 +66,8 @@ Line ParseLine(std::string_view text) {
   return line;
 }
 
-// Where a key stands in the lines, or where it would be added.
+// Where a key stands in the lines, or where it would be added. The file is small and is searched anew for
+// each question; there is no index that could disagree with the text.
 struct Place {
   std::size_t line = kNowhere;         // the key's line
   std::size_t section_end = kNowhere;  // the line behind the section's last one that is not blank
@@ -119,7 +120,7 @@ void SettingsText::Set(std::string_view section, std::string_view key, std::stri
 
 std::string SettingsText::Text() const {
   std::string text;
-  for (const std::string& line : lines_) text += line + '\n';
+  for (const std::string& line : lines_) text += line + '\n';  // also behind a last line that had none
   return text;
 }
 
@@ -128,6 +129,7 @@ SettingsFile::SettingsFile(Files& files, std::string path) : files_(files), path
 
 bool SettingsFile::Load() {
   Bytes bytes;
+  // One byte more than allowed shows a file that is too long.
   if (!files_.Read(path_, kLongestFile + 1, bytes) || bytes.size() > kLongestFile) return false;
   text_ = SettingsText(std::string(bytes.begin(), bytes.end()));
   return true;

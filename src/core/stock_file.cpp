@@ -62,6 +62,7 @@ FileResult ReadStockFile(Files& files, std::string_view path, StockTable& table)
 
 FileResult WriteStockFile(Files& files, std::string_view path, const StockTable& table) {
   const Bytes records = EncodeStock(table);
+  // The usual file is not read before it is replaced: one on a bad spot of the disk is healed by that.
   if (files.Length(path).value_or(0) <= kStockBytes) return files.Replace(path, records);
   return files.Update(path, kLongestStock, [&records](Bytes& content) {
     content.resize(std::max(content.size(), records.size()));

@@ -23,11 +23,8 @@ std::span<const std::uint8_t> AsBytes(const std::string& text) {
   return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
-struct stat StatusOf(const fs::path& path) {
-  struct stat status {};
-  (void)stat(path.c_str(), &status);
-  status.st_mode &= 07777U;
-  return status;
+unsigned Mode(const TempFolder& folder, std::string_view file) {
+  return static_cast<unsigned>(fs::status(folder.Path(file)).permissions());
 }
 
 FileResult ActReplace(Files& files, const TempFolder& folder, std::string_view file) {
@@ -47,27 +44,20 @@ FileResult ActCopy(Files& files, const TempFolder& folder, std::string_view file
 
 // One way of giving the file "target" new content, directly or through two symbolic links.
 struct Scenario {
-  const char* name;
   FileResult (*act)(Files& files, const TempFolder& folder, std::string_view file);
   const char* file;  // what the program is told to write
   bool had_old;      // whether there was content before
 };
 
-constexpr Scenario kScenarios[] = {
-    {"replace", ActReplace, "target", true},
-    {"replace a new file", ActReplace, "target", false},
-    {"replace behind links", ActReplace, "link", true},
-    {"update", ActUpdate, "link", true},
-    {"copy", ActCopy, "target", false},
-    {"copy behind links", ActCopy, "link", false},
-};
+constexpr Scenario kScenarios[] = {{ActReplace, "target", true}, {ActReplace, "target", false},
+                                   {ActReplace, "link", true},   {ActUpdate, "link", true},
+                                   {ActCopy, "target", false},   {ActCopy, "link", false}};
 
 void Prepare(const TempFolder& folder, const Scenario& scenario) {
   fs::create_symlink("link2", folder.Path("link"));
   fs::create_symlink(folder.Path("target"), folder.Path("link2"));
   folder.Put("source", kNew);
-  if (!scenario.had_old) return;
-  folder.Put("target", kOld);
+  if (scenario.had_old) folder.Put("target", kOld);
   chmod(folder.Path("target").c_str(), 0640);
 }
 
@@ -77,7 +67,7 @@ bool IsWhole(const TempFolder& folder, const Scenario& scenario) {
   const bool exists = fs::exists(folder.Path("target"));
   const bool is_new = exists && folder.Get("target") == kNew;
   EXPECT_TRUE(is_new || (scenario.had_old ? folder.Get("target") == kOld : !exists));
-  EXPECT_TRUE(!scenario.had_old || StatusOf(folder.Path("target")).st_mode == 0640);
+  EXPECT_TRUE(!scenario.had_old || Mode(folder, "target") == 0640);
   return is_new;
 }
 
@@ -98,8 +88,7 @@ TEST(HostFiles, AnyCallMayFail) {
          {std::pair{EIO, false}, {EIO, true}, {EACCES, false}, {EINTR, false}}) {
       int n = 1;
       for (bool through = false; !through && !HasFailure(); ++n) {
-        SCOPED_TRACE(testing::Message()
-                     << scenario.name << ", call " << n << ", error " << error << for_good);
+        SCOPED_TRACE(testing::Message() << &scenario - kScenarios << ' ' << n << ' ' << error << for_good);
         TempFolder folder;
         Prepare(folder, scenario);
         FaultyCalls calls;
@@ -122,7 +111,7 @@ TEST(HostFiles, TheProcessMayBeKilledAtAnyCall) {
   for (const Scenario& scenario : kScenarios) {
     int n = 1;
     for (bool through = false; !through && !HasFailure(); ++n) {
-      SCOPED_TRACE(testing::Message() << scenario.name << ", killed at call " << n);
+      SCOPED_TRACE(testing::Message() << &scenario - kScenarios << ", killed at call " << n);
       TempFolder folder;
       Prepare(folder, scenario);
       const pid_t child = fork();
@@ -166,19 +155,16 @@ TEST(HostFiles, FlushesInTheRightOrderEvenWithoutHardLinksAndLocks) {
   HostFiles files(calls);
   folder.Put("source", kNew);
   EXPECT_TRUE(ActCopy(files, folder, "target"));
-  EXPECT_EQ(calls.log, "write flush rename flush ");
-  EXPECT_TRUE(ActReplace(files, folder, "target"));
-  EXPECT_EQ(calls.log, "write flush rename flush write flush rename flush ");
   EXPECT_FALSE(ActCopy(files, folder, "target"));
   folder.Put("target", kOld);
   EXPECT_TRUE(ActUpdate(files, folder, "target"));
   EXPECT_EQ(folder.Get("target"), kNew);
-  EXPECT_EQ(folder.Count(), 2);
+  EXPECT_EQ(calls.log, "write flush rename flush write flush rename flush ");
 }
 
 TEST(HostFiles, ManyWritersAndSweepersDoNoDamage) {
   TempFolder folder;
-  SystemCalls calls;
+  FaultyCalls calls;
   HostFiles files(calls);
   folder.Put("target", kOld);
   for (int i = 0; i < 3; ++i) {
@@ -222,19 +208,21 @@ TEST(HostFiles, PermissionsAreKeptAndNewFilesAreTheUsersOwn) {
   EXPECT_TRUE(ActCopy(files, folder, "copy"));
   EXPECT_TRUE(ActReplace(files, folder, "new"));
   umask(mask);
-  EXPECT_EQ(StatusOf(folder.Path("copy")).st_mode, 0640U);
-  EXPECT_EQ(StatusOf(folder.Path("new")).st_mode, 0640U);
+  EXPECT_EQ(Mode(folder, "copy"), 0640U);
+  EXPECT_EQ(Mode(folder, "new"), 0640U);
   EXPECT_FALSE(files.Copy(folder.Written("new"), folder.Written("copy")));
   EXPECT_EQ(folder.Get("copy"), kOld);
-  if (geteuid() != 0) {
-    EXPECT_FALSE(ActReplace(files, folder, "source"));  // write-protected
-    return;
-  }
-  chmod(folder.Path("copy").c_str(), 0606);
+  if (geteuid() != 0) return;  // the rest needs several users
+  fs::permissions(folder.Path(), fs::perms::all);
+  if (fork() == 0) _exit(setuid(65534) == 0 && ActReplace(files, folder, "source") ? 1 : 0);
+  int refused = -1;
+  wait(&refused);
+  EXPECT_EQ(refused, 0);  // write-protected, though the folder would let it be replaced
   ASSERT_EQ(chown(folder.Path("copy").c_str(), 1234, 4321), 0);
   EXPECT_TRUE(ActReplace(files, folder, "copy"));
-  const struct stat status = StatusOf(folder.Path("copy"));
-  EXPECT_TRUE(status.st_uid == 1234 && status.st_gid == 4321 && status.st_mode == 0606);
+  struct stat status {};
+  stat(folder.Path("copy").c_str(), &status);
+  EXPECT_TRUE(status.st_uid == 1234 && status.st_gid == 4321 && (status.st_mode & 07777U) == 0640);
 }
 
 TEST(HostFiles, OnlyPlainFilesAreReadAndReplaced) {
@@ -257,8 +245,7 @@ TEST(HostFiles, OnlyPlainFilesAreReadAndReplaced) {
   EXPECT_EQ(files.Length(folder.Written("target")), 5000U);
   EXPECT_FALSE(files.Update(folder.Written("target"), 4999, [](Bytes&) { FAIL(); }));
   EXPECT_TRUE(files.Exists(folder.Written()) && !files.Exists(folder.Written("loop")));
-  EXPECT_TRUE(files.Remove(folder.Written("target")));
-  EXPECT_FALSE(files.Remove(folder.Written("target")));
+  EXPECT_TRUE(files.Remove(folder.Written("target")) && !files.Remove(folder.Written("target")));
 }
 
 TEST(HostFiles, FoldersAndTheTwoFormsOfPaths) {
