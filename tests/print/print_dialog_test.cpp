@@ -3,216 +3,139 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "recording_page.h"
 
 namespace kestrel {
 namespace {
 
-// A dialog whose user is a function that runs while it is open.
+struct FakePrinter : Printer {
+  Page* SetUp() override { return works ? &page : nullptr; }
+  bool BeginDocument() override { return ++begun, wants_document; }
+  void EndDocument() override { ++ended; }
+  RecordingPage page;
+  bool works = true, wants_document = true;
+  int begun = 0, ended = 0;
+};
+
+// The dialog on a screen where a function plays the user while it is open.
 class PrintDialogTest : public testing::Test, protected Screen, protected Asker {
  protected:
-  // The screen
   int Width() override { return 20000; }
   int Height() override { return 12000; }
   void Show(FormId) override { form_.window.open = true; }
   void Hide(FormId) override { form_.window.open = false; }
-  bool WaitUntilHidden(FormId) override {
-    if (form_.window.open) user_();
-    return !ending_;
-  }
+  bool WaitUntilHidden(FormId) override { return !form_.window.open || (user_(), true); }
   void Focus(FormId, ControlId) override {}
   void Beep() override {}
-  // Questions
-  Answer Message(const MessageBox& box) override {
-    messages_.push_back(box.title + ": " + box.text);
-    return Answer::Ok;
-  }
+  Answer Message(const MessageBox& box) override { return messages_.push_back(box.text), Answer::Ok; }
   std::optional<std::string> Input(const InputBox&) override { return std::nullopt; }
 
-  struct FakePrinter : Printer {
-    Page* SetUp() override { return works ? &page : nullptr; }
-    bool BeginDocument() override { return ++begun, wants_document; }
-    void EndDocument() override { ++ended; }
-
-    RecordingPage page;
-    bool works = true;
-    bool wants_document = true;
-    int begun = 0;
-    int ended = 0;
-  };
-
-  bool Open(const std::function<void()>& user, int level = 3) {
+  bool Open(const std::function<void()>& user) {
     user_ = user;
-    return dialog_.Run(level, "/p\\");
+    return dialog_.Run(3, "/p\\");
   }
-  void Send(EventKind kind, ControlId control, Key key = Key::None) {
-    dialog_.Handle({.form = FormId::Print, .control = control, .kind = kind, .key = key});
+  void Press(std::string_view name, int index = kNoIndex, EventKind kind = EventKind::Click) {
+    dialog_.Handle({.form = FormId::Print, .control = {name, index}, .kind = kind, .key = Key::Enter});
   }
-  void Press(std::string_view name, int index = kNoIndex) { Send(EventKind::Click, {name, index}); }
-  void ChoosePerPage(int option) { Press("OptionAantal", option); }
   void ChoosePages(int pages) {
     form_.PageSlider.value = pages;
-    Send(EventKind::Change, {"PageSlider"});
-  }
-  void EnterFrom(std::string_view text) {
-    form_.TextFrom.text = text;
-    Send(EventKind::Key, {"TextFrom"}, Key::Enter);
-  }
-  void Check(CheckBox& box, std::string_view name, bool value) {
-    box.value = value;
-    Press(name);
+    Press("PageSlider", kNoIndex, EventKind::Change);
   }
 
   FormPrint form_ = MakeFormPrint();
   StockTable stock_ = StockToPrint();
   FakePrinter printer_;
-  RecordingPage& page_ = printer_.page;
   std::function<void()> user_;
   std::vector<std::string> messages_;
-  bool ending_ = false;
   PrintDialog dialog_{form_, stock_, printer_, *this, *this};
 };
-
-TEST_F(PrintDialogTest, OpensWithStartValuesInTheMiddleOfTheScreen) {
-  form_.TextFrom.enabled = false;
-  dialog_.Load();
-  EXPECT_EQ(form_.window.left, (20000 - form_.window.width) / 2);
-  EXPECT_EQ(form_.window.top, (12000 - form_.window.height) / 2);
-  EXPECT_TRUE(Open([&] {
-    EXPECT_EQ(form_.PageSlider.value, 1);
-    EXPECT_TRUE(form_.OptionAantal(0).value && !form_.OptionAantal(1).value && !form_.OptionAantal(2).value);
-    EXPECT_TRUE(form_.CheckSolution.value && form_.CheckPencils.value && form_.TextFrom.enabled);
-    EXPECT_EQ(form_.TextFrom.text, "1");
-    EXPECT_EQ(form_.LabelTo.caption, "to 1");
-    EXPECT_EQ(form_.SudokuTypeKeuze.index, 2);
-    EXPECT_EQ(form_.PrintVoorbeeld.file, "/p\\PRN1S.GIF");
-  }));
-}
 
 TEST_F(PrintDialogTest, KeepsTheRangeInsideTheLevel) {
   struct Row {
     int option, pages;
-    std::string_view typed, from, to;
+    std::string_view typed, from, to, preview;
   };
   (void)Open([&] {
-    for (const Row& row : std::initializer_list<Row>{{0, 1, "100", "100", "to 100"},
-                                                     {0, 1, "101", "100", "to 100"},
-                                                     {2, 10, "80", "61", "to 100"},
-                                                     {2, 10, "61", "61", "to 100"},
-                                                     {1, 10, "", "1", "to 20"},
-                                                     {2, 3, "0", "1", "to 12"},
-                                                     {2, 1, "007", "007", "to 10"},
-                                                     {1, 1, "99999999999999999999", "99", "to 100"}}) {
-      ChoosePerPage(row.option);
+    EXPECT_EQ(form_.LabelTo.caption + form_.PrintVoorbeeld.file, "to 1/p\\PRN1S.GIF");
+    form_.CheckSolution.value = false;
+    Press("CheckSolution");
+    for (const Row& row : std::initializer_list<Row>{{0, 1, "101", "100", "to 100", "/p\\PRN1.GIF"},
+                                                     {2, 10, "80", "61", "to 100", "/p\\PRN4.GIF"},
+                                                     {2, 10, "61", "61", "to 100", "/p\\PRN4.GIF"},
+                                                     {1, 10, "", "1", "to 20", "/p\\PRN2.GIF"},
+                                                     {2, 1, "007", "007", "to 10", "/p\\PRN4.GIF"},
+                                                     {1, 1, "99999999999", "99", "to 100", "/p\\PRN2.GIF"}}) {
+      Press("OptionAantal", row.option);
       ChoosePages(row.pages);
-      EnterFrom(row.typed);
+      form_.TextFrom.text = row.typed;
+      Press("TextFrom", kNoIndex, row.option == 1 ? EventKind::Leave : EventKind::Key);
       EXPECT_EQ(form_.TextFrom.text, row.from);
       EXPECT_EQ(form_.LabelTo.caption, row.to);
+      EXPECT_EQ(form_.PrintVoorbeeld.file, row.preview);
     }
-    // Leaving the box checks, and so do the options and the slider.
-    form_.TextFrom.text = "0";
-    Send(EventKind::Leave, {"TextFrom"});
-    EXPECT_EQ(form_.TextFrom.text, "1");
-    EnterFrom("99");
-    ChoosePages(2);
+    Press("OptionAantal", 2);
     EXPECT_EQ(form_.TextFrom.text, "97");
-    ChoosePerPage(2);
+    ChoosePages(2);
     EXPECT_EQ(form_.TextFrom.text, "93");
-    ChoosePerPage(0);
-    EXPECT_EQ(form_.LabelTo.caption, "to 94");
-  });
-}
-
-TEST_F(PrintDialogTest, ShowsThePictureOfWhatWillBePrinted) {
-  (void)Open([&] {
-    for (const bool solutions : {false, true}) {
-      Check(form_.CheckSolution, "CheckSolution", solutions);
-      for (int option = 0; option < 3; ++option) {
-        ChoosePerPage(option);
-        EXPECT_EQ(form_.PrintVoorbeeld.file,
-                  "/p\\PRN" + std::to_string(1 << option) + (solutions ? "S.GIF" : ".GIF"));
-      }
-    }
-    Check(form_.CheckSolution, "CheckSolution", false);
-    EXPECT_EQ(form_.PrintVoorbeeld.file, "/p\\PRN4.GIF");
   });
 }
 
 TEST_F(PrintDialogTest, RemembersWhatWasClosedOrPrinted) {
   (void)Open([&] {
-    ChoosePerPage(2);
-    ChoosePages(7);
-    EnterFrom("33");
-    Check(form_.CheckSolution, "CheckSolution", false);
-    Check(form_.CheckPencils, "CheckPencils", false);
+    Press("OptionAantal", 2);
+    ChoosePages(2);
+    form_.TextFrom.text = "33";
+    Press("TextFrom", kNoIndex, EventKind::Leave);
+    form_.CheckPencils.value = false;
+    Press("CheckPencils");
     form_.SudokuTypeKeuze.index = 4;
     Press("SudokuTypeKeuze");
     EXPECT_EQ(dialog_.Remembered(), PrintSettings{.level_index = 2});
     Press("Command1");
-    EXPECT_FALSE(form_.window.open);
   });
-  PrintSettings expected{7, 4, false, false, 33, 4};
-  EXPECT_EQ(dialog_.Remembered(), expected);
   form_ = MakeFormPrint();
-  // The level is the window's each time; the program may end while the dialog is open.
-  ending_ = true;
-  EXPECT_FALSE(Open(
-      [&] {
-        EXPECT_EQ(form_.PageSlider.value, 7);
-        EXPECT_TRUE(form_.OptionAantal(2).value && !form_.OptionAantal(0).value);
-        EXPECT_EQ(form_.TextFrom.text, "33");
-        EXPECT_EQ(form_.LabelTo.caption, "to 60");
-        EXPECT_EQ(form_.SudokuTypeKeuze.index, 0);
-        EXPECT_EQ(form_.PrintVoorbeeld.file, "/p\\PRN4.GIF");
-        ChoosePages(2);
-        form_.SudokuTypeKeuze.index = -1;  // no level: the one before stays
-        Press("SudokuTypeKeuze");
-        Press("Command2");
-      },
-      1));
-  expected = {2, 4, false, false, 33, 0};
-  EXPECT_EQ(dialog_.Remembered(), expected);
-  EXPECT_EQ(page_.pages.size(), 2U);
-  EXPECT_EQ(RecordingPage::Find(page_.pages[1], "# 40").size(), 1U);
-  EXPECT_EQ(RecordingPage::Find(page_.pages[1], "Very Easy").size(), 1U);
-  EXPECT_EQ(printer_.begun + printer_.ended, 2);
+  (void)Open([&] {
+    EXPECT_TRUE(form_.OptionAantal(2).value && !form_.OptionAantal(0).value && form_.CheckSolution.value);
+    EXPECT_EQ(form_.PageSlider.value, 2);
+    EXPECT_EQ(form_.TextFrom.text + form_.LabelTo.caption, "33to 40");
+    EXPECT_EQ(form_.SudokuTypeKeuze.index, 2) << "the main window's level, each time";
+    Press("Command2");
+  });
+  EXPECT_EQ(dialog_.Remembered(), (PrintSettings{2, 4, true, false, 33, 2}));
+  EXPECT_EQ(printer_.ended, 1);
+  ASSERT_EQ(printer_.page.pages.size(), 2U);
+  for (const std::string_view text : {"# 37", "# 40", "Medium", "Page 2"}) {
+    EXPECT_EQ(std::ranges::count(printer_.page.pages[1], text, &Drawn::text), 1) << text;
+  }
 }
 
-TEST_F(PrintDialogTest, SaysThatThePrinterDoesNotAnswer) {
+TEST_F(PrintDialogTest, GivesUpWithoutAPrinterAndStopsWithOne) {
   printer_.works = false;
-  EXPECT_TRUE(Open([&] { FAIL() << "the dialog stayed open"; }));
-  EXPECT_EQ(messages_,
-            std::vector<std::string>{
-                "Printer error: An error occured while attempting to communicate with the standard printer, "
-                "please check the availability and status of your printer."});
-  EXPECT_FALSE(form_.window.open);
-  page_.width = 0;  // nor one that cannot tell the size of its paper
+  EXPECT_TRUE(Open([] { FAIL() << "the dialog stayed open"; }));
   printer_.works = true;
-  EXPECT_TRUE(Open([&] { FAIL() << "the dialog stayed open"; }));
-  EXPECT_EQ(messages_.size(), 2U);
-}
-
-TEST_F(PrintDialogTest, StopsWhenThePrinterSaysSo) {
+  printer_.page.width = 0;  // nor does a printer work that knows no paper
+  EXPECT_TRUE(Open([] { FAIL() << "the dialog stayed open"; }));
+  EXPECT_EQ(messages_, std::vector<std::string>(2,
+                                                "An error occured while attempting to communicate with the "
+                                                "standard printer, please check the availability and "
+                                                "status of your printer."));
+  printer_.page.width = 2100;
   (void)Open([&] {
     ChoosePages(5);
     printer_.wants_document = false;  // no file name was given
     Press("Command2");
-    EXPECT_EQ(page_.pages.size(), 0U);
-    EXPECT_EQ(printer_.ended, 0);
+    EXPECT_EQ(printer_.page.pages.size() + static_cast<std::size_t>(printer_.ended), 0U);
     printer_.wants_document = true;
-    page_.on_page = [&] {
-      // What the user presses meanwhile is dropped.
-      Press("Command2");
+    printer_.page.on_page = [&] {
+      Press("Command2");  // what the user presses meanwhile is dropped
       Press("Command1");
-      return page_.pages.size() < 2;
+      return printer_.page.pages.size() < 2;
     };
     Press("Command2");
-    EXPECT_EQ(page_.pages.size(), 2U);
-    EXPECT_EQ(printer_.begun, 2);
-    EXPECT_EQ(printer_.ended, 1);
-    EXPECT_TRUE(form_.window.open);
-    Send(EventKind::Close, {"FormPrint"});
-    EXPECT_FALSE(form_.window.open);
+    EXPECT_EQ(printer_.page.pages.size(), 2U);
+    EXPECT_TRUE(printer_.begun == 2 && printer_.ended == 1 && form_.window.open);
   });
 }
 
