@@ -53,8 +53,8 @@ struct Mirror::View {
   std::map<int, QWidget*> tab_order;
 };
 
-Mirror::Mirror(Forms& forms, EventSink& sink, Surroundings surroundings)
-    : forms_(forms), sink_(sink), surroundings_(std::move(surroundings)) {
+Mirror::Mirror(EventSink& sink, Surroundings surroundings)
+    : sink_(sink), surroundings_(std::move(surroundings)) {
 }
 
 Mirror::~Mirror() {
@@ -77,7 +77,7 @@ void Mirror::Add(View& view, ControlId id, C& control) {
                                     }
                                   }
                                 },
-                                surroundings_.picture_folder};
+                                QStringLiteral(":/icons/logo.png")};
     view.controls.push_back(MakeMirrored(context, ParentFor(view, id), id, control));
     QWidget* widget = view.controls.back()->Widget();
     if (widget != nullptr && control.tab_index >= 0) view.tab_order[control.tab_index] = widget;
@@ -119,10 +119,10 @@ void Mirror::BuildForm(View& view, Form& form) {
 }
 
 void Mirror::BuildMain(View& view) {
-  BuildForm(view, forms_.main);
-  board_ = new BoardWidget(forms_.main, sink_, surroundings_.marks_are_candidates, view.window.get());
+  BuildForm(view, forms_->main);
+  board_ = new BoardWidget(forms_->main, sink_, surroundings_.marks_are_candidates, view.window.get());
   board_->lower();
-  view.window->on_paint = [this](QPainter& painter) { PaintListFrame(painter, forms_.main); };
+  view.window->on_paint = [this](QPainter& painter) { PaintListFrame(painter, forms_->main); };
   for (int i = 0; i < 2 * kTechniqueRows; ++i) {
     list_[static_cast<std::size_t>(i)] = dynamic_cast<TextLabel*>(WidgetOf(FormId::Main, {"LabelCount", i}));
   }
@@ -130,7 +130,7 @@ void Mirror::BuildMain(View& view) {
 }
 
 void Mirror::BuildBrowser(View& view) {
-  BuildForm(view, forms_.browser);
+  BuildForm(view, forms_->browser);
   help_ = dynamic_cast<HelpView*>(WidgetOf(FormId::Browser, {"WebBrowser1"}));
   help_->SetFolder(surroundings_.help_folder);
   AddHelpBar(*view.window, *help_);
@@ -164,11 +164,11 @@ void Mirror::ConnectWindow(View& view, Window& window) {
 
 // The help window's own rule: the view is smaller than the window by a fixed margin.
 void Mirror::FitHelpView(View& view) {
-  Window& window = forms_.browser.window;
+  Window& window = forms_->browser.window;
   window.width = view.shown.width = view.window->width() * kTwipsPerPixel;
   window.height = view.shown.height = view.window->height() * kTwipsPerPixel;
-  forms_.browser.WebBrowser1.width = window.width - kBrowserMarginX;
-  forms_.browser.WebBrowser1.height = window.height - kBrowserMarginY;
+  forms_->browser.WebBrowser1.width = window.width - kBrowserMarginX;
+  forms_->browser.WebBrowser1.height = window.height - kBrowserMarginY;
   for (const MirroredPtr& control : view.controls) control->Sync();
 }
 
@@ -206,9 +206,9 @@ void Mirror::SyncWindow(View& view) {
 // names.
 void Mirror::SyncList() {
   for (int slot = 0; slot < kTechniqueRows; ++slot) {
-    const Label& name = forms_.main.LabelCount(slot);
-    const Label& count = forms_.main.LabelCount(kTechniqueRows + slot);
-    const bool rule = slot > 0 && name.back != forms_.main.LabelCount(slot - 1).back;
+    const Label& name = forms_->main.LabelCount(slot);
+    const Label& count = forms_->main.LabelCount(kTechniqueRows + slot);
+    const bool rule = slot > 0 && name.back != forms_->main.LabelCount(slot - 1).back;
     list_[static_cast<std::size_t>(slot)]->SetRule(rule);
     TextLabel* number = list_[static_cast<std::size_t>(kTechniqueRows + slot)];
     number->SetRule(rule);
@@ -229,10 +229,10 @@ Mirror::View& Mirror::ViewOf(FormId form) {
       BuildMain(*view);
       break;
     case FormId::Names:
-      BuildForm(*view, forms_.names);
+      BuildForm(*view, forms_->names);
       break;
     case FormId::Print:
-      BuildForm(*view, forms_.print);
+      BuildForm(*view, forms_->print);
       break;
     case FormId::Browser:
       BuildBrowser(*view);

@@ -29,14 +29,18 @@ class Mirror {
   struct Surroundings {
     std::function<bool()> marks_are_candidates;  // of the open puzzle
     QString help_folder;                         // host path of the installed help pages
-    QString picture_folder;                      // host path of logo and icons
   };
 
-  // Both must outlive the mirror. Windows are made when they are first needed.
-  Mirror(Forms& forms, EventSink& sink, Surroundings surroundings);
+  // The sink must outlive the mirror.
+  Mirror(EventSink& sink, Surroundings surroundings);
   ~Mirror();
   Mirror(const Mirror&) = delete;
   Mirror& operator=(const Mirror&) = delete;
+
+  // The forms to show, which must outlive the mirror; before everything else. Windows are made when they are
+  // first needed.
+  void Attach(Forms& forms) { forms_ = &forms; }
+  [[nodiscard]] Forms& Controls() const { return *forms_; }
 
   // Brings everything on the screen in line with the controls.
   void Sync();
@@ -70,7 +74,7 @@ class Mirror {
   void SyncList();
   QWidget* ParentFor(View& view, ControlId id);
 
-  Forms& forms_;
+  Forms* forms_ = nullptr;
   EventSink& sink_;
   Surroundings surroundings_;
   std::array<std::unique_ptr<View>, 4> views_;

@@ -116,7 +116,7 @@ int QtScreen::Height() {
 }
 
 void QtScreen::Show(FormId form) {
-  Window& window = forms_.WindowOf(form);
+  Window& window = mirror_.Controls().WindowOf(form);
   if (window.open) return;
   window.open = true;
   FormWindow& widget = mirror_.WindowOf(form);
@@ -130,7 +130,7 @@ void QtScreen::Show(FormId form) {
 }
 
 void QtScreen::Hide(FormId form) {
-  Window& window = forms_.WindowOf(form);
+  Window& window = mirror_.Controls().WindowOf(form);
   if (!window.open) return;
   window.open = false;
   if (FormWindow* widget = mirror_.ExistingWindow(form)) widget->hide();
@@ -141,7 +141,7 @@ void QtScreen::Hide(FormId form) {
 bool QtScreen::WaitUntilHidden(FormId form) {
   if (dispatcher_.Ended()) return false;
   mirror_.Sync();
-  if (forms_.WindowOf(form).open) {
+  if (mirror_.Controls().WindowOf(form).open) {
     QEventLoop loop;
     QEventLoop*& waiting = waiting_[static_cast<std::size_t>(form)];
     waiting = &loop;

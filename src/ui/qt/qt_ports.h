@@ -36,9 +36,8 @@ class UnattendedAsker final : public Asker {
 
 class QtScreen final : public Screen {
  public:
-  // All must outlive this object.
-  QtScreen(Forms& forms, Mirror& mirror, Dispatcher& dispatcher)
-      : forms_(forms), mirror_(mirror), dispatcher_(dispatcher) {}
+  // Both must outlive this object.
+  QtScreen(Mirror& mirror, Dispatcher& dispatcher) : mirror_(mirror), dispatcher_(dispatcher) {}
 
   int Width() override;
   int Height() override;
@@ -49,7 +48,6 @@ class QtScreen final : public Screen {
   void Beep() override;
 
  private:
-  Forms& forms_;
   Mirror& mirror_;
   Dispatcher& dispatcher_;
   std::array<QEventLoop*, 4> waiting_{};  // the loop that waits for a form to be hidden

@@ -23,6 +23,15 @@ inline constexpr const char* kMarks = "marks";
 inline constexpr const char* kGiven = "given";
 inline constexpr const char* kMark = "mark";
 
+// Printing
+inline constexpr const char* kSavePdf = "Print into a PDF file";
+inline constexpr const char* kPdfFiles = "PDF files (*.pdf)";
+inline constexpr const char* kPdfName = "Kestrel Sudoku.pdf";
+inline constexpr const char* kPrinting = "Printing...";
+inline constexpr const char* kStop = "Stop";
+inline constexpr const char* kNotSaved = "PDF file";
+inline constexpr const char* kNotSavedWhy = "The file could not be written:\n";
+
 // Help window
 inline constexpr const char* kBack = "&Back";
 inline constexpr const char* kForward = "&Forward";

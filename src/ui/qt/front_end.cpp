@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt/front_end.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QPixmap>
+#include <QToolTip>
+#include <cstdio>
+
+#include "ui/qt/command_line.h"
+#include "ui/qt/fonts.h"
+#include "ui/qt/form_window.h"
+#include "ui/qt/palette.h"
+#include "ui/qt/small_widgets.h"
+#include "ui/qt/style.h"
+#include "ui/qt/text_conversion.h"
+
+namespace kestrel {
+
+FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool unattended)
+    : mirror_(dispatcher_, {[this] { return game_.State().puzzle.MarksAreCandidates(); },
+                            QString::fromStdString(help_folder)}),
+      asker_(mirror_, dispatcher_),
+      screen_(mirror_, dispatcher_),
+      help_(mirror_),
+      printer_(mirror_, dispatcher_, host.host_files, asker_),
+      game_(Ports{host.program, host.folders, host.files, host.settings, host.clock, host.seeds, dispatcher_,
+                  unattended ? static_cast<Asker&>(unattended_asker_) : asker_, screen_, sound_, help_,
+                  shell_, printer_}) {
+  mirror_.Attach(game_.Controls());
+  dispatcher_.Attach(game_, [this] { mirror_.Sync(); });
+}
+
+int FrontEnd::Run() {
+  if (!dispatcher_.Start()) return dispatcher_.ExitStatus();
+  const int status = QApplication::exec();
+  return dispatcher_.Ended() ? dispatcher_.ExitStatus() : status;
+}
+
+int FrontEnd::TakeScreenshot(const std::string& file) {
+  if (!dispatcher_.Start()) return dispatcher_.ExitStatus();
+  dispatcher_.RunWorkLeft();
+  Event next;
+  next.control = {"CommandNew"};
+  dispatcher_.Send(next);
+  dispatcher_.RunWorkLeft();
+  QApplication::processEvents();
+  if (dispatcher_.Ended()) return dispatcher_.ExitStatus();
+  if (mirror_.WindowOf(FormId::Main).grab().save(QString::fromStdString(file))) return 0;
+  std::fprintf(stderr, "kestrel-sudoku: the picture could not be written to %s\n", file.c_str());
+  return kExitUsage;
+}
+
+void SetUpLook() {
+  InstallFontSubstitutes();
+  InstallLabelAccess();
+  QApplication::setStyle(new CalmStyle);
+  QApplication::setPalette(CalmPalette());
+  QApplication::setFont(WindowFont());
+  QToolTip::setPalette(CalmPalette());
+  QToolTip::setFont(WindowFont());
+  QIcon icon;
+  for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+    icon.addFile(QStringLiteral(":/icons/kestrel-sudoku-%1.png").arg(size), QSize(size, size));
+  }
+  QApplication::setWindowIcon(icon);
+  // A last window that hides is not the end; only the game's own decision is.
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+}  // namespace kestrel

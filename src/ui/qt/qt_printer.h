@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+// The standard printer, or a PDF file where the machine has none. Built by the front end.
+#pragma once
+
+#include <QPainter>
+#include <QPrinter>
+#include <QProgressDialog>
+#include <memory>
+#include <optional>
+
+#include "core/files.h"
+#include "print/pdf_page.h"
+#include "ui/ports/asker.h"
+#include "ui/ports/page.h"
+#include "ui/qt/dispatcher.h"
+#include "ui/qt/mirror.h"
+
+namespace kestrel {
+
+// A sheet of a printer that Qt drives. One unit is one dot of the printer.
+class QtPage final : public Page {
+ public:
+  explicit QtPage(const QString& printer_name);
+
+  // True when the printer takes A4 upright.
+  [[nodiscard]] bool Usable();
+  [[nodiscard]] bool Begin();
+  // Sends what was printed, or throws it away.
+  void End(bool keep);
+
+  int Width() override;
+  int Height() override;
+  TextSize Measure(const TextStyle& style, std::string_view text) override;
+  void Text(int x, int y, const TextStyle& style, std::string_view text) override;
+  void Line(int x1, int y1, int x2, int y2, int width) override;
+  void Box(int x1, int y1, int x2, int y2, int width) override;
+  [[nodiscard]] bool NewPage() override;
+
+ private:
+  [[nodiscard]] QFont FontOf(const Font& font) const;
+  void SetPen(int width);
+  void StartPending();
+
+  QPrinter printer_;
+  QPainter painter_;
+  bool new_page_pending_ = false;  // begun only when something is drawn on it, so that none stays empty
+};
+
+class QtPrinter final : public Printer {
+ public:
+  // All must outlive this object. `files` takes paths as the host spells them.
+  QtPrinter(Mirror& mirror, Dispatcher& dispatcher, Files& files, Asker& asker);
+  ~QtPrinter() override;
+
+  Page* SetUp() override;
+  [[nodiscard]] bool BeginDocument() override;
+  void EndDocument() override;
+
+ private:
+  class WatchedPage;
+
+  [[nodiscard]] std::optional<QString> AskForFile();
+  void WritePdf();
+  [[nodiscard]] bool PageDone();
+
+  Mirror& mirror_;
+  Dispatcher& dispatcher_;
+  Files& files_;
+  Asker& asker_;
+
+  std::unique_ptr<QtPage> printer_page_;  // null: the standard printer is a PDF file
+  std::unique_ptr<PdfPage> pdf_page_;
+  std::unique_ptr<WatchedPage> page_;  // one of the two, with progress
+  std::unique_ptr<QProgressDialog> progress_;
+  QString file_;
+  bool stopped_ = false;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// Plays the sounds through Qt Multimedia. Built by the front end.
+#pragma once
+
+#include <QSoundEffect>
+#include <memory>
+#include <vector>
+
+#include "ui/ports/sound_device.h"
+
+namespace kestrel {
+
+// One voice per sound: a sound that is played again while it lasts starts anew, so that a burst of clicks
+// does not pile up.
+class QtSoundDevice final : public SoundDevice {
+ public:
+  bool Open() override;
+  std::int32_t Load(std::string_view path) override;
+  void Play(std::int32_t id) override;
+
+ private:
+  std::vector<std::unique_ptr<QSoundEffect>> effects_;  // the id is the place
+};
+
+// True for a file that begins as a wave file and holds a format and samples.
+bool IsWaveFile(const QString& path);
+
+}  // namespace kestrel
