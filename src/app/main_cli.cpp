@@ -37,12 +37,16 @@ std::string UserStock() {
   return folder.append("/").append(names::kDataFolder).append("/").append(kStockFileName);
 }
 
-// The stock that was installed with this program; empty when there is none.
+// The stock that was installed with this program or, for a program that runs where it was built, that of the
+// source; empty when there is none.
 std::string ShippedStock() {
   std::error_code error;
   const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
-  const std::filesystem::path stock = program.parent_path() / KESTREL_SHARE_FROM_BIN / kStockFileName;
-  return std::filesystem::exists(stock, error) ? stock.lexically_normal().string() : "";
+  for (const char* folder : {KESTREL_SHARE_FROM_BIN, KESTREL_DATA_FROM_BUILD}) {
+    const std::filesystem::path stock = program.parent_path() / folder / kStockFileName;
+    if (std::filesystem::exists(stock, error)) return stock.lexically_normal().string();
+  }
+  return "";
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The search for the least disguise. In the least grid the first row reads 123456789, because any row can be
 // renamed so; that leaves 2 (turned over or not) x 18 (first and second row, in one band) x 1,296 (columns)
-// = 46,656 openings. Nearly all of them lose to the best so far in the first cells of the second row. What
+// = 46,656 openings. Nearly all of them lose to the best so far in the first
+// cells of the second row. What
 // an opening leaves free is decided by its first column: rows and bands must ascend there.
 #include "cli/canonical_form.h"
 
@@ -25,28 +26,38 @@ DigitGrid TurnedOver(const DigitGrid& grid) {
   return result;
 }
 
+struct ColumnOrder {
+  Order column{};  // place 0..8 -> column of the grid
+  Order place{};   // column of the grid -> place
+};
+
 // The 1,296 orders of the columns that keep the stacks together.
-const std::array<Order, 1296>& ColumnOrders() {
-  static const std::array<Order, 1296> orders = [] {
-    std::array<Order, 1296> list{};
-    auto order = list.begin();
-    for (const auto& stacks : kOrdersOfThree) {
-      for (int inside = 0; inside < 216; ++inside) {
-        const std::array<int, 3> choice{inside / 36, inside / 6 % 6, inside % 6};
-        for (int k = 0; k < 9; ++k) (*order)[k] = 3 * stacks[k / 3] + kOrdersOfThree[choice[k / 3]][k % 3];
-        ++order;
+std::array<ColumnOrder, 1296> AllColumnOrders() {
+  std::array<ColumnOrder, 1296> orders{};
+  auto order = orders.begin();
+  for (const auto& stacks : kOrdersOfThree) {
+    for (int inside = 0; inside < 216; ++inside, ++order) {
+      const std::array<int, 3> choice{inside / 36, inside / 6 % 6, inside % 6};
+      for (int k = 0; k < 9; ++k) {
+        order->column[k] = 3 * stacks[k / 3] + kOrdersOfThree[choice[k / 3]][k % 3];
+        order->place[order->column[k]] = k;
       }
     }
-    return list;
-  }();
+  }
   return orders;
 }
 
 // One way of turning and reordering the grid, and the names that make its first row read 123456789.
 struct Disguise {
+  Disguise(const DigitGrid& solution_grid, const DigitGrid& given_digits, const Order& row_order,
+           const Order& column_order)
+      : solution(solution_grid), givens(given_digits), rows(row_order), columns(column_order) {
+    for (int k = 0; k < 9; ++k) name[solution[9 * rows[0] + columns[k]]] = static_cast<std::uint8_t>(k + 1);
+  }
+
   const DigitGrid& solution;
   const DigitGrid& givens;
-  Order rows{};
+  Order rows;  // only the first three places are filled at first
   const Order& columns;
   std::array<std::uint8_t, 10> name{};  // old digit -> new digit; 0 stays 0
 
@@ -76,19 +87,38 @@ struct Disguise {
   }
 };
 
-// Tries one opening against the best disguise so far.
-void TryOpening(Disguise disguise, CanonicalPuzzle& best) {
-  for (int k = 0; k < 9; ++k) {
-    disguise.name[disguise.solution[9 * disguise.rows[0] + disguise.columns[k]]] =
-        static_cast<std::uint8_t>(k + 1);
+// Where row `second` has the digits of row `first`: column of the second row -> column of the first. With it
+// the second row of a disguise is known without renaming a digit.
+Order SameDigits(const DigitGrid& solution, int first, int second) {
+  Order column_of{};
+  for (int c = 0; c < 9; ++c) {
+    for (int other = 0; other < 9; ++other) {
+      if (solution[9 * second + c] == solution[9 * first + other]) column_of[c] = other;
+    }
   }
+  return column_of;
+}
+
+// Whether the second row of an opening is above that of the best disguise so far.
+bool SecondRowIsAbove(const ColumnOrder& order, const Order& same_digits, const CanonicalPuzzle& best) {
   for (int k = 0; k < 9; ++k) {
-    const int digit = disguise.Digit(disguise.rows[1], k);
-    if (digit > best.solution[9 + k]) return;
-    if (digit < best.solution[9 + k]) break;
+    const int digit = order.place[same_digits[order.column[k]]] + 1;
+    if (digit != best.solution[9 + k]) return digit > best.solution[9 + k];
   }
-  disguise.OrderLowerBands();
-  best = std::min(best, disguise.Applied());
+  return false;
+}
+
+// Tries all orders of the columns for one choice of the first three rows.
+void TryOpenings(const DigitGrid& solution, const DigitGrid& givens, const Order& rows,
+                 CanonicalPuzzle& best) {
+  static const std::array<ColumnOrder, 1296> orders = AllColumnOrders();
+  const Order same_digits = SameDigits(solution, rows[0], rows[1]);
+  for (const ColumnOrder& order : orders) {
+    if (SecondRowIsAbove(order, same_digits, best)) continue;
+    Disguise disguise(solution, givens, rows, order.column);
+    disguise.OrderLowerBands();
+    best = std::min(best, disguise.Applied());
+  }
 }
 
 }  // namespace
@@ -100,12 +130,9 @@ CanonicalPuzzle CanonicalForm(const DigitGrid& givens, const DigitGrid& solution
       {{solution, givens}, {TurnedOver(solution), TurnedOver(givens)}}};
   for (const auto& [turned_solution, turned_givens] : sides) {
     for (int band = 0; band < 3; ++band) {
-      for (const auto& rows : kOrdersOfThree) {
-        for (const Order& columns : ColumnOrders()) {
-          Disguise disguise{turned_solution, turned_givens, {}, columns, {}};
-          for (int k = 0; k < 3; ++k) disguise.rows[k] = 3 * band + rows[k];
-          TryOpening(disguise, best);
-        }
+      for (const auto& inside : kOrdersOfThree) {
+        const Order rows{3 * band + inside[0], 3 * band + inside[1], 3 * band + inside[2]};
+        TryOpenings(turned_solution, turned_givens, rows, best);
       }
     }
   }

@@ -18,7 +18,6 @@ struct ScoreGroup {
   std::size_t first;
   std::size_t last;
   std::size_t wanted = 0;
-  std::size_t Spare() const { return last - first - wanted; }
 };
 
 std::vector<ScoreGroup> GroupsOf(const std::vector<PoolPuzzle>& sorted) {
@@ -30,29 +29,20 @@ std::vector<ScoreGroup> GroupsOf(const std::vector<PoolPuzzle>& sorted) {
   return groups;
 }
 
-// Wants one more of the group at `ideal`, or of the nearest group that has one to spare.
-void WantNear(std::vector<ScoreGroup>& groups, std::size_t ideal) {
-  for (std::size_t distance = 0; distance < groups.size(); ++distance) {
-    if (ideal >= distance && groups[ideal - distance].Spare() > 0) {
-      ++groups[ideal - distance].wanted;
-      return;
-    }
-    if (ideal + distance < groups.size() && groups[ideal + distance].Spare() > 0) {
-      ++groups[ideal + distance].wanted;
-      return;
-    }
-  }
-}
-
 std::vector<PoolPuzzle> SpreadOverScores(const std::vector<PoolPuzzle>& sorted) {
-  if (sorted.size() <= kPuzzlesPerLevel) return sorted;
   std::vector<ScoreGroup> groups = GroupsOf(sorted);
-  for (std::size_t i = 0; i < kPuzzlesPerLevel; ++i) {
-    // With more groups than places both the lowest and the highest score are taken.
-    const std::size_t ideal = groups.size() < kPuzzlesPerLevel
-                                  ? i * groups.size() / kPuzzlesPerLevel
-                                  : i * (groups.size() - 1) / (kPuzzlesPerLevel - 1);
-    WantNear(groups, ideal);
+  // In rounds, one of every score that has any left; the last round takes scores at even distances.
+  std::size_t left = std::min<std::size_t>(sorted.size(), kPuzzlesPerLevel);
+  while (left > 0) {
+    std::vector<ScoreGroup*> open;
+    for (ScoreGroup& group : groups) {
+      if (group.wanted < group.last - group.first) open.push_back(&group);
+    }
+    const std::size_t takes = std::min(left, open.size());
+    for (std::size_t i = 0; i < takes; ++i) {
+      ++open[takes == 1 ? open.size() / 2 : i * (open.size() - 1) / (takes - 1)]->wanted;
+    }
+    left -= takes;
   }
   std::vector<PoolPuzzle> chosen;
   for (const ScoreGroup& group : groups) {

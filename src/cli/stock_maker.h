@@ -34,11 +34,10 @@ void AddToPool(Pool& pool, const RatedPuzzle& puzzle);
 // A technique is to occur in this many puzzles of the stock, if the pool has so many.
 inline constexpr int kWantedPerTechnique = 5;
 
-// Takes 100 puzzles of every level, ascending by score. The scores are spread: the different scores that
-// occur in the pool are taken evenly, from the least to the greatest, each as often as the others or once
-// more. Then techniques that occur in too few puzzles are brought in from the whole pool, each in place of
-// the puzzle nearest in score. The pool's order does not matter. A level with fewer than 100 puzzles in the
-// pool gives what it has.
+// Takes 100 puzzles of every level, ascending by score. The scores are spread: all that occur in the pool are
+// taken equally often; where that does not come out even, those at even distances once more. Then techniques
+// that occur in too few puzzles are brought in from the whole pool, each in place of the puzzle nearest in
+// score. The pool's order does not matter. A level with fewer than 100 puzzles in the pool gives what it has.
 Pool ChooseStock(const Pool& pool);
 
 // How many of the puzzles need the technique of a display slot (0..21).

@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: MIT
+// The command line as a whole: arguments, input lines, and what rate, solve and generate write.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <set>
+
+#include "cli/cli_run.h"
+#include "cli/json.h"
+#include "cli/progress.h"
+#include "cli/puzzle_reader.h"
+#include "support/plain_solver.h"
+#include "support/temp_folder.h"
+#include "support/test_puzzles.h"
+
+namespace kestrel {
+namespace {
+
+constexpr std::string_view kEasy =
+    "043000080600700003000100090306200500000905000004003108060009000200007006090000830";
+constexpr std::string_view kEasySolved =
+    "743592681619748253825136497386214579172985364954673128468329715231857946597461832";
+
+// Puzzles of all kinds, and some that contradict themselves, one a line.
+std::string ManyPuzzles(int count, std::uint64_t seed) {
+  RandomSource random(seed);
+  std::string text;
+  for (int i = 0; i < count; ++i) {
+    DigitGrid puzzle = testing::MakeTestPuzzle(random);
+    if (i % 10 == 9) puzzle[random.Below(81)] = static_cast<std::uint8_t>(random.Below(10));
+    text += GridText(puzzle) + '\n';
+  }
+  return text;
+}
+
+TEST(Usage, ErrorsAreStatusTwoWithAHint) {
+  const std::vector<std::pair<std::vector<std::string>, std::string>> cases{
+      {{}, "no command given"},
+      {{"dance"}, "unknown command 'dance'"},
+      {{"stock"}, "stock: no command given"},
+      {{"stock", "burn"}, "unknown command 'stock burn'"},
+      {{"rate", "--fast"}, "rate: unknown option '--fast'"},
+      {{"rate", "-x"}, "rate: unknown option '-x'"},
+      {{"rate", "--format"}, "rate: option '--format' needs a value"},
+      {{"rate", "--format", "xml"}, "rate: option '--format' needs 'tsv' or 'json', not 'xml'"},
+      {{"rate", "--solutions=2"}, "rate: option '--solutions' takes no value"},
+      {{"rate", "--jobs", "0"}, "rate: option '--jobs' needs a whole number from 1 to 1024, not '0'"},
+      {{"rate", "--jobs", "-1"}, "from 1 to 1024, not '-1'"},
+      {{"rate", "--jobs", "2x"}, "from 1 to 1024, not '2x'"},
+      {{"solve", "--steps", "--trace"}, "exclude each other"},
+      {{"generate", "extra"}, "generate: unexpected argument 'extra'"},
+      {{"generate", "--level", "7"}, "from 1 to 6, not '7'"},
+      {{"generate", "--seed", "18446744073709551616"}, "not '18446744073709551616'"},
+      {{"stock", "new"}, "the FILE to write is missing"},
+      {{"stock", "list", "a", "--stock", "b"}, "named twice"},
+      {{"stock", "renew"}, "needs '--level'"},
+  };
+  for (const auto& [words, error] : cases) {
+    const CliResult result = RunWith(words, std::string(kEasy));
+    EXPECT_EQ(result.status, 2) << error;
+    EXPECT_NE(result.err.find(error), std::string::npos) << result.err;
+    EXPECT_NE(result.err.find("--help'"), std::string::npos) << result.err;
+    EXPECT_EQ(result.out, "");
+  }
+}
+
+TEST(Usage, HelpAndVersion) {
+  const CliResult version = RunWith({"--version"});
+  EXPECT_EQ(version.status, 0);
+  EXPECT_TRUE(version.out.starts_with("kestrel-sudoku-cli 0") ||
+              version.out.starts_with("kestrel-sudoku-cli 1"));
+  const CliResult help = RunWith({"--help"});
+  EXPECT_EQ(help.status, 0);
+  for (const char* command : {"rate", "solve", "generate", "stock new", "stock renew", "stock verify",
+                              "stock list", "stock export"}) {
+    EXPECT_NE(help.out.find(std::string("\n  ") + command + " "), std::string::npos) << command;
+    std::vector<std::string> words = Fields(command, ' ');
+    words.push_back("--help");
+    const CliResult of_command = RunWith(words);
+    EXPECT_EQ(of_command.status, 0);
+    EXPECT_TRUE(of_command.out.starts_with(std::string("Usage: kestrel-sudoku-cli ") + command));
+    for (const std::string& line : Lines(of_command.out)) EXPECT_LE(line.size(), 90U) << line;
+  }
+}
+
+TEST(Input, BadLinesAreReportedAndTheRestStillRuns) {
+  TempFolder folder;
+  std::string dots(kEasy);
+  std::ranges::replace(dots, '0', '.');
+  const std::string easy(kEasy);
+  folder.Put("a.txt", "\xEF\xBB\xBF" + dots + " a comment\r\n\n  \t\r\n# a remark\n" + easy.substr(0, 80) +
+                          "\n" + easy.substr(0, 40) + "x" + easy.substr(41) + "\n" + easy +
+                          std::string(100'000, '7') + "\n " + easy);
+  const std::string a = folder.Path("a.txt");
+  const std::string gone = folder.Path("gone.txt");
+  const CliResult result = RunWith({"rate", a, gone, "-", folder.Path()}, easy + "\n123\n");
+  EXPECT_EQ(result.status, 2);  // files that cannot be read weigh more than bad lines
+  EXPECT_EQ(Lines(result.out).size(), 4U);
+  EXPECT_EQ(result.err, a + ":5: only 80 of 81 characters\n" +                                 //
+                            a + ":6: character 41 is 'x', not a digit or '.'\n" +              //
+                            a + ":8: character 1 is a blank, not a digit or '.'\n" +           //
+                            "kestrel-sudoku-cli: " + gone + ": No such file or directory\n" +  //
+                            "<stdin>:2: only 3 of 81 characters\n" +                           //
+                            "kestrel-sudoku-cli: " + folder.Path().string() + ": Is a directory\n");
+  for (const std::string& line : Lines(result.out)) {
+    if (line.starts_with("puzzle")) continue;
+    EXPECT_EQ(Fields(line)[0], kEasy);
+    EXPECT_EQ(Fields(line)[25], kEasySolved);
+  }
+  const CliResult bad = RunWith({"rate", "--format", "json"}, "12\"\n" + easy);
+  EXPECT_EQ(bad.status, 1);
+  EXPECT_EQ(Lines(bad.out)[0],
+            R"({"schema":1,"file":"<stdin>","line":1,"error":"character 3 is '\"', not a digit or '.'"})");
+  EXPECT_EQ(Lines(bad.out).size(), 2U);
+  const CliResult none = RunWith({"solve"}, "\n");
+  EXPECT_EQ(none.status, 0);
+  EXPECT_EQ(none.out, "");
+}
+
+// Level, score, counts and grid of every line, against the plain solver of the tests.
+TEST(Rate, AgreesWithThePlainSolver) {
+  const std::string input = ManyPuzzles(300, 11);
+  const CliResult result = RunWith({"rate", "--solutions", "--jobs", "2"}, input);
+  EXPECT_EQ(result.status, 0);
+  const std::vector<std::string> lines = Lines(result.out);
+  EXPECT_EQ(lines[0],
+            "puzzle\tlevel\tscore\tHS\tNS\tPP\tBL\tN2\tN3\tH2\tN4\tH3\tN5\tXW\tYW\tTS\tSS\tSF\tMX\tFX\tUR\tAR"
+            "\tZW\tER"
+            "\tJF\tgrid\tsolutions");
+  ASSERT_EQ(lines.size(), 301U);
+  constexpr std::array<int, 22> kCounters{0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10,
+                                          11, 14, 15, 12, 13, 16, 17, 18, 19, 21, 20};
+  std::set<std::string> levels;
+  for (std::size_t i = 1; i < lines.size(); ++i) {
+    const std::vector<std::string> fields = Fields(lines[i]);
+    ASSERT_EQ(fields[0], Lines(input)[i - 1]);
+    std::array<int, 81> givens{};
+    for (std::size_t cell = 0; cell < 81; ++cell) givens[cell] = fields[0][cell] - '0';
+    plain::PlainSolver solver;
+    const int level = solver.SolveAndRate(givens);
+    EXPECT_EQ(fields[1], std::to_string(level));
+    const int score = level == 6 ? 0 : plain::PlainSolver::Score(level, solver.TechniqueCounters);
+    EXPECT_EQ(fields[2], std::to_string(score));
+    for (std::size_t slot = 0; slot < 22; ++slot) {
+      EXPECT_EQ(fields[3 + slot], std::to_string(solver.TechniqueCounters[kCounters[slot]]));
+    }
+    for (std::size_t cell = 0; cell < 81; ++cell) EXPECT_EQ(fields[25][cell], '0' + solver.CellValue[cell]);
+    EXPECT_EQ(fields[26], std::to_string(testing::CountSolutions(testing::GridFromText(fields[0]), 2)));
+    levels.insert(fields[1] + "/" + fields[26]);
+  }
+  EXPECT_TRUE(levels.contains("1/1") && levels.contains("6/0")) << levels.size();
+}
+
+TEST(Rate, JobsChangeNothing) {
+  const std::string input = "bad\n" + ManyPuzzles(500, 3) + "worse\n";
+  for (const std::vector<std::string>& command :
+       {std::vector<std::string>{"rate", "--format=json"}, {"solve", "--steps"}}) {
+    std::vector<std::string> words = command;
+    words.insert(words.end(), {"--jobs", "1"});
+    const CliResult one = RunWith(words, input);
+    words.back() = "5";
+    const CliResult five = RunWith(words, input);
+    EXPECT_EQ(one.status, 1);
+    EXPECT_EQ(five.status, 1);
+    EXPECT_EQ(one.out, five.out);
+    EXPECT_EQ(one.err, five.err);
+    EXPECT_GT(one.out.size(), 100'000U);
+  }
+}
+
+TEST(Solve, GridTraceAndSteps) {
+  const std::string input = std::string(kEasy) + "\n";
+  EXPECT_EQ(RunWith({"solve"}, input).out, std::string(kEasySolved) + "\n");
+  const std::string many = ManyPuzzles(200, 4);
+  const std::vector<std::string> traces = Lines(RunWith({"solve", "--trace"}, many).out);
+  const std::vector<std::string> steps = Lines(RunWith({"solve", "--steps", "--jobs=1"}, many).out);
+  ASSERT_EQ(traces.size(), 200U);
+  std::size_t next = 0;
+  for (std::size_t i = 0; i < traces.size(); ++i) {
+    std::array<int, 81> givens{};
+    for (std::size_t cell = 0; cell < 81; ++cell) givens[cell] = Lines(many)[i][cell] - '0';
+    plain::PlainSolver solver;
+    const int level = solver.SolveAndRate(givens);
+    std::string expected;
+    for (const int step : solver.Steps) expected += (expected.empty() ? "" : " ") + std::to_string(step);
+    EXPECT_EQ(traces[i], expected);
+    EXPECT_EQ(steps[next], "Puzzle " + Lines(many)[i]);
+    next += 1 + solver.Steps.size();
+    EXPECT_EQ(steps[next].starts_with("Solved in " + std::to_string(solver.Steps.size()) + " step"),
+              level < 6);
+    next += 3;
+  }
+  const CliResult json = RunWith({"solve", "--steps", "--format", "json"}, input);
+  EXPECT_NE(
+      json.out.find(R"("steps":[{"number":1,"step":1,"technique":"Hidden Single","form":1,"digits":[3],)"
+                    R"("pattern":[{"cell":"C5","digits":[3],"role":"base"}],"units":["box 2"],"covers":[],)"
+                    R"("place":{"cell":"C5","digit":3},"text":"Hidden Single on 3: no other place in box )"
+                    R"(2: places 3 in C5"},{"number":2,)"),
+      std::string::npos)
+      << json.out;
+}
+
+TEST(Generate, SameSeedSamePuzzlesWhateverTheJobs) {
+  const CliResult one = RunWith({"generate", "--count", "60", "--seed", "12", "--jobs", "1"});
+  EXPECT_EQ(one.err, "");
+  EXPECT_EQ(RunWith({"generate", "--count", "60", "--seed", "12", "--jobs", "4"}).out, one.out);
+  EXPECT_NE(RunWith({"generate", "--count", "60", "--seed", "13"}).out, one.out);
+  std::string of_level;
+  std::string puzzles;
+  for (const std::string& line : Lines(one.out)) {
+    const std::vector<std::string> fields = Fields(line);
+    ASSERT_EQ(fields.size(), 4U);
+    DigitGrid solution{};
+    EXPECT_EQ(testing::CountSolutions(testing::GridFromText(fields[0]), 2, &solution), 1);
+    EXPECT_EQ(GridText(solution), fields[1]);
+    if (fields[2] == "2") of_level += line + '\n';
+    puzzles += line + '\n';
+  }
+  // What generate says of a puzzle is what rate says of it; rate passes over the rest of the line.
+  const std::vector<std::string> rated = Lines(RunWith({"rate"}, puzzles).out);
+  ASSERT_EQ(rated.size(), 61U);
+  for (std::size_t i = 1; i < rated.size(); ++i) {
+    const std::vector<std::string> made = Fields(Lines(one.out)[i - 1]);
+    EXPECT_TRUE(rated[i].starts_with(made[0] + '\t' + made[2] + '\t' + made[3] + '\t'));
+  }
+  // With a level the same puzzles are made and the others left out.
+  const std::string count = std::to_string(Lines(of_level).size());
+  ASSERT_NE(count, "0");
+  EXPECT_EQ(RunWith({"generate", "--count", count, "--level", "2", "--seed", "12", "--jobs", "3"}).out,
+            of_level);
+  // A seed that was drawn is told, and gives the same again.
+  const CliResult drawn = RunWith({"generate", "--count=2"});
+  ASSERT_TRUE(drawn.err.starts_with("seed "));
+  EXPECT_EQ(RunWith({"generate", "--count=2", "--seed", drawn.err.substr(5, drawn.err.size() - 6)}).out,
+            drawn.out);
+}
+
+// The first puzzle of seed 1 is a promise to users: it never changes.
+TEST(Generate, FirstPuzzleOfSeedOne) {
+  EXPECT_EQ(RunWith({"generate", "--seed", "1"}).out,
+            "001000000890500000024009003063208097000050000780403210900300620000002039000000400\t"
+            "371824965896537142524169873463218597219756384785493216947385621158642739632971458\t6\t0\n");
+}
+
+TEST(Text, JsonStringsAndProgress) {
+  EXPECT_EQ(JsonString("a\"b\\c\n\x7f\xC3\xA9"), R"("a\"b\\c\u000a\u007f)"
+                                                 "\xC3\xA9\"");
+  EXPECT_EQ(JsonString("\xC3(\xE2\x82\xF5\xED\xA0\x80"), R"("\ufffd(\ufffd\ufffd\ufffd\ufffd\ufffd\ufffd")");
+  EXPECT_EQ(ProgressLine("rate", 50, 200, "12 puzzles"),
+            "rate [#######.......................]  25 %  12 puzzles");
+  EXPECT_EQ(ProgressLine("rate", 50, 0, "12 puzzles"), "rate  12 puzzles");
+}
+
+}  // namespace
+}  // namespace kestrel

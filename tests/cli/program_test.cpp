@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+// The program itself: exit status, lost output, signals. Through the shell, as users run it.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+
+#include "support/temp_folder.h"
+
+namespace kestrel {
+namespace {
+
+const std::string kProgram = "'" KESTREL_CLI "'";
+const std::string kPuzzle =
+    "043000080600700003000100090306200500000905000004003108060009000200007006090000830";
+
+// The exit status of a shell command; 128 + n for a program ended by signal n.
+int Shell(const std::string& command) {
+  const int status = std::system(command.c_str());
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST(Program, ExitStatus) {
+  EXPECT_EQ(Shell("echo " + kPuzzle + " | " + kProgram + " rate > /dev/null"), 0);
+  EXPECT_EQ(Shell("echo 123 | " + kProgram + " rate > /dev/null 2>&1"), 1);
+  EXPECT_EQ(Shell(kProgram + " rate no-such-file > /dev/null 2>&1"), 2);
+  EXPECT_EQ(Shell(kProgram + " rate --nonsense > /dev/null 2>&1"), 2);
+}
+
+TEST(Program, LostOutputIsNoticed) {
+  TempFolder folder;
+  const std::string lost = folder.Path("lost");
+  const std::string generate = kProgram + " generate --count 3000 --seed 1";
+  EXPECT_EQ(Shell(generate + " > /dev/full 2> " + lost), 2);
+  EXPECT_EQ(folder.Get("lost"), "kestrel-sudoku-cli: standard output could not be written\n");
+  EXPECT_EQ(Shell(kProgram + " --version > /dev/full 2> /dev/null"), 2);
+  EXPECT_EQ(Shell(kProgram + " --version >&- 2> /dev/null"), 2);
+  // The reader ends after one line: so does the program, at once and not by a signal.
+  EXPECT_EQ(Shell("{ timeout 20 " + kProgram + " generate --count 1000000000 2> /dev/null; echo $? > " +
+                  lost + "; } | head -n 1 > /dev/null"),
+            0);
+  EXPECT_EQ(folder.Get("lost"), "2\n");
+}
+
+// With the standard streams closed, the stock file must not get the number of one of them.
+TEST(Program, ClosedStreamsDoNotSpoilTheStock) {
+  TempFolder folder;
+  const std::string stock = folder.Path("stock");
+  const std::string make = kProgram + " stock new --seed 3 --pool 10000 " + stock;
+  ASSERT_EQ(Shell(make + " > /dev/null"), 0);
+  const std::string content = folder.Get("stock");
+  EXPECT_EQ(content.size(), 111'000U);
+  EXPECT_EQ(Shell(kProgram + " stock verify " + stock + " > /dev/null"), 0);
+  EXPECT_EQ(Shell(make + " <&- >&- 2>&-"), 2);
+  EXPECT_EQ(folder.Get("stock"), content);
+}
+
+TEST(Program, InterruptedStockIsAsItWas) {
+  TempFolder folder;
+  folder.Put("stock", "something of the user's");
+  const std::string stock = folder.Path("stock");
+  for (const char* signal : {"INT", "TERM"}) {
+    EXPECT_GT(Shell(std::string("timeout --preserve-status -s ") + signal + " 0.3 " + kProgram +
+                    " stock new --force --seed 1 " + stock + " 2> /dev/null"),
+              128);
+    EXPECT_EQ(folder.Get("stock"), "something of the user's");
+    EXPECT_EQ(folder.Count(), 1);
+  }
+  // Without --force it is not replaced at all.
+  EXPECT_EQ(Shell(kProgram + " stock new --seed 1 " + stock + " 2> /dev/null"), 2);
+  EXPECT_EQ(folder.Get("stock"), "something of the user's");
+}
+
+// A progress bar appears on a terminal only, and is taken off again.
+TEST(Program, ProgressBarOnATerminal) {
+  TempFolder folder;
+  const std::string typescript = folder.Path("typescript");
+  if (Shell("command -v script > /dev/null") != 0) GTEST_SKIP() << "script is not installed";
+  const std::string generate = "timeout 1 " + kProgram + " generate --count 1000000 --seed 1 > /dev/null";
+  Shell("script -q -c \"" + generate + "\" " + typescript + " > /dev/null 2>&1 < /dev/null");
+  EXPECT_NE(folder.Get("typescript").find("generate [..."), std::string::npos);
+  Shell(generate + " 2> " + typescript);
+  EXPECT_EQ(folder.Get("typescript"), "");
+}
+
+}  // namespace
+}  // namespace kestrel
