@@ -43,6 +43,13 @@ class CellSet {
   // The lowest cell of a set that is not empty.
   [[nodiscard]] constexpr int First() const { return *begin(); }
 
+  // The nine cells of a row 0..8, bit c for column c.
+  [[nodiscard]] constexpr unsigned Row(int row) const {
+    const auto shift = static_cast<unsigned>(9 * row);
+    const std::uint64_t word = row < 7 ? low_ >> shift : row == 7 ? low_ >> shift | high_ << 1U : high_ >> 8U;
+    return static_cast<unsigned>(word & 511U);
+  }
+
   friend constexpr CellSet operator&(CellSet a, CellSet b) { return {a.low_ & b.low_, a.high_ & b.high_}; }
   friend constexpr CellSet operator|(CellSet a, CellSet b) { return {a.low_ | b.low_, a.high_ | b.high_}; }
   // The cells of a that are not in b.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Sets of k out of nine, and the quick test whether nine small sets can hide a subset or a fish at all.
-// Used by the subsets and the fish, which are the same problem: k of nine sets that together have k members.
+// Sets of k out of nine, and k of nine sets that together have at most k members. Used by the subsets and the
+// fish, which are the same problem in different clothes.
 #pragma once
 
 #include <array>
@@ -32,14 +32,57 @@ inline constexpr auto kCombinations = [] {
   return sets;
 }();
 
-// Nine sets of digits or positions, and which of the nine may belong to a subset or fish.
+// Nine sets of digits or of positions, and which of the nine may belong to a subset or fish.
 struct NineSets {
   std::array<std::uint16_t, 9> set{};
   unsigned members = 0;
 };
 
+// Chooses `missing` more of the sets in `rest` so that all chosen have at most `limit` elements together, in
+// lexicographic order; `chosen` and `cover` are the choice so far and its union. Calls use(chosen, cover) for
+// every full choice until it returns true; returns whether it did.
+template <int missing, class Use>
+bool ChooseSets(const NineSets& sets, int limit, unsigned rest, unsigned chosen, unsigned cover,
+                const Use& use) {
+  if constexpr (missing == 0) {
+    return use(chosen, cover);
+  } else {
+    for (; rest != 0; rest &= rest - 1) {
+      const unsigned joined = cover | sets.set[std::countr_zero(rest)];
+      if (BitCount[joined] > limit) continue;
+      const unsigned next = rest & (~rest + 1);
+      if (ChooseSets<missing - 1>(sets, limit, rest & (rest - 1), chosen | next, joined, use)) return true;
+    }
+    return false;
+  }
+}
+
 // False when no `size` of the members lie within `size` digits or positions that also occur elsewhere; then
 // the ordered search cannot find anything and is left out. True promises nothing.
-bool MayHoldSubset(const NineSets& sets, int size);
+template <int size>
+bool MayHoldSubset(const NineSets& sets) {
+  unsigned small = 0;   // members that are small enough
+  unsigned filled = 0;  // sets that are not empty
+  for (unsigned i = 0; i < 9; ++i) {
+    const int count = BitCount[sets.set[i]];
+    if (count <= size) small |= 1U << i;
+    if (count != 0) filled |= 1U << i;
+  }
+  small &= sets.members;
+  if (BitCount[small] < size) return false;
+  // All that is left would belong to the subset, and nothing outside could lose anything.
+  if (BitCount[filled] <= size && (sets.members & ~filled) == 0) return false;
+  return ChooseSets<size>(sets, size, small, 0, 0, [&sets](unsigned, unsigned cover) {
+    // With fewer digits than cells (a contradiction) several covers are possible: leave it to the full
+    // search.
+    if (BitCount[cover] < size) return true;
+    for (unsigned i = 0; i < 9; ++i) {
+      const unsigned set = sets.set[i];
+      const bool own = (set & ~cover) == 0 && ((sets.members >> i) & 1U) != 0;
+      if ((set & cover) != 0 && !own) return true;
+    }
+    return false;
+  });
+}
 
 }  // namespace kestrel

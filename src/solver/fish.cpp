@@ -52,7 +52,7 @@ bool FindFishOf(SolverState& state, const SolverInput& input, int digit, int fir
     // The base lines of an X-Wing must fill the cover; those of the larger fish need not.
     if (size == 2 ? BitCount[lines.set[i]] == 2 : lines.set[i] != 0) lines.members |= 1U << i;
   }
-  if (!MayHoldSubset(lines, size)) return false;
+  if (!MayHoldSubset<size>(lines)) return false;
   for (const unsigned cover : kCombinations<size>) {
     unsigned base = 0;
     for (unsigned rest = lines.members; rest != 0; rest &= rest - 1) {

@@ -19,30 +19,31 @@ namespace {
 
 using Pair = std::array<int, 2>;  // two cells, in the order of their line
 
-// The lines first_line .. first_line + 8 in which the digit has exactly two places.
-struct Pairs {
+// The lines first_line .. first_line + 8 in which the digit has exactly two places, as bits 0..8.
+unsigned PairLines(const SolverState& state, int digit, int first_line) {
   unsigned lines = 0;
-  std::array<Pair, 9> cells{};
-
-  Pairs(const SolverState& state, int digit, int first_line) {
-    for (unsigned i = 0; i < 9; ++i) {
-      const auto unit = static_cast<std::size_t>(first_line) + i;
-      const unsigned places = state.Places(digit, static_cast<int>(unit));
-      if (BitCount[places] != 2) continue;
-      lines |= 1U << i;
-      cells[i] = {kUnitTables.cell[unit][std::countr_zero(places)],
-                  kUnitTables.cell[unit][std::countr_zero(places & (places - 1))]};
-    }
+  for (unsigned i = 0; i < 9; ++i) {
+    const bool pair = BitCount[state.Places(digit, first_line + static_cast<int>(i))] == 2;
+    lines |= (pair ? 1U : 0U) << i;
   }
+  return lines;
+}
 
-  // Leaves out the lines whose two cells lie in one box.
-  void KeepSpread() {
-    for (unsigned rest = lines; rest != 0; rest &= rest - 1) {
-      const Pair& pair = cells[std::countr_zero(rest)];
-      if (CellBox[pair[0]] == CellBox[pair[1]]) lines &= ~(rest & (~rest + 1));
-    }
+Pair PairOf(const SolverState& state, int digit, int line) {
+  const unsigned places = state.Places(digit, line);
+  const auto& cells = kUnitTables.cell[line];
+  return {cells[std::countr_zero(places)], cells[std::countr_zero(places & (places - 1))]};
+}
+
+// The pair lines whose two cells lie in different boxes.
+unsigned SpreadPairLines(const SolverState& state, int digit, int first_line) {
+  unsigned lines = PairLines(state, digit, first_line);
+  for (unsigned rest = lines; rest != 0; rest &= rest - 1) {
+    const Pair pair = PairOf(state, digit, first_line + std::countr_zero(rest));
+    if (CellBox[pair[0]] == CellBox[pair[1]]) lines &= ~(rest & (~rest + 1));
   }
-};
+  return lines;
+}
 
 // The link comes first in each pair, the end last.
 void Describe(Finding& finding, int digit, const Pair& first, const Pair& second) {
@@ -67,21 +68,19 @@ bool JoinInBox(Pair& row, Pair& column) {
 }
 
 bool FindKiteOf(SolverState& state, const SolverInput& input, int digit) {
-  Pairs rows(state, digit, 0);
-  rows.KeepSpread();
-  if (rows.lines == 0) return false;
-  Pairs columns(state, digit, kFirstColumn);
-  columns.KeepSpread();
-  for (; rows.lines != 0; rows.lines &= rows.lines - 1) {
-    const int r = std::countr_zero(rows.lines);
-    for (unsigned rest = columns.lines; rest != 0; rest &= rest - 1) {
-      const int c = std::countr_zero(rest);
-      Pair row = rows.cells[r];
-      Pair column = columns.cells[c];
+  unsigned rows = SpreadPairLines(state, digit, 0);
+  if (rows == 0) return false;
+  const unsigned columns = SpreadPairLines(state, digit, kFirstColumn);
+  for (; rows != 0; rows &= rows - 1) {
+    const int row_line = std::countr_zero(rows);
+    for (unsigned rest = columns; rest != 0; rest &= rest - 1) {
+      const int column_line = kFirstColumn + std::countr_zero(rest);
+      Pair row = PairOf(state, digit, row_line);
+      Pair column = PairOf(state, digit, column_line);
       if (!JoinInBox(row, column) || !state.EliminateSeenByBoth(row[1], column[1], digit)) continue;
       if (input.finding != nullptr) {
         Describe(*input.finding, digit, row, column);
-        input.finding->units = {NamedUnit(r), NamedUnit(kFirstColumn + c)};
+        input.finding->units = {NamedUnit(row_line), NamedUnit(column_line)};
         input.finding->covers = {NamedUnit(kFirstBox + CellBox[row[0]])};
       }
       return true;
@@ -116,19 +115,18 @@ bool TrySkyscraper(SolverState& state, const SolverInput& input, int digit, cons
 }
 
 bool FindSkyscraperOf(SolverState& state, const SolverInput& input, int digit) {
-  const Pairs rows(state, digit, 0);
-  const Pairs columns(state, digit, kFirstColumn);
+  const std::array<unsigned, 2> lines{PairLines(state, digit, 0), PairLines(state, digit, kFirstColumn)};
   // For every i < j the rows first, then the columns.
-  for (int i = 0; i < 8; ++i) {
-    for (int j = i + 1; j < 9; ++j) {
-      const unsigned both = 1U << static_cast<unsigned>(i) | 1U << static_cast<unsigned>(j);
-      if ((rows.lines & both) == both &&
-          TrySkyscraper(state, input, digit, rows.cells[i], rows.cells[j], 1)) {
-        return true;
-      }
-      if ((columns.lines & both) == both &&
-          TrySkyscraper(state, input, digit, columns.cells[i], columns.cells[j], 0)) {
-        return true;
+  for (unsigned left = lines[0] | lines[1]; left != 0; left &= left - 1) {
+    const int i = std::countr_zero(left);
+    for (unsigned right = left & (left - 1); right != 0; right &= right - 1) {
+      const int j = std::countr_zero(right);
+      const unsigned both = (left & (~left + 1)) | (right & (~right + 1));
+      for (const int kind : {0, 1}) {
+        if ((lines[kind] & both) != both) continue;
+        const Pair a = PairOf(state, digit, 9 * kind + i);
+        const Pair b = PairOf(state, digit, 9 * kind + j);
+        if (TrySkyscraper(state, input, digit, a, b, 1 - kind)) return true;
       }
     }
   }

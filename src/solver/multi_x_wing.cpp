@@ -16,7 +16,7 @@
 namespace kestrel {
 namespace {
 
-// Two cells with two candidates each, the only ones of their unit for the digit.
+// Two cells with two candidates each, the only places of the digit in their unit.
 struct Couple {
   int digit;
   std::array<int, 2> cell;
@@ -31,14 +31,20 @@ struct Couples {
 
 Couples CouplesOf(const SolverState& state, CellSet bivalue, int unit) {
   Couples couples;
-  if (!(bivalue & kUnitTables.cells[unit]).Several()) return couples;
-  for (int digit = 1; digit <= 9; ++digit) {
+  // Only digits of two of the unit's cells with two candidates.
+  unsigned once = 0;
+  unsigned twice = 0;
+  for (const int cell : bivalue& kUnitTables.cells[unit]) {
+    twice |= once & state.CellMask(cell);
+    once |= state.CellMask(cell);
+  }
+  for (; twice != 0; twice &= twice - 1) {
+    const int digit = std::countr_zero(twice) + 1;
     const unsigned places = state.Places(digit, unit);
     if (BitCount[places] != 2) continue;
     const auto& cells = kUnitTables.cell[unit];
-    const Couple couple{digit,
-                        {cells[std::countr_zero(places)], cells[std::countr_zero(places & (places - 1))]}};
-    if (bivalue.Has(couple.cell[0]) && bivalue.Has(couple.cell[1])) couples.list[couples.count++] = couple;
+    couples.list[couples.count++] = {
+        digit, {cells[std::countr_zero(places)], cells[std::countr_zero(places & (places - 1))]}};
   }
   return couples;
 }

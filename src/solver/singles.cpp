@@ -8,18 +8,15 @@
 namespace kestrel {
 namespace {
 
-// The digits with exactly one place in the unit, in a cell that has other candidates as well.
-CandidateMask HiddenSingles(const SolverState& state, int unit) {
-  unsigned once = 0;
-  unsigned twice = 0;
-  unsigned naked = 0;  // candidates of cells that have no other; such a cell is left to the naked single
-  for (const int cell : kUnitTables.cell[unit]) {
-    const unsigned mask = state.CellMask(cell);
-    twice |= once & mask;
-    once |= mask;
-    if ((mask & (mask - 1)) == 0) naked |= mask;
+// The lowest digit with one place in the unit, in a cell that has other candidates as well; 0 if none. A cell
+// without others is left to the naked single.
+int HiddenSingle(const SolverState& state, int unit, int& cell) {
+  for (CandidateMask rest = state.LoneDigits(unit); rest != 0; rest &= rest - 1) {
+    const int digit = LowestDigit(rest);
+    cell = kUnitTables.cell[unit][std::countr_zero(state.Places(digit, unit))];
+    if (state.CellMask(cell) != DigitBit(digit)) return digit;
   }
-  return static_cast<CandidateMask>(once & ~twice & ~naked);
+  return 0;
 }
 
 void DescribeSingle(Finding& finding, int digit, int cell) {
@@ -33,23 +30,23 @@ void DescribeSingle(Finding& finding, int digit, int cell) {
 
 bool FindHiddenSingle(SolverState& state, const SolverInput& input) {
   // Boxes first, then rows, then columns.
-  UnitMask& to_scan = state.UnitsToScan(UnitScan::HiddenSingle);
+  UnitMask& lone_units = state.LoneUnits();
   for (const UnitMask group : {kAllUnits & ~kRowAndColumnUnits, kRowAndColumnUnits}) {
-    for (UnitMask rest = to_scan & group; rest != 0; rest &= rest - 1) {
+    for (UnitMask rest = lone_units & group; rest != 0; rest &= rest - 1) {
       const int unit = std::countr_zero(rest);
-      const CandidateMask hidden = HiddenSingles(state, unit);
-      if (hidden != 0) {
-        const int digit = LowestDigit(hidden);
-        const int cell = kUnitTables.cell[unit][std::countr_zero(state.Places(digit, unit))];
-        state.PlaceValue(digit, cell);
-        if (input.finding != nullptr) {
-          DescribeSingle(*input.finding, digit, cell);
-          input.finding->units = {NamedUnit(unit)};
-          input.finding->form = unit >= kFirstBox ? 1 : unit < kFirstColumn ? 2 : 3;
-        }
-        return true;
+      int cell = 0;
+      const int digit = HiddenSingle(state, unit, cell);
+      if (digit == 0) {
+        lone_units &= ~(rest & (~rest + 1));
+        continue;
       }
-      to_scan &= ~(rest & (~rest + 1));
+      state.PlaceValue(digit, cell);
+      if (input.finding != nullptr) {
+        DescribeSingle(*input.finding, digit, cell);
+        input.finding->units = {NamedUnit(unit)};
+        input.finding->form = unit >= kFirstBox ? 1 : unit < kFirstColumn ? 2 : 3;
+      }
+      return true;
     }
   }
   return false;

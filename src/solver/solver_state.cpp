@@ -3,6 +3,47 @@
 #include "solver/solver_state.h"
 
 namespace kestrel {
+namespace {
+
+// Nine bits spread seven apart: bit c to bit 7 x c.
+constexpr std::array<std::uint64_t, 512> kSpread = [] {
+  std::array<std::uint64_t, 512> table{};
+  for (unsigned mask = 0; mask < 512; ++mask) {
+    for (unsigned c = 0; c < 9; ++c) table[mask] |= static_cast<std::uint64_t>(mask >> c & 1U) << 7 * c;
+  }
+  return table;
+}();
+
+// The positions of a set of cells in each of the 27 units. Rows are there as they stand; boxes are pieced
+// together from their three rows. For the columns rows 0..6 and rows 7..8 are laid over each other, so that
+// bits 7 x c .. 7 x c + 6 of a word are column c from top to bottom.
+std::array<PositionMask, kUnits> PlacesOf(const CellSet& cells) {
+  std::array<PositionMask, kUnits> places{};
+  std::uint64_t upper = 0;
+  std::uint64_t lower = 0;
+  for (int r = 0; r < 9; ++r) {
+    places[r] = static_cast<PositionMask>(cells.Row(r));
+    (r < 7 ? upper : lower) |= kSpread[places[r]] << static_cast<unsigned>(r < 7 ? r : r - 7);
+  }
+  for (unsigned c = 0; c < 9; ++c) {
+    places[kFirstColumn + c] =
+        static_cast<PositionMask>((upper >> 7 * c & 127U) | (lower >> 7 * c & 3U) << 7U);
+  }
+  for (unsigned b = 0; b < 9; ++b) {
+    const auto* band = &places[b / 3 * 3];
+    const unsigned shift = b % 3 * 3;
+    places[kFirstBox + b] = static_cast<PositionMask>(
+        (band[0] >> shift & 7U) | (band[1] >> shift & 7U) << 3U | (band[2] >> shift & 7U) << 6U);
+  }
+  return places;
+}
+
+// 1..9 as it is, 0 for anything else.
+constexpr std::uint8_t DigitOrNone(std::uint8_t value) {
+  return value <= 9 ? value : 0;
+}
+
+}  // namespace
 
 SolverState::SolverState() : SolverState(DigitGrid{}) {
 }
@@ -13,65 +54,97 @@ SolverState::SolverState(const DigitGrid& givens) {
   // down.
   std::array<CandidateMask, kUnits> taken{};
   for (int c = 0; c < kCells; ++c) {
-    if (givens[c] < 1 || givens[c] > 9) continue;
-    for (const int unit : kUnitTables.unit[c]) taken[unit] |= DigitBit(givens[c]);
+    cell_value_[c] = DigitOrNone(givens[c]);
+    const unsigned bit = (1U << cell_value_[c]) >> 1U;
+    for (const int unit : kUnitTables.unit[c]) taken[unit] |= static_cast<CandidateMask>(bit);
   }
-  MarkGrid marks{};
+  CellSet open_cells = CellSet::All();
+  cells_.fill(open_cells);
   for (int c = 0; c < kCells; ++c) {
-    if (givens[c] >= 1 && givens[c] <= 9) continue;
-    const auto& unit = kUnitTables.unit[c];
-    marks[c] = static_cast<CandidateMask>(kAllDigits & ~(taken[unit[0]] | taken[unit[1]] | taken[unit[2]]));
+    if (cell_value_[c] != 0) {
+      cells_[cell_value_[c] - 1] -= kUnitTables.peers[c];
+      open_cells.Remove(c);
+      --unsolved_;
+    } else {
+      const auto& unit = kUnitTables.unit[c];
+      cell_mask_[c] = Without(kAllDigits, taken[unit[0]] | taken[unit[1]] | taken[unit[2]]);
+    }
   }
-  Fill(givens, marks);
+  for (CellSet& cells : cells_) cells &= open_cells;
+  DeriveUnits();
 }
 
 SolverState::SolverState(const DigitGrid& digits, const MarkGrid& marks) {
-  Fill(digits, marks);
-}
-
-void SolverState::Fill(const DigitGrid& digits, const MarkGrid& marks) {
   for (int c = 0; c < kCells; ++c) {
-    if (digits[c] >= 1 && digits[c] <= 9) {
-      cell_value_[c] = digits[c];
-      --unsolved_;
-    }
+    cell_value_[c] = DigitOrNone(digits[c]);
+    if (cell_value_[c] != 0) --unsolved_;
     cell_mask_[c] = marks[c] & kAllDigits;
     for (CandidateMask rest = cell_mask_[c]; rest != 0; rest &= rest - 1) {
-      const int digit = LowestDigit(rest);
-      cells_[digit - 1].Add(c);
-      for (int k = 0; k < 3; ++k) {
-        places_[digit - 1][kUnitTables.unit[c][k]] |= kUnitTables.position[c][k];
-      }
+      cells_[LowestDigit(rest) - 1].Add(c);
+    }
+  }
+  DeriveUnits();
+}
+
+// Fills units_ from cells_.
+void SolverState::DeriveUnits() {
+  for (unsigned d = 0; d < 9; ++d) {
+    const std::array<PositionMask, kUnits> places = PlacesOf(cells_[d]);
+    for (int unit = 0; unit < kUnits; ++unit) {
+      units_[unit].places[d] = places[unit];
+      const unsigned lone = BitCount[places[unit]] == 1 ? 1 : 0;
+      units_[unit].lone_digits |= static_cast<CandidateMask>(lone << d);
     }
   }
 }
 
-// The candidate must be there.
-void SolverState::ClearCandidate(int digit, int cell) {
-  cell_mask_[cell] = Without(cell_mask_[cell], DigitBit(digit));
-  cells_[digit - 1].Remove(cell);
-  auto& places = places_[digit - 1];
+// Takes the cell, which must be there, out of the digit's places in its three units. Returns the units in
+// which that leaves one place.
+inline UnitMask SolverState::ClearPlaces(int digit, int cell) {
+  const CandidateMask bit = DigitBit(digit);
+  UnitMask lone_units = 0;
   for (int k = 0; k < 3; ++k) {
-    PositionMask& unit_places = places[kUnitTables.unit[cell][k]];
-    unit_places = Without(unit_places, kUnitTables.position[cell][k]);
+    const int index = kUnitTables.unit[cell][k];
+    UnitCandidates& unit = units_[index];
+    PositionMask& places = unit.places[digit - 1];
+    places = Without(places, kUnitTables.position[cell][k]);
+    // Without a branch, for the answer is close to random.
+    const unsigned lone = BitCount[places] == 1 ? 1 : 0;
+    unit.lone_digits = static_cast<CandidateMask>((unit.lone_digits & ~bit) | lone << (digit - 1));
+    lone_units |= lone << index;
   }
-  changed_units_ |= kUnitTables.units[cell];
-  changed_digits_ |= DigitBit(digit);
+  return lone_units;
 }
 
 void SolverState::PlaceValue(int digit, int cell) {
   if (cell_value_[cell] == 0) --unsolved_;
   cell_value_[cell] = static_cast<std::uint8_t>(digit);
-  changed_units_ |= kUnitTables.units[cell];
+  UnitMask lone_units = 0;
+  UnitMask changed_units = kUnitTables.units[cell];
+  changed_digits_ |= cell_mask_[cell] | DigitBit(digit);
   for (CandidateMask rest = cell_mask_[cell]; rest != 0; rest &= rest - 1) {
-    ClearCandidate(LowestDigit(rest), cell);
+    cells_[LowestDigit(rest) - 1].Remove(cell);
+    lone_units |= ClearPlaces(LowestDigit(rest), cell);
   }
-  for (const int peer : kUnitTables.peers[cell] & cells_[digit - 1]) ClearCandidate(digit, peer);
+  cell_mask_[cell] = 0;
+  const CellSet losers = kUnitTables.peers[cell] & cells_[digit - 1];
+  cells_[digit - 1] -= losers;
+  for (const int peer : losers) {
+    cell_mask_[peer] = Without(cell_mask_[peer], DigitBit(digit));
+    lone_units |= ClearPlaces(digit, peer);
+    changed_units |= kUnitTables.units[peer];
+  }
+  lone_units_ |= lone_units;
+  changed_units_ |= changed_units;
 }
 
 bool SolverState::RemoveCandidate(int digit, int cell) {
   if (!CandidateFlag(digit - 1, cell)) return false;
-  ClearCandidate(digit, cell);
+  cell_mask_[cell] = Without(cell_mask_[cell], DigitBit(digit));
+  cells_[digit - 1].Remove(cell);
+  lone_units_ |= ClearPlaces(digit, cell);
+  changed_units_ |= kUnitTables.units[cell];
+  changed_digits_ |= DigitBit(digit);
   return true;
 }
 
@@ -83,21 +156,6 @@ bool SolverState::RemoveFrom(CellSet cells, int digit) {
 
 bool SolverState::EliminateSeenByBoth(int a, int b, int digit) {
   return RemoveFrom(kUnitTables.peers[a] & kUnitTables.peers[b], digit);
-}
-
-SolverState::CellsBySize SolverState::CellsByCandidates() const {
-  // Counts in all 81 cells at once: at_least[n] is the set of cells with more than n candidates so far.
-  CellSet at_least_1;
-  CellSet at_least_2;
-  CellSet at_least_3;
-  CellSet at_least_4;
-  for (const CellSet& cells : cells_) {
-    at_least_4 |= at_least_3 & cells;
-    at_least_3 |= at_least_2 & cells;
-    at_least_2 |= at_least_1 & cells;
-    at_least_1 |= cells;
-  }
-  return {at_least_1 - at_least_2, at_least_2 - at_least_3, at_least_3 - at_least_4};
 }
 
 void SolverState::PassOnChanges() {

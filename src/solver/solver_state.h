@@ -6,12 +6,13 @@
 //
 //   CellMask(cell)         which digits can this cell hold?      81 x 9 bits    c40: {5,7}  -> 001010000
 //   Cells(digit)           which cells can hold this digit?       9 x 81 bits   5: one bit per cell
-//   Places(digit, unit)    where in this unit can it go?     9 x 27 x 9 bits    5 in row 4: .1..1...1
+//   Places(digit, unit)    where in this unit can it go?     27 x 9 x 9 bits    5 in row 4: .1..1...1
 //
 // Invariant: bit d-1 of CellMask(c), cell c of Cells(d), and c's position in Places(d, u) for the three units
-// u of c are set or clear together. Candidates are only ever removed. Nothing else is promised: the digits
-// may contradict each other, an unsolved cell may have no candidate left, and a state built from pencil marks
-// may have candidates that equal a digit placed next to them, or marks in a cell that holds a digit.
+// u of c are set or clear together; LoneDigits(u) are the digits with one place in u. Candidates are only
+// ever removed. Nothing else is promised: the digits may contradict each other, an unsolved cell may have no
+// candidate left, and a state built from pencil marks may have candidates that equal a digit placed next to
+// them, or marks in a cell that holds a digit.
 #pragma once
 
 #include <array>
@@ -28,7 +29,6 @@ using MarkGrid = std::array<CandidateMask, kCells>;
 
 // The searches that go unit by unit and whose result for one unit depends on the cells of that unit alone.
 enum class UnitScan : std::uint8_t {
-  HiddenSingle,
   NakedPair,
   NakedTriple,
   NakedQuad,
@@ -81,7 +81,9 @@ class SolverState {
   // The cells that have the digit (1..9) as a candidate.
   [[nodiscard]] const CellSet& Cells(int digit) const { return cells_[digit - 1]; }
   // The positions in the unit (0..26) where the digit (1..9) is a candidate.
-  [[nodiscard]] PositionMask Places(int digit, int unit) const { return places_[digit - 1][unit]; }
+  [[nodiscard]] PositionMask Places(int digit, int unit) const { return units_[unit].places[digit - 1]; }
+  // The digits that are a candidate in exactly one cell of the unit (0..26).
+  [[nodiscard]] CandidateMask LoneDigits(int unit) const { return units_[unit].lone_digits; }
   // True when every cell has a digit.
   [[nodiscard]] bool Solved() const { return unsolved_ == 0; }
 
@@ -101,7 +103,20 @@ class SolverState {
     CellSet two;
     CellSet three;
   };
-  [[nodiscard]] CellsBySize CellsByCandidates() const;
+  [[nodiscard]] CellsBySize CellsByCandidates() const {
+    // Counts in all 81 cells at once: at_least_2 are the cells met in two or more of the sets so far.
+    CellSet at_least_1;
+    CellSet at_least_2;
+    CellSet at_least_3;
+    CellSet at_least_4;
+    for (const CellSet& cells : cells_) {
+      at_least_4 |= at_least_3 & cells;
+      at_least_3 |= at_least_2 & cells;
+      at_least_2 |= at_least_1 & cells;
+      at_least_1 |= cells;
+    }
+    return {at_least_1 - at_least_2, at_least_2 - at_least_3, at_least_3 - at_least_4};
+  }
 
   // What a search has still to look at: at first everything, afterwards what has changed since the search
   // cleared the unit's or digit's bit because it had found nothing there. A search that skips the other
@@ -109,21 +124,30 @@ class SolverState {
   UnitMask& UnitsToScan(UnitScan scan);
   CandidateMask& DigitsToScan(DigitScan scan);
 
+  // The same for the hidden single: the units in which a digit has come down to one place since the search
+  // cleared the unit's bit.
+  UnitMask& LoneUnits() { return lone_units_; }
+
   // Same digits and same candidates; what has been scanned does not count.
   friend bool operator==(const SolverState& a, const SolverState& b) {
     return a.cell_value_ == b.cell_value_ && a.cell_mask_ == b.cell_mask_;
   }
 
  private:
-  void Fill(const DigitGrid& digits, const MarkGrid& marks);
-  void ClearCandidate(int digit, int cell);
+  void DeriveUnits();
+  UnitMask ClearPlaces(int digit, int cell);
   void PassOnChanges();
 
   std::array<std::uint8_t, kCells> cell_value_{};
   int unsolved_ = kCells;
   std::array<CandidateMask, kCells> cell_mask_{};
   std::array<CellSet, 9> cells_{};
-  std::array<std::array<PositionMask, kUnits>, 9> places_{};
+  struct UnitCandidates {
+    std::array<PositionMask, 9> places{};  // by digit - 1
+    CandidateMask lone_digits = 0;
+  };
+  std::array<UnitCandidates, kUnits> units_{};
+  UnitMask lone_units_ = kAllUnits;
 
   // Changes not yet passed on to the searches' own lists.
   UnitMask changed_units_ = kAllUnits;

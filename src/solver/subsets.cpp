@@ -14,21 +14,6 @@
 namespace kestrel {
 namespace {
 
-constexpr int kLargestSubset = 5;
-
-std::span<const std::uint16_t> DigitCombinations(int size) {
-  switch (size) {
-    case 2:
-      return kCombinations<2>;
-    case 3:
-      return kCombinations<3>;
-    case 4:
-      return kCombinations<4>;
-    default:
-      return kCombinations<5>;
-  }
-}
-
 void Describe(Finding& finding, const SolverState& state, CandidateMask digits, std::span<const int> cells,
               int unit) {
   finding.digits = digits;
@@ -37,23 +22,28 @@ void Describe(Finding& finding, const SolverState& state, CandidateMask digits, 
   finding.form = unit / 9 + 1;
 }
 
-bool FindNakedInUnit(SolverState& state, const SolverInput& input, int unit, int size) {
-  const auto& cells = kUnitTables.cell[unit];
+// The nine cells' candidates; the members are the unsolved cells.
+NineSets MasksOf(const SolverState& state, int unit) {
   NineSets masks;
-  unsigned open = kAllDigits;
   for (unsigned i = 0; i < 9; ++i) {
-    const int value = state.CellValue(cells[i]);
-    masks.set[i] = state.CellMask(cells[i]);
-    if (value == 0) {
-      masks.members |= 1U << i;
-    } else {
-      open &= ~DigitBit(value);
-    }
+    const int cell = kUnitTables.cell[unit][i];
+    masks.set[i] = state.CellMask(cell);
+    masks.members |= (state.CellValue(cell) == 0 ? 1U : 0U) << i;
   }
-  if (!MayHoldSubset(masks, size)) return false;
-  for (const CandidateMask digits : DigitCombinations(size)) {
-    if ((digits & ~open) != 0) continue;
-    std::array<int, kLargestSubset> found{};
+  return masks;
+}
+
+template <int size>
+bool FindNakedInUnit(SolverState& state, const SolverInput& input, int unit) {
+  if (!MayHoldSubset<size>(MasksOf(state, unit))) return false;
+  const auto& cells = kUnitTables.cell[unit];
+  unsigned placed = 0;
+  for (const int cell : cells) {
+    if (state.CellValue(cell) != 0) placed |= DigitBit(state.CellValue(cell));
+  }
+  for (const CandidateMask digits : kCombinations<size>) {
+    if ((digits & placed) != 0) continue;
+    std::array<int, size> found{};
     int count = 0;
     for (const int cell : cells) {
       if (state.CellValue(cell) != 0 || !CellWithinDigits(state, digits, cell)) continue;
@@ -61,46 +51,58 @@ bool FindNakedInUnit(SolverState& state, const SolverInput& input, int unit, int
       ++count;
     }
     if (count != size) continue;
-    const std::span<const int> subset(found.data(), static_cast<std::size_t>(size));
-    if (EliminateNakedSubset(state, digits, subset, static_cast<UnitKind>(unit / 9 + 1))) {
-      if (input.finding != nullptr) Describe(*input.finding, state, digits, subset, unit);
+    if (EliminateNakedSubset(state, digits, found, static_cast<UnitKind>(unit / 9 + 1))) {
+      if (input.finding != nullptr) Describe(*input.finding, state, digits, found, unit);
       return true;
     }
   }
   return false;
 }
 
-bool FindHiddenInUnit(SolverState& state, const SolverInput& input, int unit, int size) {
-  // Only digits with one to `size` places can take part.
-  unsigned eligible = 0;
+template <int size>
+bool FindHiddenInUnit(SolverState& state, const SolverInput& input, int unit) {
+  NineSets places;
+  unsigned small = 0;  // only digits with one to `size` places can take part
   for (int digit = 1; digit <= 9; ++digit) {
-    const int places = BitCount[state.Places(digit, unit)];
-    if (places >= 1 && places <= size) eligible |= DigitBit(digit);
+    places.set[digit - 1] = state.Places(digit, unit);
+    const int count = BitCount[places.set[digit - 1]];
+    if (count >= 1 && count <= size) small |= DigitBit(digit);
   }
-  if (BitCount[eligible] < size) return false;
-  for (const CandidateMask digits : DigitCombinations(size)) {
-    if ((digits & ~eligible) != 0) continue;
-    unsigned places = 0;
-    for (unsigned rest = digits; rest != 0; rest &= rest - 1) {
-      places |= state.Places(std::countr_zero(rest) + 1, unit);
-    }
-    if (BitCount[places] != size) continue;
-    std::array<int, kLargestSubset> found{};
+  if (BitCount[small] < size) return false;
+  const auto& cells = kUnitTables.cell[unit];
+  return ChooseSets<size>(places, size, small, 0, 0, [&](unsigned digits, unsigned cover) {
+    if (BitCount[cover] != size) return false;
+    std::array<int, size> found{};
     int count = 0;
     bool removed = false;
-    for (; places != 0; places &= places - 1) {
-      const int cell = kUnitTables.cell[unit][std::countr_zero(places)];
+    for (unsigned positions = cover; positions != 0; positions &= positions - 1) {
+      const int cell = cells[std::countr_zero(positions)];
       found[count++] = cell;
       for (unsigned rest = state.CellMask(cell) & ~digits; rest != 0; rest &= rest - 1) {
         removed |= state.RemoveCandidate(std::countr_zero(rest) + 1, cell);
       }
     }
-    if (removed) {
-      if (input.finding != nullptr) {
-        Describe(*input.finding, state, digits, {found.data(), static_cast<std::size_t>(size)}, unit);
-      }
-      return true;
+    if (removed && input.finding != nullptr) {
+      Describe(*input.finding, state, static_cast<CandidateMask>(digits), found, unit);
     }
+    return removed;
+  });
+}
+
+template <int size>
+bool FindNaked(SolverState& state, const SolverInput& input, UnitScan scan) {
+  UnitMask& to_scan = state.UnitsToScan(scan);
+  for (; to_scan != 0; to_scan &= to_scan - 1) {
+    if (FindNakedInUnit<size>(state, input, std::countr_zero(to_scan))) return true;
+  }
+  return false;
+}
+
+template <int size>
+bool FindHidden(SolverState& state, const SolverInput& input, UnitScan scan) {
+  UnitMask& to_scan = state.UnitsToScan(scan);
+  for (; to_scan != 0; to_scan &= to_scan - 1) {
+    if (FindHiddenInUnit<size>(state, input, std::countr_zero(to_scan))) return true;
   }
   return false;
 }
@@ -123,35 +125,37 @@ bool EliminateNakedSubset(SolverState& state, CandidateMask digits, std::span<co
 }
 
 bool FindSubset(SolverState& state, const SolverInput& input, bool naked, int size) {
-  if (size < 2 || size > (naked ? kLargestSubset : 3)) return false;
-  const int first = static_cast<int>(naked ? UnitScan::NakedPair : UnitScan::HiddenPair);
-  UnitMask& to_scan = state.UnitsToScan(static_cast<UnitScan>(first + size - 2));
-  for (; to_scan != 0; to_scan &= to_scan - 1) {
-    const int unit = std::countr_zero(to_scan);
-    if (naked ? FindNakedInUnit(state, input, unit, size) : FindHiddenInUnit(state, input, unit, size)) {
-      return true;
-    }
+  switch (size) {
+    case 2:
+      return naked ? FindNakedPair(state, input) : FindHiddenPair(state, input);
+    case 3:
+      return naked ? FindNakedTriple(state, input) : FindHiddenTriple(state, input);
+    case 4:
+      return naked && FindNakedQuad(state, input);
+    case 5:
+      return naked && FindNakedQuint(state, input);
+    default:
+      return false;
   }
-  return false;
 }
 
 bool FindNakedPair(SolverState& state, const SolverInput& input) {
-  return FindSubset(state, input, true, 2);
+  return FindNaked<2>(state, input, UnitScan::NakedPair);
 }
 bool FindNakedTriple(SolverState& state, const SolverInput& input) {
-  return FindSubset(state, input, true, 3);
+  return FindNaked<3>(state, input, UnitScan::NakedTriple);
 }
 bool FindNakedQuad(SolverState& state, const SolverInput& input) {
-  return FindSubset(state, input, true, 4);
+  return FindNaked<4>(state, input, UnitScan::NakedQuad);
 }
 bool FindNakedQuint(SolverState& state, const SolverInput& input) {
-  return FindSubset(state, input, true, 5);
+  return FindNaked<5>(state, input, UnitScan::NakedQuint);
 }
 bool FindHiddenPair(SolverState& state, const SolverInput& input) {
-  return FindSubset(state, input, false, 2);
+  return FindHidden<2>(state, input, UnitScan::HiddenPair);
 }
 bool FindHiddenTriple(SolverState& state, const SolverInput& input) {
-  return FindSubset(state, input, false, 3);
+  return FindHidden<3>(state, input, UnitScan::HiddenTriple);
 }
 
 }  // namespace kestrel
