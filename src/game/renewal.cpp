@@ -11,7 +11,7 @@ namespace {
 
 // Files a new puzzle into its level, which is in ascending order of score: the lowest record is dropped, the
 // new one goes above all that score less than it. Slots of techniques above the level stay as they are.
-void FilePuzzle(StockTable& stock, int level, const PlainGenerator& made, const Rating& rating) {
+void FilePuzzle(StockTable& stock, int level, const Generator& made, const Rating& rating) {
   int place = kPuzzlesPerLevel;
   while (place > 1 && rating.Score() <= stock(level, place).Score) --place;
   for (int i = 1; i < place; ++i) stock(level, i) = stock(level, i + 1);

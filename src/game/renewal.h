@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "game/session.h"
-#include "generator/plain_generator.h"
+#include "generator/generator.h"
 #include "solver/solver.h"
 
 namespace kestrel {
@@ -37,7 +37,7 @@ class Renewal {
   void EnableLabels(bool enabled);
 
   Session& session_;
-  PlainGenerator generator_;
+  Generator generator_;
   std::optional<Rating> rating_;  // of the generator's puzzle, when it is to be filed
 };
 

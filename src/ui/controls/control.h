@@ -4,11 +4,12 @@
 #pragma once
 
 #include <array>
-#include <cassert>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "core/check.h"
 
 namespace kestrel {
 
@@ -164,11 +165,11 @@ struct ControlArray {
   std::array<T, Count> items{};
 
   T& operator()(int index) {
-    assert(index >= First && index < First + Count);
+    Require(index >= First && index < First + Count);
     return items[static_cast<std::size_t>(index - First)];
   }
   const T& operator()(int index) const {
-    assert(index >= First && index < First + Count);
+    Require(index >= First && index < First + Count);
     return items[static_cast<std::size_t>(index - First)];
   }
   friend bool operator==(const ControlArray&, const ControlArray&) = default;

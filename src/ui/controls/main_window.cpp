@@ -118,7 +118,7 @@ void DesignCommands(MainWindow& main) {
   DesignButton(main.CommandRedo, 4800, "Redo", 'd', texts::kRedoTip);
   DesignButton(main.CommandResetCell, 5760, texts::kResetCell, 'C', texts::kResetTip);
   DesignButton(main.CommandHint, 6720, "Hint", 'i', texts::kHintCost);
-  DesignButton(main.CommandSolution, 7920, "Solution", 'S', texts::kSolutionTip);
+  DesignButton(main.CommandSolution, 7920, "Solution", 't', texts::kSolutionTip);
   DesignButton(main.CommandPrint, 9120, texts::kPrint, 'P', texts::kPrintTip);
   main.CommandPrint.width = 1080;
   for (Button* button :
@@ -133,14 +133,13 @@ void DesignCommands(MainWindow& main) {
 }
 
 void DesignRightColumn(MainWindow& main) {
-  DesignButton(main.cmdPlayers, 10560, texts::kPlayers, 'l', texts::kPlayersTip);
+  DesignButton(main.cmdPlayers, 10560, texts::kPlayers, 'a', texts::kPlayersTip);
   Place(main.cmdPlayers, 10560, 180, 840, kCommandHeight);
-  DesignButton(main.CommandHelp, 10560, "Help", 'p', texts::kHelpTip);
+  DesignButton(main.CommandHelp, 10560, "Help", 'l', texts::kHelpTip);
   Place(main.CommandHelp, 10560, 8430, 840, kCommandHeight);
-  main.CommandHelp.mnemonic = 'e';
   Place(main.chkSound, 9720, 8460, 840, 315);
   main.chkSound.caption = "Sounds";
-  main.chkSound.mnemonic = 'u';
+  main.chkSound.mnemonic = 'S';
   main.chkSound.tooltip = texts::kSoundsTip;
   Place(main.Picture1, 9120, 8370, 480, 480);
   main.Picture1.tooltip = texts::kLogo;

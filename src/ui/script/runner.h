@@ -43,7 +43,8 @@ class ScriptRunner final : private InputSource {
   // Starts the game and plays the whole script. Returns the exit status.
   int Run();
 
-  [[nodiscard]] const Game& PlayedGame() const { return game_; }
+  // The game that is played, for whoever looks at it or lets events happen inside its computations.
+  [[nodiscard]] Game& PlayedGame() { return game_; }
 
  private:
   // What a line was.

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+// Rules that a transcript would show only with effort: times of foreign records, limits, and a renewal beside
+// play.
+#include <gtest/gtest.h>
+
+#include "game/status_bar.h"
+#include "game/step_history.h"
+#include "game/texts.h"
+#include "support/game_home.h"
+#include "support/test_stock.h"
+
+namespace kestrel::testing {
+namespace {
+
+TEST(StatusBar, AveragesAreRoundedDown) {
+  StockTable stock;
+  EXPECT_EQ(TimesOfLevel(stock, 1).best, 0);
+  EXPECT_EQ(TimesOfLevel(stock, 1).average, 0);
+  stock(1, 5).BestMinutes = 125;
+  stock(1, 5).BestSeconds = 5;
+  stock(1, 100).BestSeconds = 30;
+  stock(1, 7).BestMinutes = -3;  // no time
+  EXPECT_EQ(TimesOfLevel(stock, 1).best, 30);
+  EXPECT_EQ(TimesOfLevel(stock, 1).average, (7505 + 30) / 2);
+  EXPECT_EQ(texts::Time(125, 5), "25:05");
+}
+
+TEST(StepHistory, HoldsAtMost32767Steps) {
+  StepHistory history;
+  for (int i = 0; i < StepHistory::kMostSteps; ++i) history.Append(i % kCells);
+  EXPECT_TRUE(history.Full());
+  EXPECT_EQ(history.StepTop(), 32767);
+  history.TakeBack();
+  EXPECT_FALSE(history.Full());
+  EXPECT_EQ(history.StepTop(), 32767);
+  history.Append(0);
+  EXPECT_EQ(history.StepTop(), 32767);
+}
+
+// At the last possible step a click changes nothing, and undoing still works.
+TEST(Game, TakesNoStepBeyondTheLast) {
+  GameHome home;
+  std::string script = "press OptionType(3)\npress CommandNew\nrow 0\ncolumn 1\n";
+  for (int i = 0; i < StepHistory::kMostSteps; ++i) script += "press CommandResetCell\n";
+  script +=
+      "echo full\nmark 2 9\nmark 2 5 right\npress CommandResetCell\nvar StepCount\nget Grid(2).caption\n";
+  const Played played = home.Play(script + "press CommandUndo\nmark 2 9\nvar StepCount\n");
+  EXPECT_EQ(played.status, 0) << played.errors;
+  EXPECT_EQ(played.output.substr(played.output.find("echo full")),
+            "echo full\nStepCount = 32767\nGrid(2).caption = \"\"\nsound 6\nsound 2\nStepCount = 32767\n");
+}
+
+// The end of a renewal gives its level back to choose, even while another is in play: a best time still goes
+// to the puzzle that was solved, and the level in play cannot be renewed.
+TEST(Game, KeepsToTheOpenPuzzleWhenALevelIsChosenMeanwhile) {
+  GameHome home;
+  const SudokuRecord record = MakeTestStock()(2, 1);
+  std::string script =
+      "press cmdPlayers\npress KnopNieuweSpeler\ntype NaamInvoerveld Ann\nkey NaamInvoerveld enter\n"
+      "press KnopOK\npress CommandNew\npress RenewLevel(5)\nanswer OK\nrenew 100000\n"
+      "press OptionType(5)\npress RenewLevel(2)\nvar RenewingLevel\nclock 12:00:09\ntick\n";
+  for (int cell = 0; cell < kCells; ++cell) {
+    if (record.GivenCells[cell] != 0) continue;
+    script += "mark " + std::to_string(cell) + " " + std::to_string(record.SolutionCells[cell]) + "\n";
+  }
+  const Played played = home.Play(script + "answer OK\nget StatusBar(4).caption\n");
+  EXPECT_EQ(played.status, 0) << played.errors;
+  EXPECT_TRUE(played.Has("RenewingLevel = 0"));
+  EXPECT_TRUE(played.Has("StatusBar(4).caption = \"Level Best Time: 00:09\""));
+  EXPECT_EQ(home.Stock()(2, 1).BestSeconds, 9);
+  EXPECT_EQ(home.Stock()(2, 1).GivenCells, record.GivenCells);
+}
+
+// Foreign records: a holder who is no player, negative times, a level that is none.
+TEST(Game, ShowsForeignRecords) {
+  GameHome home;
+  StockTable stock = MakeTestStock();
+  stock(2, 1).BestMinutes = 125;
+  stock(2, 1).BestSeconds = 5;
+  stock(2, 1).BestPlayer = -7;
+  stock(2, 2).BestMinutes = -1;
+  stock(2, 2).BestSeconds = -1;
+  stock(2, 2).Level = 9;
+  home.PutStock(stock);
+  const Played played = home.Play(
+      "press CommandNew\nget StatusBar(3).caption\npress CommandSolution\npress CommandNew\n"
+      "get StatusBar(1).caption\nget StatusBar(3).caption\nvar PuzzleLevel\nmark 0 8 right\nvar StepCount\n");
+  EXPECT_TRUE(played.Has("StatusBar(3).caption = \"Best Time: 25:05 by \""));
+  EXPECT_TRUE(played.Has("StatusBar(1).caption = \"Level: Easy\""));
+  EXPECT_TRUE(played.Has("StatusBar(3).caption = \"Best Time: 00:00 (No Best Time Yet)\""));
+  EXPECT_TRUE(played.Has("PuzzleLevel = 9"));
+  EXPECT_TRUE(played.Has("StepCount = 1"));
+}
+
+// A stock that the user has is not replaced by the one that comes with the program.
+TEST(Game, KeepsTheUsersStock) {
+  GameHome home;
+  StockTable stock = MakeTestStock();
+  stock(1, 1).Score = 77;
+  home.PutStock(stock);
+  home.Play("");
+  EXPECT_EQ(home.Stock()(1, 1).Score, 77);
+  EXPECT_EQ(home.Stock()(5, 100), stock(5, 100));
+}
+
+}  // namespace
+}  // namespace kestrel::testing

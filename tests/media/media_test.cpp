@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/host_files.h"
+#include "media/sounds.h"
+#include "media/web_link.h"
+#include "support/temp_folder.h"
+#include "ui/memory/memory_desk.h"
+#include "ui/memory/recording_ports.h"
+
+namespace kestrel {
+namespace {
+
+class LineList final : public Transcript {
+ public:
+  void Line(std::string_view line) override { lines.emplace_back(line); }
+  std::vector<std::string> lines;
+};
+
+class NoInput final : public InputSource {
+ public:
+  bool NextAction() override { return false; }
+};
+
+// A device that takes every second file, and gives ids of its own.
+class PickyDevice final : public SoundDevice {
+ public:
+  bool Open() override { return opens; }
+  std::int32_t Load(std::string_view path) override {
+    paths.emplace_back(path);
+    return paths.size() % 2 == 0 ? -1 : static_cast<std::int32_t>(100 * paths.size());
+  }
+  void Play(std::int32_t id) override { played.push_back(id); }
+  bool opens = true;
+  std::vector<std::string> paths;
+  std::vector<std::int32_t> played;
+};
+
+TEST(Sounds, PlayWhatCouldBeLoadedAndIsWanted) {
+  PickyDevice device;
+  Sounds sounds(device);
+  sounds.SoundOn = true;
+  sounds.Speel(Sound::Assign);  // before anything was opened
+  sounds.Init_Sound("/p\\");
+  EXPECT_TRUE(sounds.SoundAvailable());
+  EXPECT_EQ(device.paths.size(), 10);
+  EXPECT_EQ(device.paths.front(), "/p\\Applause.wav");
+  EXPECT_EQ(device.paths.back(), "/p\\Giggle.wav");
+  sounds.Speel(Sound::Assign);
+  sounds.Speel(Sound::Discard);
+  sounds.SoundOn = false;
+  sounds.Speel(Sound::Applause);
+  EXPECT_EQ(device.played, std::vector<std::int32_t>{300});
+}
+
+TEST(Sounds, AreSilentWithoutADevice) {
+  PickyDevice device;
+  device.opens = false;
+  Sounds sounds(device);
+  sounds.Init_Sound("/p\\");
+  sounds.SoundOn = true;
+  sounds.Speel(Sound::Applause);
+  EXPECT_FALSE(sounds.SoundAvailable());
+  EXPECT_TRUE(device.paths.empty() && device.played.empty());
+}
+
+// The temporary file is gone in every case, and a folder that takes none does not stop the link.
+TEST(WebLink, ReportsWhatFails) {
+  struct Case {
+    bool has_browser, starts;
+    std::string line;
+  };
+  const std::vector<Case> cases = {
+      {true, true, "shell " + std::string(kWebSite)},
+      {true, false, R"(message "URL Failed" "Web Page not Opened" exclamation OK)"},
+      {false, true, R"(message "Browser Not Found" "Could not find associated Browser" exclamation OK)"}};
+  SystemCalls calls;
+  HostFiles files(calls);
+  for (const Case& test : cases) {
+    for (const bool writable : {true, false}) {
+      const TempFolder folder;
+      LineList lines;
+      NoInput input;
+      MemoryDesk desk(input, lines);
+      MemoryShell shell(test.has_browser, test.starts, lines);
+      OpenWebSite(kWebSite, writable ? folder.Written() : folder.Written("gone\\"), files, shell, desk);
+      EXPECT_EQ(lines.lines, std::vector{test.line});
+      EXPECT_EQ(folder.Count(), 0);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kestrel
