@@ -45,8 +45,6 @@ class PageLayout {
   // Derives the candidates of the puzzle opened last from its givens.
   void SetupCandidates();
 
-  [[nodiscard]] const CandidateTable& Candidates() const { return candidates_; }
-
  private:
   void PrintGrid(const GridSquare& square);
   void PrintInCell(const GridSquare& square, int cell, const TextStyle& style, int digit);

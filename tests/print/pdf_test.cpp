@@ -6,9 +6,10 @@
 #include <cstdio>
 #include <regex>
 
+#include "cli/cli_run.h"
+#include "core/stock_file.h"
 #include "print/page_metrics.h"
 #include "print/pdf_page.h"
-#include "print/print_job.h"
 #include "recording_page.h"
 #include "support/temp_folder.h"
 
@@ -51,15 +52,21 @@ class PrintedPdf : public testing::TestWithParam<int> {
  protected:
   void SetUp() override {
     if (OutputOf("pdftotext -v 2>&1").find("version") == std::string::npos) GTEST_SKIP() << "no poppler";
-    const Bytes bytes = PrintJob(stock_, {.per_page = GetParam(), .with_pencil_marks = false});
-    folder_.Put("page.pdf", std::string(bytes.begin(), bytes.end()));
-    file_ = folder_.Path("page.pdf").string();
+    ASSERT_EQ(Print({"--per-page", std::to_string(GetParam())}), 0);
+  }
+  // Prints puzzles from the command line; its exit status.
+  int Print(std::vector<std::string> words) {
+    const Bytes bytes = EncodeStock(stock_);
+    folder_.Put("stock", std::string(bytes.begin(), bytes.end()));
+    words.insert(words.begin(), {"print", "--stock", folder_.Path("stock").string(), "--output", file_});
+    words.push_back("--no-pencilmarks");
+    return RunWith(words).status;
   }
 
   StockTable stock_ = StockToPrint();
   PageMetrics metrics_ = MeasurePage(PdfPage::kWidth, PdfPage::kHeight);
   TempFolder folder_;
-  std::string file_;
+  std::string file_ = folder_.Path("page.pdf").string();
 };
 INSTANTIATE_TEST_SUITE_P(PerPage, PrintedPdf, testing::Values(1, 2, 4));
 
@@ -87,6 +94,18 @@ TEST_P(PrintedPdf, HasEveryDigitInItsCell) {
     EXPECT_EQ(digits_in(SudokuSquare(metrics_, GetParam(), position)), stock_(1, position).GivenCells);
     EXPECT_EQ(digits_in(SolutionSquare(metrics_, GetParam(), position)), stock_(1, position).SolutionCells);
   }
+}
+
+TEST_P(PrintedPdf, StaysWhenTheSameOrNothingIsPrintedOverIt) {
+  const std::string before = folder_.Get("page.pdf");
+  EXPECT_EQ(Print({"--per-page", std::to_string(GetParam()), "--level=1"}), 0);
+  const std::string highest = std::to_string(101 - 10 * GetParam());
+  for (const std::vector<std::string>& words : std::initializer_list<std::vector<std::string>>{
+           {"--per-page=4", "--pages=10", "--from=62"}, {"--from=0"}, {"--from=101"}, {"--per-page=3"}}) {
+    EXPECT_EQ(Print(words), 2);
+  }
+  EXPECT_EQ(folder_.Get("page.pdf"), before);
+  EXPECT_EQ(Print({"--per-page", std::to_string(GetParam()), "--pages=10", "--from", highest}), 0);
 }
 
 TEST_P(PrintedPdf, LooksAsLaidOut) {
