@@ -121,7 +121,7 @@ void SolverState::PlaceValue(int digit, int cell) {
   cell_value_[cell] = static_cast<std::uint8_t>(digit);
   UnitMask lone_units = 0;
   UnitMask changed_units = kUnitTables.units[cell];
-  changed_digits_ |= cell_mask_[cell] | DigitBit(digit);
+  changed_digits_ |= static_cast<CandidateMask>(cell_mask_[cell] | DigitBit(digit));
   for (CandidateMask rest = cell_mask_[cell]; rest != 0; rest &= rest - 1) {
     cells_[LowestDigit(rest) - 1].Remove(cell);
     lone_units |= ClearPlaces(LowestDigit(rest), cell);
