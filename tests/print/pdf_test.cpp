@@ -52,7 +52,7 @@ class PrintedPdf : public testing::TestWithParam<int> {
  protected:
   void SetUp() override {
     if (OutputOf("pdftotext -v 2>&1").find("version") == std::string::npos) GTEST_SKIP() << "no poppler";
-    ASSERT_EQ(Print({"--per-page", std::to_string(GetParam())}), 0);
+    ASSERT_EQ(Print({"--per-page", std::to_string(GetParam()), "--pages=2"}), 0);
   }
   // Prints puzzles from the command line; its exit status.
   int Print(std::vector<std::string> words) {
@@ -71,8 +71,8 @@ class PrintedPdf : public testing::TestWithParam<int> {
 INSTANTIATE_TEST_SUITE_P(PerPage, PrintedPdf, testing::Values(1, 2, 4));
 
 TEST_P(PrintedPdf, HasEveryDigitInItsCell) {
-  const std::string words = OutputOf("pdftotext -bbox " + file_ + " -");
-  // The digits in the middle of the cells of a square.
+  const std::string words = OutputOf("pdftotext -f 2 -bbox " + file_ + " -");
+  // The digits in the middle of the cells of a square on page 2.
   const auto digits_in = [&words](const GridSquare& square) {
     DigitGrid digits{};
     static const std::regex kWord(R"re(xMin="(.*)" yMin="(.*)" xMax="(.*)" yMax="(.*)">(.)</word>)re");
@@ -91,14 +91,15 @@ TEST_P(PrintedPdf, HasEveryDigitInItsCell) {
     return digits;
   };
   for (int position = 1; position <= GetParam(); ++position) {
-    EXPECT_EQ(digits_in(SudokuSquare(metrics_, GetParam(), position)), stock_(1, position).GivenCells);
-    EXPECT_EQ(digits_in(SolutionSquare(metrics_, GetParam(), position)), stock_(1, position).SolutionCells);
+    const SudokuRecord& record = stock_(1, GetParam() + position);
+    EXPECT_EQ(digits_in(SudokuSquare(metrics_, GetParam(), position)), record.GivenCells);
+    EXPECT_EQ(digits_in(SolutionSquare(metrics_, GetParam(), position)), record.SolutionCells);
   }
 }
 
 TEST_P(PrintedPdf, StaysWhenTheSameOrNothingIsPrintedOverIt) {
   const std::string before = folder_.Get("page.pdf");
-  EXPECT_EQ(Print({"--per-page", std::to_string(GetParam()), "--level=1"}), 0);
+  EXPECT_EQ(Print({"--per-page", std::to_string(GetParam()), "--pages=2", "--level=1"}), 0);
   const std::string highest = std::to_string(101 - 10 * GetParam());
   for (const std::vector<std::string>& words : std::initializer_list<std::vector<std::string>>{
            {"--per-page=4", "--pages=10", "--from=62"}, {"--from=0"}, {"--from=101"}, {"--per-page=3"}}) {
@@ -110,7 +111,7 @@ TEST_P(PrintedPdf, StaysWhenTheSameOrNothingIsPrintedOverIt) {
 
 TEST_P(PrintedPdf, LooksAsLaidOut) {
   // Ten dots a millimetre.
-  const std::string picture = OutputOf("pdftoppm -r 254 -gray " + file_);
+  const std::string picture = OutputOf("pdftoppm -f 2 -r 254 -gray " + file_);
   constexpr std::size_t kRow = 2101, kHead = 17;
   ASSERT_EQ(picture.substr(0, kHead), "P5\n2101 2971\n255\n");
   const auto ink = [&](int x, int y, int width, int height) {
@@ -127,7 +128,8 @@ TEST_P(PrintedPdf, LooksAsLaidOut) {
     const int side = square.side / 90;
     const int x = (square.x + cell % 9 * square.side / 9) / 10;
     const int y = (square.y + cell / 9 * square.side / 9) / 10;
-    EXPECT_EQ(ink(x + 4, y + 4, side - 8, side - 8) > 50, stock_(1, i / kCells + 1).GivenCells[cell] != 0);
+    EXPECT_EQ(ink(x + 4, y + 4, side - 8, side - 8) > 50,
+              stock_(1, GetParam() + i / kCells + 1).GivenCells[cell] != 0);
     const auto line_above = ink(x + 20, y - 4, 1, 8);
     EXPECT_TRUE(cell / 9 % 3 == 0 ? line_above > 3 && line_above < 7 : line_above > 0 && line_above < 3);
   }
