@@ -21,7 +21,8 @@ bool NewBestTime(Session& session) {
       session.asker.Message({std::string(texts::kNewBestTimeTitle), std::string(texts::kNewBestTime),
                              MessageIcon::Information, MessageButtons::Ok});
   if (answer == Answer::Ended) return false;
-  ShowTimes(session, level);
+  ShowBestTime(session);
+  ShowLevelTimes(session, level);
   return true;
 }
 

@@ -38,18 +38,22 @@ LevelTimes TimesOfLevel(const StockTable& stock, int level) {
 
 void ShowStatus(Session& session, int level) {
   auto& panels = session.forms.main.StatusBar;
+  const OpenPuzzle& puzzle = session.puzzle;
   panels(1).caption = texts::LevelPanel(texts::kLevelNames[static_cast<std::size_t>(level - 1)]);
-  panels(2).caption = texts::NumberPanel(session.puzzle.PuzzleNumber);
-  ShowTimes(session, level);
+  panels(2).caption = texts::NumberPanel(puzzle.PuzzleNumber);
+  ShowBestTime(session);
+  if (puzzle.PuzzleBestMinutes <= 0 && puzzle.PuzzleBestSeconds <= 0) panels(3).caption = texts::kNoBestTime;
+  ShowLevelTimes(session, level);
 }
 
-void ShowTimes(Session& session, int level) {
-  auto& panels = session.forms.main.StatusBar;
+void ShowBestTime(Session& session) {
   const OpenPuzzle& puzzle = session.puzzle;
-  const bool has_time = puzzle.PuzzleBestMinutes > 0 || puzzle.PuzzleBestSeconds > 0;
-  panels(3).caption = has_time ? texts::BestTimePanel(puzzle.PuzzleBestMinutes, puzzle.PuzzleBestSeconds,
-                                                      session.players.Name(puzzle.PuzzleBestPlayer))
-                               : std::string(texts::kNoBestTime);
+  session.forms.main.StatusBar(3).caption = texts::BestTimePanel(
+      puzzle.PuzzleBestMinutes, puzzle.PuzzleBestSeconds, session.players.Name(puzzle.PuzzleBestPlayer));
+}
+
+void ShowLevelTimes(Session& session, int level) {
+  auto& panels = session.forms.main.StatusBar;
   const LevelTimes times = TimesOfLevel(*session.stock, level);
   panels(4).caption = texts::LevelBestPanel(TimeOfSeconds(times.best));
   panels(5).caption = texts::LevelAveragePanel(TimeOfSeconds(times.average));

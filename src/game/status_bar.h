@@ -20,7 +20,10 @@ LevelTimes TimesOfLevel(const StockTable& stock, int level);
 // All five panels for the open puzzle, which was taken from `level`.
 void ShowStatus(Session& session, int level);
 
-// Panels 3 to 5: the puzzle's best time, and the level's best and average time.
-void ShowTimes(Session& session, int level);
+// Panel 3 with the best time and its holder, also when that is 0:00.
+void ShowBestTime(Session& session);
+
+// Panels 4 and 5: the level's best and average time.
+void ShowLevelTimes(Session& session, int level);
 
 }  // namespace kestrel

@@ -36,6 +36,17 @@ int Played::Count(std::string_view start) const {
   return count;
 }
 
+std::string FillIn(int level, int number) {
+  static const StockTable stock = MakeTestStock();
+  const SudokuRecord& record = stock(level, number);
+  std::string lines;
+  for (int cell = 0; cell < kCells; ++cell) {
+    if (record.GivenCells[cell] != 0) continue;
+    lines += "mark " + std::to_string(cell) + " " + std::to_string(record.SolutionCells[cell]) + "\n";
+  }
+  return lines;
+}
+
 GameHome::GameHome() {
   // The stock takes a moment to make and never changes.
   static const Bytes stock = EncodeStock(MakeTestStock());

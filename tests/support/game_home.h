@@ -26,6 +26,14 @@ struct Played {
   [[nodiscard]] int Count(std::string_view start) const;
 };
 
+// Lines that add the player Ann to a home without players, and choose her.
+inline constexpr std::string_view kAnnPlays =
+    "press cmdPlayers\npress KnopNieuweSpeler\ntype NaamInvoerveld Ann\nkey NaamInvoerveld enter\n"
+    "press KnopOK\n";
+
+// Lines that fill every empty cell of a puzzle of the test stock with its solution.
+std::string FillIn(int level, int number);
+
 class GameHome {
  public:
   GameHome();
