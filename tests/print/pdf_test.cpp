@@ -71,7 +71,8 @@ class PrintedPdf : public testing::TestWithParam<int> {
 INSTANTIATE_TEST_SUITE_P(PerPage, PrintedPdf, testing::Values(1, 2, 4));
 
 TEST_P(PrintedPdf, HasEveryDigitInItsCell) {
-  const std::string words = OutputOf("pdftotext -f 2 -bbox " + file_ + " -");
+  const std::string words = OutputOf("pdftotext -f 2 -bbox " + file_ + " - 2>&1");
+  EXPECT_EQ(words.find("Error"), std::string::npos) << "the reader complains";
   // The digits in the middle of the cells of a square on page 2.
   const auto digits_in = [&words](const GridSquare& square) {
     DigitGrid digits{};
