@@ -129,7 +129,9 @@ Browser MakeBrowser() {
   Place(form.window, 0, 0, 14400, 10800);
   form.window.caption = texts::kBrowserCaption;
   form.window.state = WindowState::Maximized;
-  Place(form.WebBrowser1, 0, 0, form.window.width - kBrowserMarginX, form.window.height - kBrowserMarginY);
+  // The strip above the view is for the front end's buttons.
+  Place(form.WebBrowser1, 120, 465, form.window.width - kBrowserMarginX,
+        form.window.height - kBrowserMarginY);
   form.WebBrowser1.spoken = texts::kHelpPage;
   return form;
 }

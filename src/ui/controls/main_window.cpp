@@ -11,6 +11,7 @@ namespace {
 constexpr int kCommandLine = 9000;  // top of the bottom line of buttons
 constexpr int kCommandWidth = 855;
 constexpr int kCommandHeight = 375;
+constexpr double kMarkPoints = 10.5;  // digits 10 pixels high leave air between the lines of marks
 
 void Place(Control& control, int left, int top, int width, int height) {
   control.left = left;
@@ -33,6 +34,7 @@ void DesignBoard(MainWindow& main) {
       Label& mark = main.Mark(d)(cell);
       Place(mark, x + kMarkPitch * ((d - 1) % 3), y + kMarkPitch * ((d - 1) / 3), kMarkSize, kMarkSize);
       mark.caption = std::to_string(d);
+      mark.font.size = kMarkPoints;
       mark.align = Align::Centre;
       mark.transparent = true;
     }
@@ -78,17 +80,17 @@ void DesignLevels(MainWindow& main) {
     const int top = 720 + 330 * (level - 1);
     const std::string_view name = texts::kLevelNames[static_cast<std::size_t>(level - 1)];
     OptionButton& option = main.OptionType(level);
-    Place(option, 9120, top, 1275, 300);
+    Place(option, 9120, top, 1155, 300);
     option.caption = name;
     option.mnemonic = kMnemonics[static_cast<std::size_t>(level - 1)];
     Label& renew = main.RenewLevel(level);
-    Place(renew, 10440, top, 960, 300);
+    Place(renew, 10290, top, 1110, 300);
     renew.caption = texts::kRenewLevel;
     renew.link = true;
     renew.align = Align::Right;
     renew.spoken = std::string(texts::kRenewLevel) + ": " + std::string(name);
   }
-  Place(main.ProgressBar2, 9120, 8130, 2280, 180);
+  Place(main.ProgressBar2, 9120, 8085, 2280, 225);
   main.ProgressBar2.visible = false;
   main.ProgressBar2.spoken = texts::kRenewalProgress;
 }
@@ -135,13 +137,13 @@ void DesignCommands(MainWindow& main) {
 void DesignRightColumn(MainWindow& main) {
   DesignButton(main.cmdPlayers, 10560, texts::kPlayers, 'a', texts::kPlayersTip);
   Place(main.cmdPlayers, 10560, 180, 840, kCommandHeight);
-  DesignButton(main.CommandHelp, 10560, "Help", 'l', texts::kHelpTip);
-  Place(main.CommandHelp, 10560, 8430, 840, kCommandHeight);
-  Place(main.chkSound, 9720, 8460, 840, 315);
+  DesignButton(main.CommandHelp, 10320, "Help", 'l', texts::kHelpTip);
+  main.CommandHelp.width = 1080;
+  Place(main.chkSound, 10485, 8475, 915, 315);
   main.chkSound.caption = "Sounds";
   main.chkSound.mnemonic = 'S';
   main.chkSound.tooltip = texts::kSoundsTip;
-  Place(main.Picture1, 9120, 8370, 480, 480);
+  Place(main.Picture1, 9120, 8340, 1350, 600);
   main.Picture1.tooltip = texts::kLogo;
 }
 
@@ -163,7 +165,7 @@ void DesignClock(MainWindow& main) {
 }
 
 void DesignStatusBar(MainWindow& main) {
-  constexpr std::array<int, 5> kWidths = {1620, 1260, 4020, 2220, 2400};  // 11520 together
+  constexpr std::array<int, 5> kWidths = {1515, 1260, 4365, 2085, 2295};  // 11520 together
   int left = 0;
   for (int panel = 1; panel <= 5; ++panel) {
     const int width = kWidths[static_cast<std::size_t>(panel - 1)];

@@ -85,12 +85,12 @@ void PaintButton(const QStyleOptionButton& option, QPainter& painter, const QWid
   const QColor border = !enabled ? QColor(kDisabledBorder) : is_default ? QColor(kAccent) : QColor(kBorder);
   const int line = scope.Grid().Pixels(is_default && enabled ? 2 : 1);
   PaintRounded(painter, place, kButtonRadius * scope.Grid().Ratio(), ButtonFace(option), border, line);
-  if (Has(option, QStyle::State_HasFocus)) {
+  if (Has(option, QStyle::State_HasFocus) && Has(option, QStyle::State_KeyboardFocusChange)) {
     const int inset = scope.Grid().Pixels(is_default ? 3 : 2);
     PaintFocus(painter, scope, place.adjusted(inset, inset, -inset, -inset));
   }
   painter.setPen(TextColour(option));
-  const int padding = scope.Grid().Pixels(2);
+  const int padding = scope.Grid().Pixels(1);
   PaintText(painter, place.adjusted(padding, 0, -padding, 0), Align::Centre, option.text, Digits::AsDesigned,
             true);
 }
