@@ -2,6 +2,6 @@
 # Debian packages, by what they are needed for. Sourced by tools/setup.sh; nothing else lists packages.
 build_packages="g++ cmake ninja-build"
 window_packages="qt6-base-dev qt6-multimedia-dev fonts-liberation"
-test_packages="libgtest-dev"
+test_packages="libgtest-dev poppler-utils"
 check_packages="clang clang-format clang-tidy libclang-rt-14-dev"
 bench_packages="libbenchmark-dev qqwing"
