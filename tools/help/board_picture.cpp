@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "help/blockers.h"
 #include "help/cell_names.h"
 #include "solver/technique_table.h"
 
@@ -263,6 +264,11 @@ class Drawing {
   }
 
   void Signs() {
+    if (finding_.step == 1) {
+      const Blockers blockers =
+          FindBlockers(example_.digits, finding_.units[0], finding_.placed_cell, finding_.placed_digit);
+      for (const int cell : blockers.cells) Disc(CellMiddle(cell), 22, "fill=\"none\"", 3);
+    }
     for (const Removal& removal : finding_.removals) {
       for (int digit = 1; digit <= 9; ++digit) {
         if (HasDigit(removal.digits, digit)) Struck(MarkMiddle(removal.cell, digit), digit);

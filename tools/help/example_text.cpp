@@ -2,6 +2,7 @@
 // What a worked example shows, in plain sentences.
 #include "help/example_text.h"
 
+#include "help/blockers.h"
 #include "help/cell_names.h"
 #include "solver/technique_table.h"
 
@@ -67,7 +68,15 @@ Text HiddenSingle(const Example& example) {
   const Text cell = Name(f, 0);
   const Text digit = DigitNames(f.digits);
   const CandidateMask others = example.marks[f.placed_cell] & ~f.digits;
-  return "Look at " + unit + ": of its empty cells, only " + cell + " can still hold " + digit + ". " + cell +
+  const Blockers blockers = FindBlockers(example.digits, f.units[0], f.placed_cell, f.placed_digit);
+  Text why;
+  if (blockers.all_explained && !blockers.cells.empty()) {
+    const bool one = blockers.cells.size() == 1;
+    why = "The " + digit + (one ? " in " : "s in ") + CellNames(blockers.cells) + (one ? " rules" : " rule") +
+          " out its other empty cells. ";
+  }
+  return "Look at " + unit + ": of its empty cells, only " + cell + " can still hold " + digit + ". " + why +
+         cell +
          (BitCount[others] == 1 ? " has another candidate as well (" : " has other candidates as well (") +
          DigitNames(others) + "), but " + unit + " needs " + WithArticle(f.digits) +
          " and has no other place for it. So " + digit + " goes into " + cell + '.';

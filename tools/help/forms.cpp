@@ -7,6 +7,7 @@
 #include <bit>
 #include <cmath>
 
+#include "help/blockers.h"
 #include "solver/unit_table.h"
 
 namespace kestrel::help {
@@ -160,9 +161,17 @@ int LeastShare(const SolverState& position, int cell) {
 // The single's own part of Clarity.
 double SingleClarity(const SolverState& position, const Finding& finding) {
   if (finding.step == 2) return kPerRemoval * LeastShare(position, finding.placed_cell);
-  int naked = 0;  // a hidden single next to plain ones looks contrived
-  for (int cell = 0; cell < kCells; ++cell) naked += BitCount[position.CellMask(cell)] == 1 ? 1 : 0;
-  return -naked;
+  // A hidden single next to plain ones looks contrived, and one that needs earlier removals is hard to
+  // follow.
+  int naked = 0;
+  DigitGrid digits{};
+  for (int cell = 0; cell < kCells; ++cell) {
+    digits[cell] = static_cast<std::uint8_t>(position.CellValue(cell));
+    naked += BitCount[position.CellMask(cell)] == 1 ? 1 : 0;
+  }
+  const Blockers blockers = FindBlockers(digits, finding.units[0], finding.placed_cell, finding.placed_digit);
+  return -naked - (blockers.all_explained ? 0 : 2 * kPerRemoval) -
+         std::abs(static_cast<double>(blockers.cells.size()) - 3);
 }
 
 }  // namespace

@@ -104,7 +104,8 @@ class Builder {
     shown_.clear();
     out_ << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
             "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>"
-         << Escaped(title) << "</title>\n<link rel=\"stylesheet\" type=\"text/css\" href=\"help.css\">\n</head>\n<body>\n";
+         << Escaped(title)
+         << "</title>\n<link rel=\"stylesheet\" type=\"text/css\" href=\"help.css\">\n</head>\n<body>\n";
     Navigation(index);
     out_ << "<h1>" << Escaped(page.title) << "</h1>\n";
     for (const std::string& line : page.lines) Line(page, line);
@@ -206,7 +207,10 @@ class Builder {
     }
     out_ << "<p class=\"legend\">";
     if (single) {
-      out_ << "The disc marks the digit that goes in.";
+      out_ << "In the pictures, the disc stands for the digit that goes in"
+           << (page.file == TechniqueOfStep(1).help_page
+                   ? ", a large ring for a digit that rules out other places."
+                   : ".");
     } else {
       std::vector<std::string> signs;
       if (solved) signs.emplace_back("a large ring stands for a solved corner");

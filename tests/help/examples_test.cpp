@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: MIT
+// The worked examples against the solver, and reading and writing them.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <string>
+
+#include "help/board_picture.h"
+#include "help/cell_names.h"
+#include "help/example_text.h"
+#include "help/forms.h"
+#include "help/site_files.h"
+#include "solver/solver.h"
+#include "solver/technique_table.h"
+#include "support/plain_solver.h"
+
+namespace kestrel::help {
+namespace {
+
+const ExampleFile& Shipped() {
+  static const ExampleFile file =
+      ReadExamples(FileText(std::string(KESTREL_SOURCE_DIR) + "/data/examples.txt"));
+  return file;
+}
+
+plain::PlainSolver PlainPosition(const Example& example) {
+  plain::PlainSolver solver;
+  std::array<int, kCells> digits{};
+  std::array<int, kCells> marks{};
+  for (int cell = 0; cell < kCells; ++cell) {
+    digits[cell] = example.digits[cell];
+    marks[cell] = example.marks[cell];
+    solver.Givens[cell] = example.givens[cell];
+  }
+  solver.Load(digits, marks);
+  return solver;
+}
+
+// Counts the solutions by trying every digit in every empty cell, up to two; `solution` is the last one.
+int CountSolutions(DigitGrid& grid, DigitGrid& solution, int from = 0) {
+  while (from < kCells && grid[from] != 0) ++from;
+  if (from == kCells) {
+    solution = grid;
+    return 1;
+  }
+  CandidateMask seen = 0;
+  for (int i = 0; i < 9; ++i) {
+    for (const int other :
+         {RowCell[CellRow[from]][i], RowCell[i][CellCol[from]], BoxCell[CellBox[from]][i]}) {
+      if (grid[other] != 0) seen |= DigitBit(grid[other]);
+    }
+  }
+  int count = 0;
+  for (int digit = 1; digit <= 9 && count < 2; ++digit) {
+    if (HasDigit(seen, digit)) continue;
+    grid[from] = static_cast<std::uint8_t>(digit);
+    count += CountSolutions(grid, solution, from + 1);
+    grid[from] = 0;
+  }
+  return count;
+}
+
+TEST(Examples, TheSolverFindsWhatEachExampleSays) {
+  ASSERT_EQ(Shipped().error, "");
+  ASSERT_GE(Shipped().examples.size(), 40U);
+  for (const Example& example : Shipped().examples) {
+    SCOPED_TRACE(example.key);
+    // The plain second solver, which shares no code with the first: none of the simpler techniques works.
+    plain::PlainSolver plain = PlainPosition(example);
+    for (int step = 1; step < example.finding.step; ++step) EXPECT_FALSE(plain.Try(step)) << step;
+    EXPECT_TRUE(plain.Try(example.finding.step));
+    SolverState state = example.Position();
+    Finding finding;
+    ASSERT_EQ(FirstTechnique(state, example.givens, &finding), example.finding.step);
+    EXPECT_TRUE(SameFinding(finding, example.finding));
+    // The state afterwards differs by the removals and the placement, and by nothing else.
+    SolverState expected = example.Position();
+    for (const Removal& removal : example.finding.removals) {
+      for (int digit = 1; digit <= 9; ++digit) {
+        if (HasDigit(removal.digits, digit)) EXPECT_TRUE(expected.RemoveCandidate(digit, removal.cell));
+      }
+    }
+    if (example.finding.placed_cell >= 0) {
+      expected.PlaceValue(example.finding.placed_digit, example.finding.placed_cell);
+    }
+    EXPECT_TRUE(state == expected);
+  }
+}
+
+// The position belongs to a proper puzzle and is true to it: digits and candidates keep the one solution, and
+// nothing that the example does touches that solution.
+TEST(Examples, PositionsAreTrueToTheirPuzzles) {
+  for (const Example& example : Shipped().examples) {
+    SCOPED_TRACE(example.key);
+    DigitGrid grid = example.givens;
+    DigitGrid solution{};
+    ASSERT_EQ(CountSolutions(grid, solution), 1);
+    for (int cell = 0; cell < kCells; ++cell) {
+      if (example.digits[cell] != 0) {
+        EXPECT_EQ(example.digits[cell], solution[cell]);
+      } else {
+        EXPECT_TRUE(HasDigit(example.marks[cell], solution[cell])) << CellName(cell);
+      }
+    }
+    for (const Removal& removal : example.finding.removals) {
+      EXPECT_FALSE(HasDigit(removal.digits, solution[removal.cell])) << CellName(removal.cell);
+    }
+  }
+}
+
+TEST(Examples, EveryTechniqueAndEveryKeyHasItsForm) {
+  std::set<int> steps;
+  for (const Example& example : Shipped().examples) {
+    steps.insert(example.finding.step);
+    const auto form = std::find_if(AllForms().begin(), AllForms().end(),
+                                   [&](const Form& f) { return f.key == example.key; });
+    ASSERT_NE(form, AllForms().end()) << example.key;
+    EXPECT_TRUE(IsOfForm(example.finding, *form)) << example.key;
+  }
+  EXPECT_EQ(steps.size(), 22U);
+}
+
+// Text and picture of an example name every cell that matters, and the picture has a sign for each.
+TEST(Examples, TextAndPictureShowEveryCell) {
+  for (const Example& example : Shipped().examples) {
+    SCOPED_TRACE(example.key);
+    const std::string text = ExampleText(example);
+    const std::string words = PictureInWords(example);
+    std::size_t struck = 0;
+    for (const Removal& removal : example.finding.removals) {
+      EXPECT_NE(text.find(CellName(removal.cell)), std::string::npos);
+      EXPECT_NE(words.find(CellName(removal.cell)), std::string::npos);
+      struck += static_cast<std::size_t>(BitCount[removal.digits]);
+    }
+    for (const PatternCell& part : example.finding.pattern) {
+      EXPECT_NE(words.find(CellName(part.cell)), std::string::npos);
+      // The cells of a box in an Empty Rectangle are named by their lines.
+      if (example.finding.step != 21) EXPECT_NE(text.find(CellName(part.cell)), std::string::npos);
+    }
+    const std::string picture = BoardPicture(example);
+    const auto count = [&](std::string_view part) {
+      std::size_t times = 0;
+      for (std::size_t at = picture.find(part); at != std::string::npos; at = picture.find(part, at + 1))
+        ++times;
+      return times;
+    };
+    EXPECT_EQ(count("l16 -16"), struck);  // the strokes
+    EXPECT_EQ(count("font-size=\"38\""), 2U);
+    std::size_t marks = 0;
+    std::size_t digits = 0;
+    for (int cell = 0; cell < kCells; ++cell) {
+      marks += static_cast<std::size_t>(BitCount[example.marks[cell]]);
+      digits += example.digits[cell] != 0 ? 1 : 0;
+    }
+    EXPECT_GE(count("<text"), 18 + marks + digits);  // headers, marks, digits; signs write theirs once more
+  }
+}
+
+TEST(Examples, WrittenTheyReadTheSame) {
+  std::string text;
+  for (const Example& example : Shipped().examples) text += WriteExample(example) + '\n';
+  const ExampleFile again = ReadExamples(text);
+  ASSERT_EQ(again.error, "");
+  ASSERT_EQ(again.examples.size(), Shipped().examples.size());
+  for (std::size_t i = 0; i < again.examples.size(); ++i) {
+    EXPECT_EQ(WriteExample(again.examples[i]), WriteExample(Shipped().examples[i]));
+  }
+}
+
+// Every change of one line that makes an example meaningless is refused, with the number of a line.
+TEST(Examples, BrokenBlocksAreRefused) {
+  const std::string good = WriteExample(*Shipped().Find("x_wing-rows"));
+  ASSERT_EQ(ReadExamples(good).error, "");
+  const auto replaced = [&](const std::string& from, const std::string& to) {
+    std::string text = good;
+    const std::size_t at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return text.replace(at, from.size(), to);
+  };
+  const std::string wrong[] = {
+      replaced("technique X-Wing", "technique X-Ring"),
+      replaced("form 1", "form 7"),
+      replaced("digits ", "digits 0"),
+      replaced("row C", "row I"),
+      replaced("row J", "# row J"),
+      replaced("units r", "units x"),
+      replaced("covers c", "covers c0"),
+      replaced("pattern ", "pattern K"),
+      replaced("\nremove", "\nput"),
+      replaced("\nremove", "\nplace A1:1\nremove"),
+      replaced("givens ", "givens x"),
+      replaced("row A ", "row A =12 "),
+      good + good,
+      good.substr(0, good.find("pattern")),
+      "row A 1 2 3 4 5 6 7 8 9\n",
+  };
+  for (const std::string& text : wrong) {
+    const ExampleFile file = ReadExamples(text);
+    EXPECT_EQ(file.error.rfind("line ", 0), 0U) << text;
+  }
+  std::string moved = good;  // a given that is not on the board
+  const std::size_t dot = moved.find('.', moved.find("givens"));
+  moved[dot] = '1';
+  if (ReadExamples(moved).error.empty()) {
+    moved[dot] = '2';
+  }
+  EXPECT_NE(ReadExamples(moved).error, "");
+}
+
+TEST(Names, CellsUnitsAndLists) {
+  for (int cell = 0; cell < kCells; ++cell) EXPECT_EQ(CellOfName(CellName(cell)), cell);
+  EXPECT_EQ(CellName(24), "C7");
+  EXPECT_EQ(CellName(80), "J9");
+  for (const char* bad : {"", "A", "I1", "a1", "A0", "A:", "A10"}) EXPECT_EQ(CellOfName(bad), -1) << bad;
+  EXPECT_EQ(UnitNames({{UnitKind::Row, 2}, {UnitKind::Row, 8}}), "rows C and J");
+  EXPECT_EQ(UnitNames({{UnitKind::Column, 0}, {UnitKind::Column, 1}, {UnitKind::Column, 8}}),
+            "columns 1, 2 and 9");
+  EXPECT_EQ(UnitNames({{UnitKind::Box, 4}}), "the centre box");
+  EXPECT_EQ(DigitNames(0b100000101, "or"), "1, 3 or 9");
+}
+
+}  // namespace
+}  // namespace kestrel::help
