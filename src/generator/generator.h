@@ -7,40 +7,34 @@
 #include "core/random_source.h"
 #include "core/yield.h"
 #include "generator/outcome.h"
-#include "generator/plain_generator.h"
 
 namespace kestrel {
 
+// For the same seeds the same grids, puzzles and answers as PlainGenerator, which says how they come about;
+// this is the form that is fast. One object must not be used by two threads at once.
 class Generator {
  public:
   // Takes a seed at the start of each of the two making calls. `seeds` must outlive the generator.
-  explicit Generator(SeedSource& seeds) : plain_(seeds) {}
+  explicit Generator(SeedSource& seeds) : seeds_(seeds) {}
 
   DigitGrid SolutionGrid{};  // the full grid made last, 1..9; zeros before the first
-  DigitGrid Givens{};        // the puzzle made last
+  DigitGrid Givens{};        // the puzzle made last, 0 = empty
 
-  // Fills SolutionGrid with a full valid grid. Stopped: SolutionGrid is as it was.
-  [[nodiscard]] Making MakeFullGrid(Yield& yield) {
-    const Making made = plain_.MakeFullGrid(yield);
-    SolutionGrid = plain_.SolutionGrid;
-    return made;
-  }
+  // Fills SolutionGrid with a full valid grid. Asks `yield` before every step of the search. Stopped:
+  // SolutionGrid is as it was.
+  [[nodiscard]] Making MakeFullGrid(Yield& yield);
 
-  // Fills Givens with a puzzle that SolutionGrid solves. Stopped: Givens is as it was.
-  [[nodiscard]] Making MakePuzzle(Yield& yield) {
-    plain_.SolutionGrid = SolutionGrid;
-    const Making made = plain_.MakePuzzle(yield);
-    Givens = plain_.Givens;
-    return made;
-  }
+  // Fills Givens with a puzzle whose only solution is SolutionGrid, and from which no further pair of
+  // opposite cells could be emptied. Asks `yield` at least once for every decision. Stopped: Givens is as it
+  // was.
+  [[nodiscard]] Making MakePuzzle(Yield& yield);
 
-  // Whether `givens` (0..9, 0 = empty) have a second solution.
-  [[nodiscard]] static Uniqueness HasUniqueSolution(const DigitGrid& givens, Yield& yield) {
-    return PlainGenerator::HasUniqueSolution(givens, yield);
-  }
+  // Several if `givens` (0..9, 0 = empty) have a second solution; Unique if they have one or none.
+  [[nodiscard]] static Uniqueness HasUniqueSolution(const DigitGrid& givens, Yield& yield);
 
  private:
-  PlainGenerator plain_;
+  SeedSource& seeds_;
+  RandomSource random_{0};
 };
 
 }  // namespace kestrel

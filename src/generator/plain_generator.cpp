@@ -80,22 +80,26 @@ Making PlainGenerator::MakeFullGrid(Yield& yield) {
   return Making::Made;
 }
 
-Making PlainGenerator::MakePuzzle(Yield& yield) {
-  random_.Seed(seeds_.NextSeed());
-  const CellList order = PairOrder(random_);
-  DigitGrid puzzle = SolutionGrid;
+Making EmptyPairs(const DigitGrid& solution, const CellList& order, Yield& yield, DigitGrid& puzzle) {
+  DigitGrid left = solution;
   for (int i = 0; i < kPairs; ++i) {
     const int cell = order[i];
     const int partner = kCells - 1 - cell;
-    puzzle[cell] = puzzle[partner] = 0;
-    const Uniqueness answer = HasUniqueSolution(puzzle, yield);
+    left[cell] = left[partner] = 0;
+    const Uniqueness answer = PlainGenerator::HasUniqueSolution(left, yield);
     if (answer == Uniqueness::Stopped) return Making::Stopped;
     if (answer == Uniqueness::Unique) continue;
-    puzzle[cell] = SolutionGrid[cell];
-    puzzle[partner] = SolutionGrid[partner];
+    left[cell] = solution[cell];
+    left[partner] = solution[partner];
   }
-  Givens = puzzle;
+  puzzle = left;
   return Making::Made;
+}
+
+Making PlainGenerator::MakePuzzle(Yield& yield) {
+  random_.Seed(seeds_.NextSeed());
+  const CellList order = PairOrder(random_);
+  return EmptyPairs(SolutionGrid, order, yield, Givens);
 }
 
 Uniqueness PlainGenerator::HasUniqueSolution(const DigitGrid& givens, Yield& yield) {

@@ -59,6 +59,11 @@ class BacktrackEngine {
   int p_ = -1;
 };
 
+// Empties the cells of `solution` pair by pair, in the order of places 0..40 of `order`, and puts a pair back
+// when the puzzle would have a second solution without it. Stopped: `puzzle` is as it was.
+[[nodiscard]] Making EmptyPairs(const DigitGrid& solution, const CellList& order, Yield& yield,
+                                DigitGrid& puzzle);
+
 // Same members, same results as Generator, at a fraction of the speed.
 class PlainGenerator {
  public:

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "generator/alternatives.h"
+
+#include "generator/board_tables.h"
+
+namespace kestrel {
+
+bool IsFullGrid(const DigitGrid& grid) {
+  std::array<CandidateMask, 27> units{};
+  for (int cell = 0; cell < kCells; ++cell) {
+    if (grid[cell] < 1 || grid[cell] > 9) return false;
+    const CandidateMask digit = DigitBit(grid[cell]);
+    units[CellRow[cell]] |= digit;
+    units[9 + CellCol[cell]] |= digit;
+    units[18 + CellBox[cell]] |= digit;
+  }
+  CandidateMask in_all = kAllDigits;
+  for (const CandidateMask unit : units) in_all &= unit;
+  return in_all == kAllDigits;
+}
+
+ReferenceGrid::ReferenceGrid(const DigitGrid& grid) {
+  for (int cell = 0; cell < kCells; ++cell) {
+    index_[cell] = static_cast<std::uint8_t>(grid[cell] - 1);
+    digits_[index_[cell]].cells |= kBoards.cell[cell];
+  }
+  for (DigitBoards& digit : digits_) {
+    digit.not_cells = ~digit.cells;
+    for (int i = 0; i < 3; ++i) {
+      digit.not_in_band[i] = ~(digit.cells & kBoards.band[i]);
+      digit.not_in_stack[i] = ~(digit.cells & kBoards.stack[i]);
+    }
+  }
+}
+
+Alternatives::Alternatives(const ReferenceGrid& reference) : reference_(kBoards.all) {
+  for (int k = 0; k < 9; ++k) {
+    other_[9 * kCellKind + k] = kBoards.all & reference.Digit(k).not_cells;
+    other_[9 * kRowKind + k] = BitBoard(kBoards.all) - BitBoard(kBoards.column[k]);
+    other_[9 * kColumnKind + k] = BitBoard(kBoards.all) - BitBoard(kBoards.row[k]);
+    other_[9 * kBoxKind + k] = BitBoard(kBoards.all) - BitBoard(kBoards.position[k]);
+  }
+}
+
+// Which bits a digit d in a cell clears, kind by kind. T is the board of the nine constraints of d.
+//   Cell:    d in the 20 cells that see it.
+//   Row:     board "column k" says who may stand in column k. For its own column: the constraints of its row
+//            (another digit in this cell) and T (d elsewhere in this column). For the other two columns of
+//            its box: T in the three rows of the box.
+//   Column:  the same with rows and columns exchanged.
+//   Box:     board "position k". For its own position: the constraints of its box. For the positions in the
+//            same row of the box: T in the three boxes beside each other; in the same column of the box: T in
+//            the three boxes above each other.
+void Alternatives::RuleOut(const ReferenceGrid& reference, int cell, int index) {
+  const CellBoards& at = kCellBoards[cell];
+  const ReferenceGrid::DigitBoards& digit = reference.Digit(index);
+  const BitBoard not_in_band = digit.not_in_band[at.band];
+  const BitBoard not_in_stack = digit.not_in_stack[at.stack];
+
+  other_[index] &= at.not_seen;
+  for (int i = 0; i < 3; ++i) {
+    other_[at.columns_of_box + i] &= not_in_band;
+    other_[at.rows_of_box + i] &= not_in_stack;
+    other_[at.positions_in_row + i] &= not_in_band;
+    other_[at.positions_in_column + 3 * i] &= not_in_stack;
+  }
+  other_[at.column] &= digit.not_cells & at.not_row;
+  other_[at.row] &= digit.not_cells & at.not_column;
+  other_[at.position] &= at.not_box;
+}
+
+void Alternatives::Give(const ReferenceGrid& reference, BitBoard cells, BitBoard wanted) {
+  BitBoard next = cells & reference_;
+  for (;;) {
+    reference_ -= next;
+    if (!(wanted & reference_).Any()) return;
+    next.ForEach([&](int cell) { RuleOut(reference, cell, reference.Index(cell)); });
+    BitBoard in_all_kinds = kBoards.all;
+    for (int kind = 0; kind < kKinds; ++kind) {
+      BitBoard any = other_[9 * kind];
+      for (int k = 1; k < 9; ++k) any |= other_[9 * kind + k];
+      in_all_kinds &= any;
+    }
+    next = reference_ - in_all_kinds;
+    if (!next.Any()) return;
+  }
+}
+
+}  // namespace kestrel
