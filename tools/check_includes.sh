@@ -8,7 +8,8 @@ cd "${1:-src}"
 allowed() {
   case $1 in
     core) ;;
-    ui/controls | ui/ports) echo core ;;
+    ui/controls) echo core ;;
+    ui/ports) echo core ui/controls ;;
     solver) echo core ;;
     media) echo core ui/controls ui/ports ;;
     hint | generator) echo core solver ;;
