@@ -49,6 +49,13 @@ bool Wings(const Finding& finding) {
   return (first == a && second == b) || (first == b && second == a);
 }
 
+// Wings in the pivot's row and column, both outside its box: the plain case, with one cell that sees both.
+bool WingsApart(const Finding& finding) {
+  const int box = CellBox[finding.pattern[0].cell];
+  return Wings<UnitKind::Row, UnitKind::Column>(finding) && CellBox[finding.pattern[1].cell] != box &&
+         CellBox[finding.pattern[2].cell] != box;
+}
+
 template <int form, int fins>
 bool Fins(const Finding& finding) {
   return finding.form == form && finding.pattern.size() == 4 + fins;
@@ -90,7 +97,7 @@ constexpr Form kForms[] = {
     {"naked_quint", 10, Any},
     {"x_wing-rows", 11, Numbered<1>},
     {"x_wing-columns", 11, Numbered<2>},
-    {"xy_wing-row-column", 12, Wings<kRow, kColumn>},
+    {"xy_wing-row-column", 12, WingsApart},
     {"xy_wing-row-box", 12, Wings<kRow, kBox>},
     {"xy_wing-column-box", 12, Wings<kColumn, kBox>},
     {"kite", 13, Any},

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+// The programs as they are called: same input, same output; bad input changes nothing.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <string>
+
+#include "help/forms.h"
+#include "help/site_files.h"
+
+namespace kestrel::help {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Programs : public testing::Test {
+ protected:
+  void SetUp() override {
+    folder_ = fs::temp_directory_path() / ("kestrel-programs-" + std::to_string(std::rand()) +
+                                           testing::UnitTest::GetInstance()->current_test_info()->name());
+    fs::remove_all(folder_);
+    fs::create_directories(folder_);
+  }
+  void TearDown() override { fs::remove_all(folder_); }
+
+  // The exit status of a program of the build.
+  [[nodiscard]] int Run(const std::string& program, const std::string& arguments) const {
+    const std::string line = std::string(KESTREL_BIN_DIR) + '/' + program + ' ' + arguments + " >" +
+                             (folder_ / "output").string() + " 2>&1";
+    return std::system(line.c_str()) / 256;
+  }
+  [[nodiscard]] std::string Path(const char* name) const { return (folder_ / name).string(); }
+
+  fs::path folder_;
+};
+
+std::map<std::string, double> Clarities(const std::string& path) {
+  std::map<std::string, double> clarities;
+  const ExampleFile file = ReadExamples(FileText(path));
+  EXPECT_EQ(file.error, "");
+  for (const Example& example : file.examples) {
+    clarities[example.key] = Clarity(example.Position(), example.finding);
+  }
+  return clarities;
+}
+
+TEST_F(Programs, ExamplesAreRepeatableAndOnlyGetBetter) {
+  ASSERT_EQ(Run("find-examples", Path("a") + " --seed 3 --puzzles 150"), 0);
+  ASSERT_EQ(Run("find-examples", Path("b") + " --puzzles 150 --seed 3"), 0);
+  EXPECT_EQ(FileText(Path("a")), FileText(Path("b")));
+  const auto before = Clarities(Path("a"));
+  EXPECT_GT(before.size(), 10U);
+  ASSERT_EQ(Run("find-examples", Path("a") + " --seed 4 --puzzles 150"), 0);
+  const auto after = Clarities(Path("a"));
+  EXPECT_GE(after.size(), before.size());
+  int better = 0;
+  for (const auto& [key, clarity] : before) {
+    ASSERT_EQ(after.count(key), 1U) << key;
+    EXPECT_GE(after.at(key), clarity) << key;
+    better += after.at(key) > clarity ? 1 : 0;
+  }
+  EXPECT_GT(better, 0);
+}
+
+TEST_F(Programs, BadInputIsRefusedAndLeftAlone) {
+  std::ofstream(Path("broken")) << "example x\nrow B\n";
+  EXPECT_EQ(Run("find-examples", Path("broken") + " --puzzles 1"), 1);
+  EXPECT_EQ(FileText(Path("broken")), "example x\nrow B\n");
+  EXPECT_NE(FileText(Path("output")).find("line 2"), std::string::npos);
+  for (const char* arguments : {"", "a --puzzles", "a --puzzles x", "a b", "a --seed 1x"}) {
+    EXPECT_EQ(Run("find-examples", arguments), 2) << arguments;
+  }
+  EXPECT_EQ(Run("make-help", ""), 2);
+  EXPECT_EQ(Run("make-help", Path("nowhere")), 1);
+  EXPECT_FALSE(fs::exists(Path("nowhere")));
+  EXPECT_EQ(Run("make-sounds", Path("nowhere")), 1);
+}
+
+// A second make writes nothing (the times of the files tell which pictures to render) and clears away what
+// belongs to no example.
+TEST_F(Programs, HelpIsWrittenOnceAndTidied) {
+  const std::string arguments = std::string(KESTREL_SOURCE_DIR) + ' ' + Path("help");
+  ASSERT_EQ(Run("make-help", arguments), 0);
+  const fs::path page = folder_ / "help/index.html";
+  const auto time = fs::last_write_time(page) - std::chrono::hours(1);
+  fs::last_write_time(page, time);
+  std::ofstream(folder_ / "help/pictures/old-example@2x.png") << "x";
+  std::ofstream(folder_ / "help/pictures/x_wing-rows@2x.png") << "x";
+  std::ofstream(folder_ / "help/jellyfish.html") << "changed";
+  ASSERT_EQ(Run("make-help", arguments), 0);
+  EXPECT_EQ(fs::last_write_time(page), time);
+  EXPECT_FALSE(fs::exists(folder_ / "help/pictures/old-example@2x.png"));
+  EXPECT_TRUE(fs::exists(folder_ / "help/pictures/x_wing-rows@2x.png"));
+  EXPECT_GT(FileText(folder_ / "help/jellyfish.html").size(), 1000U);
+}
+
+}  // namespace
+}  // namespace kestrel::help
