@@ -35,6 +35,9 @@ class [[nodiscard]] FileResult {
   std::string reason_;
 };
 
+// Alters the bytes of a file.
+using FileChange = std::function<FileResult(Bytes&)>;
+
 class Files {
  public:
   Files() = default;
@@ -58,14 +61,17 @@ class Files {
   virtual FileResult Replace(std::string_view path, std::span<const std::uint8_t> bytes) = 0;
 
   // Reads a file (a missing one is empty), lets `change` alter the bytes, and replaces it as above; no other
-  // copy of the program updates a file in the same folder in between. Fails, with the file as it was and
-  // without calling `change`, when it cannot be read or is longer than `max_bytes`.
-  virtual FileResult Update(std::string_view path, std::size_t max_bytes,
-                            const std::function<void(Bytes&)>& change) = 0;
+  // copy of the program updates a file in the same folder in between. Fails, with the file as it was, when
+  // `change` fails, and without calling it when the file cannot be read or is longer than `max_bytes`.
+  virtual FileResult Update(std::string_view path, std::size_t max_bytes, const FileChange& change) = 0;
 
   // Copies a file to a place where there is none; an existing `to` is never overwritten and makes this fail.
   // The copy appears whole or not at all, and has the permissions of a new file.
   virtual FileResult Copy(std::string_view from, std::string_view to) = 0;
+
+  // Copies a file beside itself under a name with today's date: PATH.damaged-2031-12-24, with "-2", "-3" and
+  // so on behind it when there is one already.
+  virtual FileResult KeepAside(std::string_view path) = 0;
 
   // Makes one folder; done, too, when it is there already. Sweeps out what killed writers left in it.
   virtual FileResult MakeFolder(std::string_view path) = 0;

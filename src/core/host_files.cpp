@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <ctime>
 #include <system_error>
 
 #include "core/host_temporary.h"
@@ -20,9 +21,19 @@ constexpr std::size_t kChunk = 64U << 10U;
 constexpr int kMostLinks = 40;
 constexpr int kLockWait = 1000;  // milliseconds
 constexpr int kLockPause = 1;
+constexpr int kMostAside = 1000;  // damaged files kept from one day
 
 FileResult Failure() {
   return FileResult::Failed(std::generic_category().message(errno));
+}
+
+// The local date as 2031-12-24.
+std::string Today() {
+  const std::time_t now = std::time(nullptr);
+  std::tm date{};
+  std::array<char, 16> text{};
+  if (localtime_r(&now, &date) == nullptr) return "undated";
+  return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d", &date)};
 }
 
 // Closes what was opened. What closing says is not asked for: all that was written has been flushed before.
@@ -178,8 +189,7 @@ FileResult HostFiles::Replace(std::string_view path, std::span<const std::uint8_
   return ReplaceTarget(calls_, target, bytes);
 }
 
-FileResult HostFiles::Update(std::string_view path, std::size_t max_bytes,
-                             const std::function<void(Bytes&)>& change) {
+FileResult HostFiles::Update(std::string_view path, std::size_t max_bytes, const FileChange& change) {
   Target target;
   const std::string host_path = HostPath(path);
   if (!FindTarget(calls_, host_path, target)) return Failure();
@@ -197,8 +207,8 @@ FileResult HostFiles::Update(std::string_view path, std::size_t max_bytes,
       return Failure();
     }
   }
-  change(bytes);
-  return ReplaceTarget(calls_, target, bytes);
+  const FileResult changed = change(bytes);
+  return changed ? ReplaceTarget(calls_, target, bytes) : changed;
 }
 
 FileResult HostFiles::Copy(std::string_view from, std::string_view to) {
@@ -217,6 +227,15 @@ FileResult HostFiles::Copy(std::string_view from, std::string_view to) {
   const bool copied = temporary.Create(0666) && source.Read(SIZE_MAX, append) && temporary.Flush() &&
                       temporary.AppearAs(target.path);
   return copied ? FlushFolder(calls_, folder) : Failure();
+}
+
+FileResult HostFiles::KeepAside(std::string_view path) {
+  const std::string dated = std::string(path) + ".damaged-" + Today();
+  std::string aside = dated;
+  for (int number = 2; Exists(aside) && number <= kMostAside; ++number) {
+    aside = dated + "-" + std::to_string(number);
+  }
+  return Copy(path, aside);
 }
 
 FileResult HostFiles::MakeFolder(std::string_view path) {

@@ -6,7 +6,6 @@
 // temporary; one without a lock was left by a killed process and is swept out by the next writer.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -30,9 +29,9 @@ class HostFiles final : public Files {
   std::optional<std::uint64_t> Length(std::string_view path) override;
   FileResult Read(std::string_view path, std::size_t max_bytes, Bytes& bytes) override;
   FileResult Replace(std::string_view path, std::span<const std::uint8_t> bytes) override;
-  FileResult Update(std::string_view path, std::size_t max_bytes,
-                    const std::function<void(Bytes&)>& change) override;
+  FileResult Update(std::string_view path, std::size_t max_bytes, const FileChange& change) override;
   FileResult Copy(std::string_view from, std::string_view to) override;
+  FileResult KeepAside(std::string_view path) override;
   FileResult MakeFolder(std::string_view path) override;
   FileResult Remove(std::string_view path) override;
 

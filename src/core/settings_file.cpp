@@ -154,6 +154,7 @@ bool SettingsFile::Write(std::string_view section, std::string_view key, std::st
     for (const Setting& setting : unsaved_) text_.Set(setting.section, setting.key, setting.value);
     const std::string text = text_.Text();
     bytes.assign(text.begin(), text.end());
+    return FileResult::Done();
   });
   if (saved) unsaved_.clear();
   return static_cast<bool>(saved);

@@ -26,16 +26,28 @@ constexpr std::int16_t StockLevelBit(int level) {
 // a backslash. A failure is not reported: ReadStock then finds no file.
 void CopyStockIfMissing(Files& files, std::string_view program_folder, std::string_view data_folder);
 
+// What a running copy of the program knows of the stock file. It tells what other copies wrote since; the
+// file and the copy's own table differ where another one renewed a level.
+struct KnownStock {
+  StockTable file;   // the file as it was read or written last
+  StockTable table;  // this copy's table at that moment
+};
+
 // Fills the table from the stock in `data_folder` and sets `stock_status` to kStockComplete. On failure the
 // status stays, and so do the records that were read before; the caller reports it ("Error reading ...").
 FileResult ReadStock(Files& files, std::string_view data_folder, StockTable& table,
-                     std::int16_t& stock_status);
+                     std::int16_t& stock_status, KnownStock& known);
 
 // Writes the whole table. On failure the file is as it was; the caller reports it ("Error writing ...").
-FileResult WriteStock(Files& files, std::string_view data_folder, const StockTable& table);
+//
+// What another copy of the program wrote since is kept: its better best times go into `table` as well, and a
+// level that it renewed stays so in the file, unless this copy renewed it, too. With one copy running, the
+// file gets exactly the table.
+FileResult WriteStock(Files& files, std::string_view data_folder, StockTable& table, KnownStock& known);
 
-// The same two for a stock of any path. A file shorter than 111,000 bytes reads as if zeros followed it; of a
-// longer one the end is not read, and kept by writing.
+// Reading and writing a stock of any path. A file shorter than 111,000 bytes reads as if zeros followed it;
+// of a longer one the end is not read, and kept by writing. Writing over a file that is too short, or over
+// records that hold nonsense, keeps a copy of it aside first.
 FileResult ReadStockFile(Files& files, std::string_view path, StockTable& table);
 FileResult WriteStockFile(Files& files, std::string_view path, const StockTable& table);
 

@@ -42,7 +42,9 @@ void Game::LoadStock() {
   Files& files = session_.ports.files;
   session_.StockStatus = kStockNotRead;
   CopyStockIfMissing(files, session_.ProgramFolder, session_.DataFolder);
-  if (ReadStock(files, session_.DataFolder, *session_.stock, session_.StockStatus)) return;
+  if (ReadStock(files, session_.DataFolder, *session_.stock, session_.StockStatus, *session_.known_stock)) {
+    return;
+  }
   const auto tell = [this](std::string_view title, std::string_view text, MessageIcon icon) {
     return session_.asker.Message({std::string(title), std::string(text), icon, MessageButtons::Ok});
   };

@@ -76,7 +76,7 @@ void Session::EndPlay() {
 }
 
 bool Session::SaveStock() {
-  if (WriteStock(ports.files, DataFolder, *stock)) return true;
+  if (WriteStock(ports.files, DataFolder, *stock, *known_stock)) return true;
   return asker.Message({std::string(texts::kFileError), std::string(texts::kWriteError),
                         MessageIcon::Exclamation, MessageButtons::Ok}) != Answer::Ended;
 }

@@ -82,6 +82,7 @@ struct Session {
 
   Forms forms;
   std::unique_ptr<StockTable> stock = std::make_unique<StockTable>();
+  std::unique_ptr<KnownStock> known_stock = std::make_unique<KnownStock>();
   OpenPuzzle puzzle;
   StepHistory history;
   Board board{forms.main, puzzle};

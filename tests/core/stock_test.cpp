@@ -2,6 +2,8 @@
 // The record's bytes, and the stock file: whole, short, long, missing, broken off, and full of nonsense.
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "core/host_files.h"
 #include "core/random_source.h"
 #include "core/stock_file.h"
@@ -18,14 +20,28 @@ std::string RandomText(std::size_t size) {
   return text;
 }
 
+// A sound record; each `variant` has other givens.
+SudokuRecord Sound(int level, int variant) {
+  SudokuRecord record;
+  record.Level = static_cast<std::int16_t>(level);
+  for (int cell = 0; cell < kCells; ++cell) {
+    const int digit = (3 * CellRow[cell] + CellRow[cell] / 3 + CellCol[cell]) % 9 + 1;
+    record.SolutionCells[cell] = static_cast<std::uint8_t>(digit);
+    if (cell < 16 ? (variant >> cell) % 2 == 1 : cell % 4 == 0)
+      record.GivenCells[cell] = record.SolutionCells[cell];
+  }
+  return record;
+}
+
 class StockTest : public testing::Test {
  protected:
-  FileResult Read() { return ReadStock(files_, folder_.Written(), *table_, status_); }
-  FileResult Write() { return WriteStock(files_, folder_.Written(), *table_); }
+  FileResult Read() { return ReadStock(files_, folder_.Written(), *table_, status_, *known_); }
+  FileResult Write() { return WriteStock(files_, folder_.Written(), *table_, *known_); }
   TempFolder folder_;
   FaultyCalls calls_;
   HostFiles files_{calls_};
   std::unique_ptr<StockTable> table_ = std::make_unique<StockTable>();
+  std::unique_ptr<KnownStock> known_ = std::make_unique<KnownStock>();
   std::int16_t status_ = kStockNotRead;
 };
 
@@ -108,6 +124,93 @@ TEST_F(StockTest, AFailedReadKeepsStatusAndWhatCameBefore) {
   EXPECT_FALSE(Write());
 }
 
+TEST_F(StockTest, WhatAWriteWouldLoseOfADamagedFileIsKeptAside) {
+  const auto asides = [this] {
+    std::vector<std::string> contents;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
+      const std::string name = entry.path().filename().string();
+      if (name.starts_with("sudstock.kpz.damaged-20")) contents.push_back(folder_.Get(name));
+    }
+    return contents;
+  };
+  const std::string noise = RandomText(kStockBytes + 5);
+  folder_.Put("sudstock.kpz", noise);
+  ASSERT_TRUE(Read());
+  ASSERT_TRUE(Write());
+  EXPECT_TRUE(asides().empty());  // nothing was lost
+  (*table_)(1, 2) = SudokuRecord();
+  ASSERT_TRUE(Write());
+  (*table_)(1, 2).Level = 1;  // takes the place of zeros
+  ASSERT_TRUE(Write());
+  EXPECT_EQ(asides(), std::vector{noise});
+  // Damaged while the program runs; then any call may fail as well.
+  const std::string stump = noise.substr(0, 70000);
+  bool through = false;
+  for (int n = 1; !through; ++n) {
+    folder_.Put("sudstock.kpz", stump);
+    calls_.FailAt(n);
+    const bool written = static_cast<bool>(Write());
+    through = calls_.Count() < n;
+    EXPECT_TRUE(written || !through);
+    calls_.FailAt(0);
+    EXPECT_TRUE(folder_.Get("sudstock.kpz") == stump || std::ranges::count(asides(), stump) == 1) << n;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) remove(entry.path());
+  }
+}
+
+// Three copies of the program over one file: each congratulates on better times than it knows, and renews.
+TEST_F(StockTest, CopiesOfTheProgramKeepEachOthersBestTimesAndLevels) {
+  struct Copy {
+    StockTable table;
+    KnownStock known;
+    std::int16_t status = 0;
+  };
+  RandomSource random(11);
+  int puzzles = 0;
+  const auto renew = [&puzzles](StockTable& table, int level) {
+    ++puzzles;
+    for (int number = 1; number <= kPuzzlesPerLevel; ++number) table(level, number) = Sound(level, puzzles);
+  };
+  for (int level = 1; level <= kLevels; ++level) renew(*table_, level);
+  ASSERT_TRUE(WriteStockFile(files_, folder_.Written("sudstock.kpz"), *table_));
+  std::vector<Copy> copies(3);
+  for (Copy& copy : copies) {
+    ASSERT_TRUE(ReadStock(files_, folder_.Written(), copy.table, copy.status, copy.known));
+  }
+  std::map<std::tuple<int, int, DigitGrid>, int> best;  // by level, number and puzzle
+  std::array<DigitGrid, kLevels + 1> newest{};
+  for (int level = 1; level <= kLevels; ++level) newest[level] = (*table_)(level, 1).GivenCells;
+  for (int round = 0; round < 600; ++round) {
+    Copy& copy = copies[random.Below(3)];
+    const int level = 1 + random.Below(kLevels), number = 1 + random.Below(3);
+    SudokuRecord& record = copy.table(level, number);
+    if (random.Below(12) == 0) {
+      renew(copy.table, level);
+      newest[level] = record.GivenCells;
+    } else {
+      const int time = (BestTime(record) == 0 ? 3000 : BestTime(record)) - 1 - random.Below(5);
+      record.BestMinutes = static_cast<std::int16_t>(time / 60);
+      record.BestSeconds = static_cast<std::int16_t>(time % 60);
+      int& known = best[{level, number, record.GivenCells}];
+      known = known == 0 ? time : std::min(known, time);
+    }
+    if (random.Below(8) == 0) {  // does not get onto the disk this time
+      calls_.FailAt(3, true);
+      EXPECT_FALSE(WriteStock(files_, folder_.Written(), copy.table, copy.known));
+      calls_.FailAt(0);
+    }
+    ASSERT_TRUE(WriteStock(files_, folder_.Written(), copy.table, copy.known));
+    ASSERT_TRUE(ReadStockFile(files_, folder_.Written("sudstock.kpz"), *table_));
+    for (int l = 1; l <= kLevels; ++l) {
+      for (int n = 1; n <= 3; ++n) {
+        const SudokuRecord& stored = (*table_)(l, n);
+        ASSERT_EQ(stored.GivenCells, newest[l]) << round;
+        ASSERT_EQ(BestTime(stored), (best[{l, n, stored.GivenCells}])) << round;
+      }
+    }
+  }
+}
+
 TEST_F(StockTest, TheProgramsCopyIsTakenOnlyWhenThereIsNone) {
   TempFolder program;
   CopyStockIfMissing(files_, program.Written(), folder_.Written());
@@ -120,13 +223,7 @@ TEST_F(StockTest, TheProgramsCopyIsTakenOnlyWhenThereIsNone) {
 }
 
 TEST(SudokuRecord, NonsenseIsFoundAndLeadsNowhere) {
-  SudokuRecord sound;
-  sound.Level = 3;
-  for (int cell = 0; cell < kCells; ++cell) {
-    const int digit = (3 * CellRow[cell] + CellRow[cell] / 3 + CellCol[cell]) % 9 + 1;
-    sound.SolutionCells[cell] = static_cast<std::uint8_t>(digit);
-    if (cell % 4 == 0) sound.GivenCells[cell] = sound.SolutionCells[cell];
-  }
+  SudokuRecord sound = Sound(3, 0x5555);
   EXPECT_EQ(CheckRecord(sound, 3), "");
   EXPECT_NE(CheckRecord(sound, 2), "");
   // Every byte with its top bit turned over makes nonsense, but for the reserved ones and low bytes of

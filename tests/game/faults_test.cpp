@@ -7,7 +7,6 @@
 
 #include "core/host_files.h"
 #include "support/game_home.h"
-#include "support/test_stock.h"
 
 namespace kestrel::testing {
 namespace {
@@ -22,39 +21,31 @@ class FullDisk final : public Files {
     return inner_.Read(path, max, bytes);
   }
   FileResult Replace(std::string_view path, std::span<const std::uint8_t> bytes) override {
-    if (path.ends_with(".kpz") && failures_-- > 0) return FileResult::Failed("No space left on device");
-    return inner_.Replace(path, bytes);
+    return IsFull(path) ? FileResult::Failed(kReason) : inner_.Replace(path, bytes);
   }
-  FileResult Update(std::string_view path, std::size_t max,
-                    const std::function<void(Bytes&)>& change) override {
-    return inner_.Update(path, max, change);
+  FileResult Update(std::string_view path, std::size_t max, const FileChange& change) override {
+    return IsFull(path) ? FileResult::Failed(kReason) : inner_.Update(path, max, change);
   }
+  FileResult KeepAside(std::string_view path) override { return inner_.KeepAside(path); }
   FileResult Copy(std::string_view from, std::string_view to) override { return inner_.Copy(from, to); }
   FileResult MakeFolder(std::string_view path) override { return inner_.MakeFolder(path); }
   FileResult Remove(std::string_view path) override { return inner_.Remove(path); }
 
  private:
+  static constexpr const char* kReason = "No space left on device";
+  bool IsFull(std::string_view path) { return path.ends_with(".kpz") && failures_-- > 0; }
+
   SystemCalls calls_;
   HostFiles inner_{calls_};
   int failures_;
 };
 
-// The lines that open a puzzle of the selected level and solve it in `seconds` (below 60).
-std::string Solve(int level, int number, int seconds) {
-  static const StockTable stock = MakeTestStock();
-  const SudokuRecord& record = stock(level, number);
-  std::string lines = "clock 10:00:00\npress CommandOpen\nanswer " + std::to_string(number) +
-                      "\nclock 10:00:" + std::to_string(seconds) + "\ntick\n";
-  for (int cell = 0; cell < kCells; ++cell) {
-    if (record.GivenCells[cell] != 0) continue;
-    lines += "mark " + std::to_string(cell) + " " + std::to_string(record.SolutionCells[cell]) + "\n";
-  }
-  return lines;
+// The lines that open a puzzle of the selected level 2 and solve it in `seconds` (10 to 59).
+std::string Solve(int number, int seconds) {
+  return "clock 10:00:00\npress CommandOpen\nanswer " + std::to_string(number) +
+         "\nclock 10:00:" + std::to_string(seconds) + "\ntick\n" + FillIn(2, number);
 }
 
-constexpr std::string_view kAnn =
-    "press cmdPlayers\npress KnopNieuweSpeler\ntype NaamInvoerveld Ann\nkey NaamInvoerveld enter\n"
-    "press KnopOK\n";
 constexpr std::string_view kCongratulation = "message \"New Best Time!\"";
 constexpr std::string_view kFailure =
     "message \"File Error\" \"Error writing sudokus to file!\" exclamation OK";
@@ -64,8 +55,8 @@ TEST(Faults, ABestTimeThatCouldNotBeWrittenIsWrittenWithTheNext) {
   FullDisk files(1);
   NeverStop yield;
   const Played played =
-      home.Play(std::string(kAnn) + Solve(2, 7, 41) + "answer OK\nanswer OK\nget StatusBar(3).caption\n" +
-                    Solve(2, 8, 42) + "answer OK\n",
+      home.Play(std::string(kAnnPlays) + Solve(7, 41) + "answer OK\nanswer OK\nget StatusBar(3).caption\n" +
+                    Solve(8, 42) + "answer OK\n",
                 files, yield);
   EXPECT_EQ(played.status, 0) << played.errors;
   EXPECT_LT(played.output.find("stock failed\n" + std::string(kFailure)),
@@ -82,11 +73,11 @@ TEST(Faults, EndingBehindAMessageDoesNothingMore) {
   GameHome home;
   NeverStop yield;
   FullDisk full(1);
-  const Played failed = home.Play(std::string(kAnn) + Solve(2, 7, 41), full, yield);
+  const Played failed = home.Play(std::string(kAnnPlays) + Solve(7, 41), full, yield);
   EXPECT_TRUE(failed.output.ends_with(std::string(kFailure) + "\n"));
   EXPECT_EQ(home.Stock()(2, 7).BestSeconds, 0);
   FullDisk good(0);
-  const Played congratulated = home.Play(Solve(2, 7, 41), good, yield);
+  const Played congratulated = home.Play(Solve(7, 41), good, yield);
   EXPECT_EQ(congratulated.Count(kCongratulation), 1);
   EXPECT_EQ(home.Stock()(2, 7).BestSeconds, 41);
 }
@@ -98,8 +89,8 @@ TEST(Faults, ARenewalThatCouldNotBeWrittenIsWrittenWithTheNext) {
   FullDisk files(1);
   NeverStop yield;
   const std::string renewal = "press RenewLevel(1)\nanswer OK\nrenew 5000\n";
-  const Played played =
-      home.Play(renewal + "answer OK\nvar StockStatus\n" + std::string(kAnn) + Solve(2, 7, 41), files, yield);
+  const Played played = home.Play(
+      renewal + "answer OK\nvar StockStatus\n" + std::string(kAnnPlays) + Solve(7, 41), files, yield);
   EXPECT_EQ(played.status, 0) << played.errors;
   EXPECT_TRUE(played.Has("StockStatus = 63"));
   EXPECT_LT(played.output.find("stock failed"), played.output.find("stock written"));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/memory/recording_ports.h"
 
+#include <algorithm>
+
 #include "core/stock_file.h"
 
 namespace kestrel {
@@ -28,8 +30,7 @@ FileResult RecordingFiles::Replace(std::string_view path, std::span<const std::u
   return Report(path, inner_.Replace(path, bytes));
 }
 
-FileResult RecordingFiles::Update(std::string_view path, std::size_t max_bytes,
-                                  const std::function<void(Bytes&)>& change) {
+FileResult RecordingFiles::Update(std::string_view path, std::size_t max_bytes, const FileChange& change) {
   return Report(path, inner_.Update(path, max_bytes, change));
 }
 
@@ -41,12 +42,13 @@ FileResult RecordingFiles::Report(std::string_view path, FileResult result) {
 }
 
 std::int32_t MemorySound::Load(std::string_view path) {
-  const std::int32_t id = loads_++;
-  return files_.Exists(path) ? id : -1;
+  exists_.push_back(files_.Exists(path));
+  return static_cast<std::int32_t>(exists_.size()) - 1;
 }
 
 void MemorySound::Play(std::int32_t id) {
-  transcript_.Line("sound " + std::to_string(id));
+  const bool any = std::ranges::find(exists_, true) != exists_.end();
+  if (exists_[static_cast<std::size_t>(id)] || !any) transcript_.Line("sound " + std::to_string(id));
 }
 
 void MemoryHelp::Navigate(std::string_view page) {

@@ -59,9 +59,9 @@ class RecordingFiles final : public Files {
     return inner_.Read(path, max_bytes, bytes);
   }
   FileResult Replace(std::string_view path, std::span<const std::uint8_t> bytes) override;
-  FileResult Update(std::string_view path, std::size_t max_bytes,
-                    const std::function<void(Bytes&)>& change) override;
+  FileResult Update(std::string_view path, std::size_t max_bytes, const FileChange& change) override;
   FileResult Copy(std::string_view from, std::string_view to) override { return inner_.Copy(from, to); }
+  FileResult KeepAside(std::string_view path) override { return inner_.KeepAside(path); }
   FileResult MakeFolder(std::string_view path) override { return inner_.MakeFolder(path); }
   FileResult Remove(std::string_view path) override { return inner_.Remove(path); }
 
@@ -72,8 +72,9 @@ class RecordingFiles final : public Files {
   Transcript& transcript_;
 };
 
-// Reports "sound N"; N is the place of the sound among those that were asked for. A file that does not exist
-// cannot be loaded.
+// Reports "sound N"; N is the place of the sound among those that were loaded. Scripts are mostly played on
+// program folders that bring a stock and nothing else: there every sound counts as present. Where there are
+// sounds, a missing one is missing.
 class MemorySound final : public SoundDevice {
  public:
   MemorySound(bool available, Files& files, Transcript& transcript)
@@ -86,7 +87,7 @@ class MemorySound final : public SoundDevice {
   bool available_;
   Files& files_;
   Transcript& transcript_;
-  std::int32_t loads_ = 0;
+  std::vector<bool> exists_;  // by id
 };
 
 // Reports "browse PAGE".
