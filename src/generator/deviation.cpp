@@ -204,9 +204,10 @@ DeviationSearch::Result DeviationSearch::Run(Deviation& state) {
   }
 }
 
-DigitGrid DeviationSearch::Solution() const {
-  DigitGrid grid{};
+DigitGrid DeviationSearch::Solution(const DigitGrid& givens) const {
+  DigitGrid grid = givens;
   for (int cell = 0; cell < kCells; ++cell) {
+    if (givens[cell] != 0) continue;
     grid[cell] = changed_.Has(cell) ? placed_[cell] : static_cast<std::uint8_t>(reference_.Index(cell) + 1);
   }
   return grid;

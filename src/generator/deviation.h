@@ -65,8 +65,8 @@ class DeviationSearch {
 
   // Looks for a complete grid. Asks `yield` at every step. `state` is used up.
   [[nodiscard]] Result Run(Deviation& state);
-  // After Found: the complete grid.
-  [[nodiscard]] DigitGrid Solution() const;
+  // After Found: the complete grid. `givens` are what the state began with.
+  [[nodiscard]] DigitGrid Solution(const DigitGrid& givens) const;
 
  private:
   enum class Progress : std::uint8_t { None, Some, Contradiction };

@@ -2,12 +2,13 @@
 // Replacing the 100 puzzles of a level, as far as it concerns the puzzles: making, dropping, filing. Used by
 // the main window's renewal and by the command line.
 //
-// A level is in ascending order of score. While it is being renewed, the record that had the highest score is
-// the floor, with score 0; new puzzles go above it and push it, and the old puzzles below it, out one by one:
+// A level is in ascending order of score. While it is being renewed, number 100 as it was is the floor, with
+// score 0. A new puzzle goes above it, and everything below the new one moves down, number 1 out of the
+// stock:
 //
-//    start       floor  old  ...  old   (number 100 has sunk below all others)
-//    3 filed     floor  old  ...  old  new  new  new        the order holds among the new ones
-//    100 filed   new  ...                        new
+//    start         old  old  ...  old  floor
+//    3 filed       old  ...  old  floor  new  new  new        ascending from the floor on
+//    100 filed     new  new  ...                   new
 #pragma once
 
 #include <cstdint>

@@ -69,7 +69,7 @@ Uniqueness FindUniqueness(const DigitGrid& givens, Yield& yield) {
   const DeviationSearch::Result result = search.Run(first);
   if (result == DeviationSearch::Result::Stopped) return Uniqueness::Stopped;
   if (result == DeviationSearch::Result::Nothing) return Uniqueness::Unique;
-  return LookForAnother(search.Solution(), givens, yield);
+  return LookForAnother(search.Solution(givens), givens, yield);
 }
 
 }  // namespace kestrel

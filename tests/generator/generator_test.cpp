@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+// What grids and puzzles are like, how the engine chooses, what a stop leaves.
+#include "generator/generator.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+
+#include "generator/plain_generator.h"
+#include "generator/random_order.h"
+#include "generator/support.h"
+
+namespace kestrel {
+namespace {
+
+// The promise to whoever notes a seed: its puzzles do not change.
+TEST(Generator, FirstPuzzlesOfASeed) {
+  FixedSeeds seeds(1);
+  Generator generator(seeds);
+  NeverStop yield;
+  ASSERT_EQ(generator.MakeFullGrid(yield), Making::Made);
+  ASSERT_EQ(generator.MakePuzzle(yield), Making::Made);
+  EXPECT_EQ(TextOf(generator.SolutionGrid),
+            "981573426375624918246198357637259841154786293892431675728345169569812734413967582");
+  EXPECT_EQ(TextOf(generator.Givens),
+            "901070006000004008200198000607000041000000000890000605000345009500800000400060502");
+  ASSERT_EQ(generator.MakeFullGrid(yield), Making::Made);
+  ASSERT_EQ(generator.MakePuzzle(yield), Making::Made);
+  EXPECT_EQ(TextOf(generator.Givens),
+            "000900304007400010000031009000080030706000405020090000500270000060003500401006000");
+}
+
+TEST(Generator, ListsTakeTheirDrawsInPairs) {
+  RandomSource drawn(9);
+  RandomSource counted(9);
+  const CellList all = FullGridOrder(drawn);
+  CellList expected = CellsInOrder();
+  for (int i = 0; i < 500; ++i) {
+    const int first = static_cast<int>(81 * counted.Next());
+    std::swap(expected[first], expected[static_cast<int>(81 * counted.Next())]);
+  }
+  EXPECT_EQ(all, expected);
+  const CellList pairs = PairOrder(drawn);
+  for (int i = 0; i < 400; ++i) (void)counted.NextBits();
+  EXPECT_EQ(drawn.NextBits(), counted.NextBits());
+  CellList sorted = pairs;
+  std::sort(sorted.begin(), sorted.begin() + kPairs);
+  EXPECT_EQ(sorted, CellsInOrder());
+  EXPECT_NE(pairs, CellsInOrder());
+}
+
+// By hand, on an empty grid with the cells listed in order: nine digits everywhere, so the cell highest in
+// the list comes first; then always the highest cell of those that see the most different digits. Ascending
+// digits.
+TEST(BacktrackEngine, ChoosesFewestDigitsAndHighestPosition) {
+  BacktrackEngine engine;
+  engine.Start(CellsInOrder(), kCells);
+  DigitGrid expected{};
+  const std::array<std::array<int, 2>, 12> steps = {{{80, 1},
+                                                     {79, 2},
+                                                     {78, 3},
+                                                     {77, 4},
+                                                     {76, 5},
+                                                     {75, 6},
+                                                     {74, 7},
+                                                     {73, 8},
+                                                     {72, 9},
+                                                     {71, 4},
+                                                     {70, 5},
+                                                     {69, 6}}};
+  for (const auto& [cell, digit] : steps) {
+    engine.Step();
+    expected[cell] = static_cast<std::uint8_t>(digit);
+    ASSERT_EQ(TextOf(engine.Digits()), TextOf(expected));
+  }
+}
+
+// Two open cells that can only have the same digit: the first placement is undone, its cell runs out.
+TEST(BacktrackEngine, BacktracksWhenACellIsLeftWithoutADigit) {
+  BacktrackEngine engine;
+  for (int i = 0; i < 7; ++i) engine.Give(i, i + 1);
+  engine.Give(25, 9);  // so that neither of the last two cells of row 0 can have 9
+  CellList open{};
+  open[0] = 7;
+  open[1] = 8;
+  engine.Start(open, 2);
+  engine.Step();
+  EXPECT_EQ(engine.Digits()[8], 8);
+  EXPECT_FALSE(engine.NothingLeft());
+  engine.Step();
+  EXPECT_EQ(engine.Digits(), DigitGrid{});
+  EXPECT_TRUE(engine.NothingLeft());
+}
+
+TEST(Generator, PuzzlesAreSymmetricUniqueAndMinimalByPairs) {
+  FixedSeeds seeds(42);
+  Generator generator(seeds);
+  NeverStop yield;
+  for (int i = 0; i < 15; ++i) {
+    ASSERT_EQ(generator.MakeFullGrid(yield), Making::Made);
+    const DigitGrid& solution = generator.SolutionGrid;
+    for (int cell = 0; cell < kCells; ++cell) {
+      ASSERT_EQ(FreeDigits(solution, cell), DigitBit(solution[cell])) << TextOf(solution);
+    }
+    ASSERT_EQ(generator.MakePuzzle(yield), Making::Made);
+    DigitGrid puzzle = generator.Givens;
+    ASSERT_EQ(CountSolutions(puzzle), 1);
+    for (int cell = 0; cell < kCells; ++cell) {
+      ASSERT_TRUE(puzzle[cell] == 0 || puzzle[cell] == solution[cell]);
+      ASSERT_EQ(puzzle[cell] != 0, puzzle[80 - cell] != 0);
+      if (cell > 40 || puzzle[cell] == 0) continue;
+      puzzle[cell] = puzzle[80 - cell] = 0;
+      EXPECT_EQ(CountSolutions(puzzle), 2) << "cell " << cell << " of " << TextOf(generator.Givens);
+      puzzle = generator.Givens;
+    }
+  }
+}
+
+// Two rows of a band and two columns with the same two digits crosswise: all four cells must not be empty.
+TEST(Generator, DeadlyPatternHasTwoSolutions) {
+  FixedSeeds seeds(3);
+  Generator generator(seeds);
+  NeverStop yield;
+  int found = 0;
+  while (found < 10) {
+    ASSERT_EQ(generator.MakeFullGrid(yield), Making::Made);
+    DigitGrid grid = generator.SolutionGrid;
+    EXPECT_EQ(Generator::HasUniqueSolution(grid, yield), Uniqueness::Unique);
+    for (int a = 0; a < 9; ++a) {
+      for (int b = a + 1; b < 9; ++b) {
+        if (grid[a] != grid[9 + b] || grid[b] != grid[9 + a]) continue;
+        ++found;
+        grid[a] = grid[b] = grid[9 + a] = 0;
+        EXPECT_EQ(Generator::HasUniqueSolution(grid, yield), Uniqueness::Unique);
+        grid[9 + b] = 0;
+        EXPECT_EQ(Generator::HasUniqueSolution(grid, yield), Uniqueness::Several);
+        grid = generator.SolutionGrid;
+      }
+    }
+  }
+}
+
+// Stopped at the first, second, third ... question: nothing has changed, and no answer is made up.
+template <class AnyGenerator>
+void ExpectStopsLeaveNothing() {
+  FixedSeeds seeds(6);
+  AnyGenerator generator(seeds);
+  NeverStop yield;
+  ASSERT_EQ(generator.MakeFullGrid(yield), Making::Made);
+  ASSERT_EQ(generator.MakePuzzle(yield), Making::Made);
+  const DigitGrid solution = generator.SolutionGrid;
+  const DigitGrid givens = generator.Givens;
+
+  const auto until_done = [&](auto call, auto stopped) {
+    int n = 1;
+    for (;; n += n < 200 ? 1 : 97) {
+      StopAt stop(n);
+      if (call(stop) != stopped) break;
+      ASSERT_EQ(generator.SolutionGrid, solution) << n;
+      ASSERT_EQ(generator.Givens, givens) << n;
+    }
+    EXPECT_GT(n, 5);
+  };
+  until_done([&](Yield& stop) { return AnyGenerator::HasUniqueSolution(givens, stop); }, Uniqueness::Stopped);
+  until_done([&](Yield& stop) { return generator.MakePuzzle(stop); }, Making::Stopped);
+  generator.Givens = givens;
+  until_done([&](Yield& stop) { return generator.MakeFullGrid(stop); }, Making::Stopped);
+}
+
+TEST(Generator, StopsLeaveNothing) {
+  ExpectStopsLeaveNothing<Generator>();
+  ExpectStopsLeaveNothing<PlainGenerator>();
+}
+
+}  // namespace
+}  // namespace kestrel

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+// What the generator's tests share.
+#pragma once
+
+#include <string>
+
+#include "core/grid.h"
+#include "core/yield.h"
+
+namespace kestrel {
+
+// Says stop at the n-th question, counted from 1, and from then on.
+class StopAt final : public Yield {
+ public:
+  explicit StopAt(int n) : left_(n) {}
+  [[nodiscard]] bool KeepGoing() override { return --left_ > 0; }
+
+ private:
+  int left_;
+};
+
+inline DigitGrid GridOf(const std::string& digits) {
+  DigitGrid grid{};
+  for (int cell = 0; cell < kCells; ++cell) grid[cell] = static_cast<std::uint8_t>(digits[cell] - '0');
+  return grid;
+}
+
+inline std::string TextOf(const DigitGrid& grid) {
+  std::string text;
+  for (const int digit : grid) text += static_cast<char>('0' + digit);
+  return text;
+}
+
+// The digits that no cell seeing `cell` has.
+inline CandidateMask FreeDigits(const DigitGrid& grid, int cell) {
+  const int row = CellRow[cell];
+  const int col = CellCol[cell];
+  unsigned taken = 0;
+  for (int i = 0; i < kUnitSize; ++i) {
+    for (const int other : {9 * row + i, 9 * i + col, int{BoxCell[CellBox[cell]][i]}}) {
+      if (other != cell) taken |= 1U << grid[other];
+    }
+  }
+  return static_cast<CandidateMask>(~(taken >> 1U) & kAllDigits);
+}
+
+// How many ways there are to fill the empty cells without a clash that was not there before, at most 2: tries
+// everything, always in a cell with the fewest free digits. Shares nothing with the generator.
+inline int CountSolutions(DigitGrid& grid) {
+  int best = -1;
+  CandidateMask free = 0;
+  for (int cell = 0; cell < kCells; ++cell) {
+    if (grid[cell] != 0) continue;
+    const CandidateMask digits = FreeDigits(grid, cell);
+    if (best >= 0 && BitCount[digits] >= BitCount[free]) continue;
+    best = cell;
+    free = digits;
+  }
+  if (best < 0) return 1;
+  int count = 0;
+  for (int digit = 1; digit <= 9 && count < 2; ++digit) {
+    if (!HasDigit(free, digit)) continue;
+    grid[best] = static_cast<std::uint8_t>(digit);
+    count += CountSolutions(grid);
+  }
+  grid[best] = 0;
+  return count < 2 ? count : 2;
+}
+
+}  // namespace kestrel
