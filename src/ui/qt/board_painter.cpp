@@ -77,7 +77,7 @@ std::optional<int> BoardPainter::TargetCell() const {
     if (main_.LabelRow(line).fore == kRed) row = line;
     if (main_.LabelColumn(line).fore == kRed) column = line;
   }
-  if (row < 0 || column < 0) return std::nullopt;
+  if (row < 0 || column < 0 || !main_.CommandResetCell.enabled) return std::nullopt;
   return row * kUnitSize + column;
 }
 
@@ -155,7 +155,7 @@ void BoardPainter::PaintMarks(QPainter& painter, const QRegion& region) const {
       if (!mark.visible) continue;
       const QRect place = grid_.Place(mark);
       if (!region.intersects(place)) continue;
-      painter.setPen(ToQColor(mark.fore, kMark));
+      painter.setPen(ToQColor(mark.fore, mark.enabled ? kMark : kDeafMark));
       PaintText(painter, place, mark.align, Caption(mark.caption));
     }
   }

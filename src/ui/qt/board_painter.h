@@ -50,7 +50,7 @@ class BoardPainter {
   [[nodiscard]] QRect SpotRect(const BoardSpot& spot) const;
   [[nodiscard]] QRect BoardRect() const;
 
-  // The cell whose row and column headers are both selected, the one that Reset Cell empties.
+  // The cell whose row and column headers are both selected, while Reset Cell could empty it.
   [[nodiscard]] std::optional<int> TargetCell() const;
 
  private:

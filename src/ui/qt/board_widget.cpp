@@ -67,6 +67,7 @@ struct BoardWidget::Shown {
   ControlArray<MarkArray, 1, 9> Mark;
   ControlArray<Label, 0, 9> LabelRow;
   ControlArray<Label, 0, 9> LabelColumn;
+  std::optional<int> target;
 };
 
 BoardWidget::BoardWidget(MainWindow& main, EventSink& sink, std::function<bool()> marks_are_candidates,
@@ -75,7 +76,7 @@ BoardWidget::BoardWidget(MainWindow& main, EventSink& sink, std::function<bool()
       main_(main),
       sink_(sink),
       marks_are_candidates_(std::move(marks_are_candidates)),
-      shown_(std::make_unique<Shown>(Shown{main.Grid, main.Mark, main.LabelRow, main.LabelColumn})),
+      shown_(std::make_unique<Shown>(Shown{main.Grid, main.Mark, main.LabelRow, main.LabelColumn, {}})),
       items_(MakeBoardItems(*this)) {
   setObjectName("Board");
   setAccessibleName(texts::kBoard);
@@ -126,14 +127,16 @@ void BoardWidget::Sync() {
   const BoardPainter painter(main_, devicePixelRatioF());
   int changed = 0;
   SyncLabels(changed);
-  bool headers = false;
+  const std::optional<int> target = painter.TargetCell();
+  bool headers = target != shown_->target;
+  shown_->target = target;
   for (int line = 0; line < kUnitSize; ++line) {
     const BoardSpot row{BoardSpot::Kind::Row, line, 0};
     const BoardSpot column{BoardSpot::Kind::Column, line, 0};
     headers |= SyncLabel(main_.LabelRow(line), shown_->LabelRow(line), painter.SpotRect(row));
     headers |= SyncLabel(main_.LabelColumn(line), shown_->LabelColumn(line), painter.SpotRect(column));
   }
-  if (dirty_.isEmpty()) return;
+  if (dirty_.isEmpty() && !headers) return;
   // The frame of the cell that both headers name moves with them.
   if (headers || changed > kTooManyRects) {
     update();

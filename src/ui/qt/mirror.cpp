@@ -257,6 +257,16 @@ QWidget* Mirror::WidgetOf(FormId form, ControlId control) {
   return nullptr;
 }
 
+void Mirror::FocusFirst(FormId form) {
+  View& view = ViewOf(form);
+  if (form == FormId::Main) {
+    view.window->setFocusPolicy(Qt::StrongFocus);
+    view.window->setFocus();
+  } else if (!view.tab_order.empty()) {
+    view.tab_order.begin()->second->setFocus();
+  }
+}
+
 QWidget* Mirror::TopWindow() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   return ExistingWindow(FormId::Main);

@@ -54,6 +54,9 @@ class Mirror {
   [[nodiscard]] BoardWidget* Board() const { return board_; }
   [[nodiscard]] HelpView* Help() const { return help_; }
 
+  // Gives the keyboard to the first control of a dialog, to nothing in the main window.
+  void FocusFirst(FormId form);
+
   // The topmost window on screen, for boxes to stand over.
   [[nodiscard]] QWidget* TopWindow() const;
 

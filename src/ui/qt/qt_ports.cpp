@@ -2,11 +2,13 @@
 #include "ui/qt/qt_ports.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QSpacerItem>
 #include <cstdio>
 
 #include "ui/qt/form_window.h"
@@ -16,6 +18,8 @@
 namespace kestrel {
 
 namespace {
+
+constexpr int kBoxWidth = 340;  // room for the titles
 
 QMessageBox::Icon ToQtIcon(MessageIcon icon) {
   switch (icon) {
@@ -68,6 +72,9 @@ Answer QtAsker::Message(const MessageBox& box) {
   for (const BoxButton& each : buttons) {
     widget.addButton(each.button)->setText(QLatin1String(each.caption));
   }
+  if (auto* grid = qobject_cast<QGridLayout*>(widget.layout())) {
+    grid->addItem(new QSpacerItem(kBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  }
   widget.setDefaultButton(buttons.front().button);
   widget.setEscapeButton(buttons.back().button);
   const int pressed = widget.exec();
@@ -88,7 +95,10 @@ std::optional<std::string> QtAsker::Input(const InputBox& box) {
   widget.setTextValue(ToQString(box.proposal));
   widget.setOkButtonText(QStringLiteral("&OK"));
   widget.setCancelButtonText(QStringLiteral("&Cancel"));
-  if (auto* field = widget.findChild<QLineEdit*>()) field->selectAll();
+  if (auto* field = widget.findChild<QLineEdit*>()) {
+    field->setMinimumWidth(kBoxWidth);
+    field->selectAll();
+  }
   const bool accepted = widget.exec() == QDialog::Accepted;
   if (dispatcher_.Ended()) return std::nullopt;
   return accepted ? widget.textValue().toStdString() : std::string();
@@ -121,6 +131,7 @@ void QtScreen::Show(FormId form) {
   window.open = true;
   FormWindow& widget = mirror_.WindowOf(form);
   mirror_.Sync();
+  mirror_.FocusFirst(form);
   if (form != FormId::Browser) widget.move(window.left / kTwipsPerPixel, window.top / kTwipsPerPixel);
   if (window.state == WindowState::Maximized) {
     widget.showMaximized();

@@ -133,7 +133,7 @@ void LinkLabel::PaintArrow(QPainter& painter, const QRect& place) const {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(underMouse() ? QColor(kThickLine) : QColor(kAccent));
-  const double size = place.height() * 0.8;
+  const double size = place.height() * 0.95;
   const QPointF tip(place.right() - size * 0.1, place.top() + place.height() / 2.0);
   const double shaft = size * 0.16;
   painter.drawPolygon(

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/style.h"
 
+#include <QIcon>
 #include <QPainter>
+#include <QPixmap>
 #include <QStyleOption>
 #include <cmath>
+#include <optional>
 
 #include "ui/qt/device_painter.h"
+#include "ui/qt/fonts.h"
 #include "ui/qt/palette.h"
 
 namespace kestrel {
@@ -16,6 +20,7 @@ using namespace colours;
 
 constexpr int kIndicator = 13;    // pixels of 96 dpi
 constexpr int kIndicatorGap = 6;  // to the text
+constexpr int kSignSize = 32;     // in a message box
 constexpr double kButtonRadius = 4;
 
 // A painter in device pixels for the duration of one drawing call.
@@ -140,6 +145,54 @@ void PaintChoice(const QStyleOptionButton& option, QPainter& painter, const QWid
   PaintFocus(painter, scope, ring);
 }
 
+// The sign of a message box: a coloured shape with a white symbol on it.
+struct Sign {
+  QRgb colour;
+  char symbol;
+  bool triangle;
+};
+
+std::optional<Sign> SignOf(QStyle::StandardPixmap standard) {
+  switch (standard) {
+    case QStyle::SP_MessageBoxInformation:
+      return Sign{kAccent, 'i', false};
+    case QStyle::SP_MessageBoxQuestion:
+      return Sign{kAccent, '?', false};
+    case QStyle::SP_MessageBoxWarning:
+      return Sign{kWarning, '!', true};
+    case QStyle::SP_MessageBoxCritical:
+      return Sign{kTargetCell, 'x', false};
+    default:
+      return std::nullopt;
+  }
+}
+
+QPixmap PaintSign(const Sign& sign, int size) {
+  QPixmap pixmap(size, size);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(size / 32.0, size / 32.0);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(sign.colour));
+  if (sign.triangle) {
+    painter.setPen(QPen(QColor(sign.colour), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolygon(QPolygonF({QPointF(16, 4), QPointF(29.5, 27), QPointF(2.5, 27)}));
+  } else {
+    painter.drawEllipse(QRectF(1, 1, 30, 30));
+  }
+  painter.setPen(QPen(QColor(kAccentText), 3.4, Qt::SolidLine, Qt::RoundCap));
+  if (sign.symbol == 'x') {
+    painter.drawLine(QPointF(11, 11), QPointF(21, 21));
+    painter.drawLine(QPointF(21, 11), QPointF(11, 21));
+    return pixmap;
+  }
+  painter.setFont(ToQFont(Font{"Arial", 16.5, true}, 1));
+  const QRect place(0, sign.triangle ? 3 : 0, 32, 32);
+  PaintText(painter, place, Align::Centre, QString(QLatin1Char(sign.symbol)));
+  return pixmap;
+}
+
 }  // namespace
 
 CalmStyle::CalmStyle() : QProxyStyle(QStringLiteral("Fusion")) {
@@ -187,12 +240,23 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
       return kIndicator;
+    case PM_MessageBoxIconSize:
+      return kSignSize;
     case PM_RadioButtonLabelSpacing:
     case PM_CheckBoxLabelSpacing:
       return kIndicatorGap;
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
   }
+}
+
+QIcon CalmStyle::standardIcon(StandardPixmap standard, const QStyleOption* option,
+                              const QWidget* widget) const {
+  const std::optional<Sign> sign = SignOf(standard);
+  if (!sign) return QProxyStyle::standardIcon(standard, option, widget);
+  QIcon icon;
+  for (const int size : {32, 40, 48, 64, 96, 128}) icon.addPixmap(PaintSign(*sign, size));
+  return icon;
 }
 
 QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,

@@ -7,8 +7,8 @@
 
 namespace kestrel {
 
-// Buttons, options and check boxes are drawn here; everything else comes from Fusion, which is on every
-// system.
+// Buttons, options, check boxes and the signs of message boxes are drawn here; everything else comes from
+// Fusion, which is on every system.
 class CalmStyle final : public QProxyStyle {
  public:
   CalmStyle();
@@ -20,6 +20,8 @@ class CalmStyle final : public QProxyStyle {
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* return_data) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+  QIcon standardIcon(StandardPixmap standard, const QStyleOption* option,
+                     const QWidget* widget) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                          const QWidget* widget) const override;
 };
