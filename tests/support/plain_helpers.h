@@ -27,15 +27,19 @@ inline int Stack(int cell) {
 // Calls `use` with every ascending combination of `size` numbers first..last, in lexicographic order, until
 // it returns true; returns whether it did.
 inline bool Combinations(int first, int last, int size,
-                         const std::function<bool(const std::vector<int>&)>& use,
-                         std::vector<int> chosen = {}) {
+                         const std::function<bool(const std::vector<int>&)>& use, std::vector<int>& chosen) {
   if (static_cast<int>(chosen.size()) == size) return use(chosen);
-  for (int next = chosen.empty() ? first : chosen.back() + 1; next <= last; ++next) {
-    std::vector<int> longer = chosen;
-    longer.push_back(next);
-    if (Combinations(first, last, size, use, longer)) return true;
+  for (int next = first; next <= last; ++next) {
+    chosen.push_back(next);
+    if (Combinations(next + 1, last, size, use, chosen)) return true;
+    chosen.pop_back();
   }
   return false;
+}
+inline bool Combinations(int first, int last, int size,
+                         const std::function<bool(const std::vector<int>&)>& use) {
+  std::vector<int> chosen;
+  return Combinations(first, last, size, use, chosen);
 }
 
 inline bool Contains(const std::vector<int>& list, int value) {

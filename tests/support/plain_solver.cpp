@@ -29,14 +29,19 @@ bool PlainSolver::Exactly(int cell, std::initializer_list<int> digits) const {
   return Mask(cell) == mask;
 }
 
-PlainSolver::Cells PlainSolver::UnitCells(Kind kind, int index) {
-  Cells cells;
-  for (int i = 0; i < 9; ++i) {
-    if (kind == kRow) cells.push_back(9 * index + i);
-    if (kind == kColumn) cells.push_back(index + 9 * i);
-    if (kind == kBox) cells.push_back(27 * (index / 3) + 3 * (index % 3) + 9 * (i / 3) + i % 3);
-  }
-  return cells;
+const PlainSolver::Cells& PlainSolver::UnitCells(Kind kind, int index) {
+  static const auto units = [] {
+    std::array<std::array<Cells, 9>, 3> lists;
+    for (int u = 0; u < 9; ++u) {
+      for (int i = 0; i < 9; ++i) {
+        lists[kRow][u].push_back(9 * u + i);
+        lists[kColumn][u].push_back(u + 9 * i);
+        lists[kBox][u].push_back(27 * (u / 3) + 3 * (u % 3) + 9 * (i / 3) + i % 3);
+      }
+    }
+    return lists;
+  }();
+  return units[kind][index];
 }
 
 bool PlainSolver::Sees(int a, int b) {
@@ -168,7 +173,7 @@ int PlainSolver::Score(int level, const std::array<int, 22>& c) {
 bool PlainSolver::FindHiddenSingle() {
   for (Kind kind : {kBox, kRow, kColumn}) {
     for (int index = 0; index < 9; ++index) {
-      const Cells unit = UnitCells(kind, index);
+      const Cells& unit = UnitCells(kind, index);
       for (int d = 1; d <= 9; ++d) {
         if (Count(unit, d) != 1) continue;
         const int cell = *std::find_if(unit.begin(), unit.end(), [&](int c) { return Has(c, d); });
@@ -195,7 +200,7 @@ bool PlainSolver::FindNakedSingle() {
 bool PlainSolver::FindPointing() {
   for (int d = 1; d <= 9; ++d) {
     for (int box = 0; box < 9; ++box) {
-      const Cells cells = UnitCells(kBox, box);
+      const Cells& cells = UnitCells(kBox, box);
       const int total = Count(cells, d);
       if (total < 1 || total > 3) continue;
       for (int line = 0; line < 6; ++line) {
@@ -219,7 +224,7 @@ bool PlainSolver::FindBoxLine() {
   for (Kind kind : {kRow, kColumn}) {
     for (int d = 1; d <= 9; ++d) {
       for (int index = 0; index < 9; ++index) {
-        const Cells line = UnitCells(kind, index);
+        const Cells& line = UnitCells(kind, index);
         const int total = Count(line, d);
         if (total < 1 || total > 3) continue;
         for (int segment = 0; segment < 3; ++segment) {
@@ -240,7 +245,7 @@ bool PlainSolver::FindBoxLine() {
 bool PlainSolver::FindSubset(bool naked, int size) {
   for (Kind kind : {kRow, kColumn, kBox}) {
     for (int index = 0; index < 9; ++index) {
-      const Cells unit = UnitCells(kind, index);
+      const Cells& unit = UnitCells(kind, index);
       const auto use = [&](const std::vector<int>& digits) {
         return naked ? TryNaked(unit, digits) : TryHidden(unit, digits);
       };

@@ -36,7 +36,7 @@ class PlainSolver {
   [[nodiscard]] bool Has(int cell, int digit) const { return CandidateFlag[digit - 1][cell]; }
   [[nodiscard]] int Count(const Cells& unit, int digit) const;
   [[nodiscard]] bool Exactly(int cell, std::initializer_list<int> digits) const;
-  static Cells UnitCells(Kind kind, int index);
+  static const Cells& UnitCells(Kind kind, int index);
   static bool Sees(int a, int b);
 
   void PlaceValue(int digit, int cell);

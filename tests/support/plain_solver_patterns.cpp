@@ -126,8 +126,8 @@ bool PlainSolver::MultiCase(Kind lines, std::array<int, 4> p, int d1, int d2) {
   const auto index = [&](int cell) {
     return lines == kRow ? Row(cell) : lines == kColumn ? Col(cell) : Box(cell);
   };
-  const Cells l0 = UnitCells(lines, index(p[0]));
-  const Cells l1 = UnitCells(lines, index(p[1]));
+  const Cells& l0 = UnitCells(lines, index(p[0]));
+  const Cells& l1 = UnitCells(lines, index(p[1]));
   for (int e1 = 1; e1 <= 9; ++e1) {
     for (int e2 = 1; e2 <= 9; ++e2) {
       if (e1 == e2 || e1 == d1 || e1 == d2 || e2 == d1 || e2 == d2) continue;
@@ -370,7 +370,7 @@ bool PlainSolver::EmptyCross(int box, int row, int column, int digit) {
   for (bool along_row : {true, false}) {
     for (int x : UnitCells(along_row ? kRow : kColumn, along_row ? row : column)) {
       if (Box(x) == box || !Has(x, digit)) continue;
-      const Cells line = UnitCells(along_row ? kColumn : kRow, along_row ? Col(x) : Row(x));
+      const Cells& line = UnitCells(along_row ? kColumn : kRow, along_row ? Col(x) : Row(x));
       if (Count(line, digit) != 2) continue;
       const int y = *std::find_if(line.begin(), line.end(), [&](int c) { return c != x && Has(c, digit); });
       if (along_row ? Band(y) == box / 3 : Stack(y) == box % 3) continue;
