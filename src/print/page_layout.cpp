@@ -50,14 +50,14 @@ int Nearest(std::int64_t numerator, std::int64_t denominator) {
 // Where a text of `length` units starts that stands in the middle of cell number `index` (0..8) of a side.
 // With c = side / 9: index x c + (c - length) / 2.
 int MiddleOfCell(int side, int index, int length) {
-  return Nearest(std::int64_t{2 * index + 1} * side - std::int64_t{9} * length, 18);
+  return Nearest((std::int64_t{2} * index + 1) * side - std::int64_t{9} * length, 18);
 }
 
 // Where mark k (0..2) of a cell starts. With c = side / 9 and the gap g = (c - 3 x length) / 4:
 // index x c + g + k x (length + g).
 int MarkInCell(int side, int index, int k, int length) {
   const std::int64_t gap = side - std::int64_t{27} * length;  // 36 g
-  return Nearest(std::int64_t{4 * index} * side + (k + 1) * gap + std::int64_t{36 * k} * length, 36);
+  return Nearest(std::int64_t{4} * index * side + (k + 1) * gap + std::int64_t{36} * k * length, 36);
 }
 
 // The summary's order is the one of the slots, but the first two are exchanged.

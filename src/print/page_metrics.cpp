@@ -21,7 +21,7 @@ int HalfSteps(const PageMetrics& metrics, int factor) {
 PageMetrics MeasurePage(int width, int height) {
   // Units per millimetre = numerator / denominator.
   const std::int64_t numerator = std::int64_t{width} * kSheetHeight + std::int64_t{height} * kSheetWidth;
-  const std::int64_t denominator = 2 * kSheetWidth * kSheetHeight;
+  const std::int64_t denominator = std::int64_t{2} * kSheetWidth * kSheetHeight;
   const auto millimetres = [&](int count) { return static_cast<int>(count * numerator / denominator); };
   PageMetrics metrics;
   const int margin = millimetres(25);

@@ -197,7 +197,7 @@ void PdfPage::SetStyle(int font, std::int64_t size, Colour colour) {
   if (colour != state_.colour) {
     // Red is in the low byte.
     for (int shift = 0; shift <= 16; shift += 8) {
-      content_ += Decimal(DivideRounded(1000 * static_cast<int>(colour >> shift & 0xFFU), 255)) + ' ';
+      content_ += Decimal(DivideRounded(std::int64_t{1000} * (colour >> shift & 0xFFU), 255)) + ' ';
     }
     content_ += "rg\n";
   }
