@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The handlers of the print dialog.
 #include "print/print_dialog.h"
 
 #include <algorithm>

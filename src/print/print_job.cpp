@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The PDF file of the command line, and the check of what it is asked for.
 #include "print/print_job.h"
 
 #include "print/page_layout.h"

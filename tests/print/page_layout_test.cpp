@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The layout of the printed pages, on a page that records it.
 #include "print/page_layout.h"
 
 #include <gtest/gtest.h>
