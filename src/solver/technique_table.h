@@ -101,7 +101,7 @@ static_assert(
       for (int slot = 0; slot < kTechniques; ++slot) {
         const TechniqueRow& row = kTechniqueTable[slot];
         counters |= 1U << static_cast<unsigned>(row.counter);
-        if (row.abbreviation.size() != 2 || row.routine == nullptr) return false;
+        if (row.abbreviation.size() != 2) return false;
         if (slot > 0 && row.tier < kTechniqueTable[slot - 1].tier) return false;
         for (int other = 0; other < slot; ++other) {
           if (kTechniqueTable[other].abbreviation == row.abbreviation) return false;
