@@ -9,6 +9,7 @@
 #include "cli/progress.h"
 #include "cli/puzzle_maker.h"
 #include "cli/puzzle_reader.h"
+#include "cli/rating_text.h"
 
 namespace kestrel {
 namespace {

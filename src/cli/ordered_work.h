@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <map>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -56,7 +57,11 @@ void RunOrdered(int jobs, Source source, MakeWorker make_worker, Sink sink) {
     turn.notify_all();
   };
   std::vector<std::jthread> threads;
-  for (int k = 1; k < jobs; ++k) threads.emplace_back(run);
+  try {
+    for (int k = 1; k < jobs; ++k) threads.emplace_back(run);
+  } catch (const std::system_error&) {
+    // The host has no more threads to give: those that run do all the work.
+  }
   run();
 }
 

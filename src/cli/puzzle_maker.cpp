@@ -13,20 +13,16 @@ constexpr std::uint64_t kBundle = 16;
 
 }  // namespace
 
-void PuzzleMaker::AttemptSeeds::Start(std::uint64_t attempt) {
-  std::uint64_t mixed = attempt;
-  state_ = seed_ ^ SplitMix64(mixed);
-  state_ = SplitMix64(state_);
-}
-
-RatedPuzzle PuzzleMaker::Make(std::uint64_t attempt, int highest_level) {
+// Not GenerateRound: that drops puzzles of level 6, which `generate` writes.
+RatedPuzzle MakeRatedPuzzle(std::uint64_t seed, std::uint64_t attempt, int highest_level) {
   NeverStop yield;
-  seeds_.Start(attempt);
-  Require(generator_.MakeFullGrid(yield) == Making::Made && generator_.MakePuzzle(yield) == Making::Made);
+  FixedSeeds seeds = PuzzleOfRun(seed, attempt);
+  Generator generator(seeds);
+  Require(generator.MakeFullGrid(yield) == Making::Made && generator.MakePuzzle(yield) == Making::Made);
   RateOptions options;
   options.highest_level = std::min(highest_level, kLevels);
-  const Rating rating = SolveAndRate(generator_.Givens, yield, options);
-  return {attempt, generator_.Givens, generator_.SolutionGrid, rating.level, rating.Score(), rating.counters};
+  const Rating rating = SolveAndRate(generator.Givens, yield, options);
+  return {{generator.Givens, generator.SolutionGrid, rating.level, rating.Score(), rating.counters}, attempt};
 }
 
 void MakePuzzles(const MakeRun& run, const std::function<bool(const std::vector<RatedPuzzle>&)>& use) {
@@ -38,10 +34,10 @@ void MakePuzzles(const MakeRun& run, const std::function<bool(const std::vector<
     return true;
   };
   const auto make_worker = [&] {
-    return [&run, maker = PuzzleMaker(run.seed)](std::uint64_t first) mutable {
+    return [&run](std::uint64_t first) {
       std::vector<RatedPuzzle> bundle;
       for (std::uint64_t i = first; i < first + std::min(kBundle, run.attempts - first); ++i) {
-        bundle.push_back(maker.Make(i, run.highest_level));
+        bundle.push_back(MakeRatedPuzzle(run.seed, i, run.highest_level));
       }
       return bundle;
     };

@@ -7,52 +7,24 @@
 #include <functional>
 #include <vector>
 
-#include "cli/rating_text.h"
-#include "core/grid.h"
-#include "core/random_source.h"
-#include "generator/generator.h"
+#include "generator/level_renewal.h"
 #include "solver/solver.h"
 
 namespace kestrel {
 
-struct RatedPuzzle {
+// `level` may also be 6, or 0 when it is above the highest level asked for.
+struct RatedPuzzle : RatedNewPuzzle {
   std::uint64_t attempt = 0;
-  DigitGrid givens{};
-  DigitGrid solution{};
-  int level = 0;  // 1..6; 0 when it is above the highest level asked for
-  std::int32_t score = 0;
-  TechniqueCounters counters{};
 };
 
-class PuzzleMaker {
- public:
-  explicit PuzzleMaker(std::uint64_t seed) : seeds_(seed), generator_(seeds_) {}
-
-  // Makes and rates puzzle number `attempt` of the seed. A puzzle found to be above `highest_level` (1..5, or
-  // 6 for no bound) is not rated further.
-  RatedPuzzle Make(std::uint64_t attempt, int highest_level);
-
- private:
-  // The seeds of one attempt: where they start is a mix of the seed and the attempt's number.
-  class AttemptSeeds final : public SeedSource {
-   public:
-    explicit AttemptSeeds(std::uint64_t seed) : seed_(seed) {}
-    void Start(std::uint64_t attempt);
-    std::uint64_t NextSeed() override { return SplitMix64(state_); }
-
-   private:
-    std::uint64_t seed_;
-    std::uint64_t state_ = 0;
-  };
-
-  AttemptSeeds seeds_;
-  Generator generator_;
-};
+// Makes and rates puzzle number `attempt` of the seed. A puzzle found to be above `highest_level` (1..5, or 6
+// for no bound) is not rated further.
+RatedPuzzle MakeRatedPuzzle(std::uint64_t seed, std::uint64_t attempt, int highest_level);
 
 struct MakeRun {
   std::uint64_t seed = 0;
   int jobs = 1;
-  int highest_level = kBeyondTechniques;  // as for PuzzleMaker::Make
+  int highest_level = kBeyondTechniques;  // as for MakeRatedPuzzle
   std::uint64_t attempts = UINT64_MAX;    // how many at most
 };
 

@@ -8,7 +8,9 @@
 #include <tuple>
 
 #include "cli/canonical_form.h"
+#include "cli/rating_text.h"
 #include "core/check.h"
+#include "generator/level_renewal.h"
 
 namespace kestrel {
 namespace {
@@ -142,11 +144,12 @@ void SortByScore(std::vector<PoolPuzzle>& puzzles) {
   std::ranges::sort(puzzles, {}, [](const PoolPuzzle& p) { return std::tie(p.score, p.attempt); });
 }
 
-// Makes the chosen puzzles again and puts them into the stock. Returns the attempts of those that cannot
+// Makes the chosen puzzles again and files them into the stock. Returns the attempts of those that cannot
 // stay.
-std::set<std::uint64_t> FillStock(PuzzleMaker& maker, MadeStock& made) {
+std::set<std::uint64_t> FillStock(std::uint64_t seed, MadeStock& made) {
   std::set<std::uint64_t> unfit;
   std::set<CanonicalPuzzle> forms;
+  made.stock = {};
   for (int level = 1; level <= kLevels; ++level) {
     const std::vector<PoolPuzzle>& chosen = made.chosen[static_cast<std::size_t>(level - 1)];
     if (chosen.size() < kPuzzlesPerLevel) {
@@ -154,13 +157,13 @@ std::set<std::uint64_t> FillStock(PuzzleMaker& maker, MadeStock& made) {
                    std::to_string(level) + " instead of 100";
       return {};
     }
-    int number = 0;
+    SetFloor(made.stock, level);
     for (const PoolPuzzle& entry : chosen) {
-      const RatedPuzzle puzzle = maker.Make(entry.attempt, kLevels);
+      const RatedPuzzle puzzle = MakeRatedPuzzle(seed, entry.attempt, kLevels);
       Require(puzzle.level == level && puzzle.score == entry.score);
       const bool is_new = forms.insert(CanonicalForm(puzzle.givens, puzzle.solution)).second;
       if (!is_new || SolvableBelow(level, puzzle.givens)) unfit.insert(puzzle.attempt);
-      made.stock(level, ++number) = RecordOf(puzzle);
+      FilePuzzle(made.stock, puzzle);
     }
   }
   return unfit;
@@ -215,22 +218,11 @@ bool SolvableBelow(int level, const DigitGrid& givens) {
   return false;
 }
 
-SudokuRecord RecordOf(const RatedPuzzle& puzzle) {
-  SudokuRecord record;
-  record.Level = static_cast<std::int16_t>(puzzle.level);
-  record.GivenCells = puzzle.givens;
-  record.SolutionCells = puzzle.solution;
-  record.TechniqueCount = CountsBySlot(puzzle.counters);
-  record.Score = puzzle.score;
-  return record;
-}
-
 MadeStock MakeStock(Pool pool, std::uint64_t seed) {
   MadeStock made;
-  PuzzleMaker maker(seed);
   for (std::set<std::uint64_t> unfit; made.error.empty();) {
     made.chosen = ChooseStock(pool);
-    unfit = FillStock(maker, made);
+    unfit = FillStock(seed, made);
     if (unfit.empty()) break;
     for (auto& level : pool) {
       std::erase_if(level, [&](const PoolPuzzle& p) { return unfit.contains(p.attempt); });

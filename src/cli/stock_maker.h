@@ -47,9 +47,6 @@ int CountWith(const Pool& pool, int slot);
 // the table or in one of several others.
 bool SolvableBelow(int level, const DigitGrid& givens);
 
-// A new puzzle of level 1..5 as a record without best time.
-SudokuRecord RecordOf(const RatedPuzzle& puzzle);
-
 struct MadeStock {
   StockTable stock;
   Pool chosen;

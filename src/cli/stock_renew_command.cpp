@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 // `stock renew`: new puzzles for one level of a stock.
-#include <algorithm>
 #include <array>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "cli/command.h"
 #include "cli/progress.h"
 #include "cli/puzzle_maker.h"
-#include "cli/stock_maker.h"
 #include "cli/stock_path.h"
 #include "core/stock_file.h"
 
@@ -44,14 +43,6 @@ Renewal MakeLevel(MakeRun run, int level, CliPorts& ports) {
   return renewal;
 }
 
-// Files the puzzles as the game's renewal does: ascending by score, one that equals another below it.
-void FilePuzzles(std::vector<RatedPuzzle> puzzles, int level, StockTable& stock) {
-  std::ranges::reverse(puzzles);
-  std::ranges::stable_sort(puzzles, {}, &RatedPuzzle::score);
-  int number = 0;
-  for (const RatedPuzzle& puzzle : puzzles) stock(level, ++number) = RecordOf(puzzle);
-}
-
 }  // namespace
 
 const CommandSpec kStockRenewSpec{
@@ -78,7 +69,8 @@ ExitStatus StockRenewCommand(Arguments& arguments, CliPorts& ports) {
   const Renewal renewal = MakeLevel(run, level, ports);
   // Read anew: the game may have stored a best time in another level in the meantime.
   if (!ReadStockOf(path, ports, stock)) return ExitStatus::kFailure;
-  FilePuzzles(renewal.puzzles, level, stock);
+  SetFloor(stock, level);
+  for (const RatedPuzzle& puzzle : renewal.puzzles) FilePuzzle(stock, puzzle);
   const FileResult written = WriteStockFile(ports.files, path, stock);
   if (!written) {
     PrintError(ports, path + ": " + written.Reason());
