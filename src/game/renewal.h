@@ -8,7 +8,7 @@
 
 #include "game/session.h"
 #include "generator/generator.h"
-#include "solver/solver.h"
+#include "generator/level_renewal.h"
 
 namespace kestrel {
 
@@ -25,7 +25,7 @@ class Renewal {
   void MakePuzzle();
 
   // Forgets the puzzle that MakePuzzle has kept.
-  void ForgetPuzzle() { rating_.reset(); }
+  void ForgetPuzzle() { puzzle_.reset(); }
 
   // Files the kept puzzle, if there is one. After the hundredth the stock is written.
   void File();
@@ -38,7 +38,7 @@ class Renewal {
 
   Session& session_;
   Generator generator_;
-  std::optional<Rating> rating_;  // of the generator's puzzle, when it is to be filed
+  std::optional<RatedNewPuzzle> puzzle_;  // to be filed
 };
 
 }  // namespace kestrel
