@@ -79,7 +79,9 @@ TEST(Examples, TheSolverFindsWhatEachExampleSays) {
     SolverState expected = example.Position();
     for (const Removal& removal : example.finding.removals) {
       for (int digit = 1; digit <= 9; ++digit) {
-        if (HasDigit(removal.digits, digit)) EXPECT_TRUE(expected.RemoveCandidate(digit, removal.cell));
+        if (HasDigit(removal.digits, digit)) {
+          EXPECT_TRUE(expected.RemoveCandidate(digit, removal.cell));
+        }
       }
     }
     if (example.finding.placed_cell >= 0) {
@@ -137,7 +139,9 @@ TEST(Examples, TextAndPictureShowEveryCell) {
     for (const PatternCell& part : example.finding.pattern) {
       EXPECT_NE(words.find(CellName(part.cell)), std::string::npos);
       // The cells of a box in an Empty Rectangle are named by their lines.
-      if (example.finding.step != 21) EXPECT_NE(text.find(CellName(part.cell)), std::string::npos);
+      if (example.finding.step != 21) {
+        EXPECT_NE(text.find(CellName(part.cell)), std::string::npos);
+      }
     }
     const std::string picture = BoardPicture(example);
     const auto count = [&](std::string_view part) {

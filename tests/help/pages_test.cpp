@@ -97,7 +97,7 @@ TEST(Pages, EveryLinkAndPictureLeadsSomewhere) {
       EXPECT_TRUE(fs::exists(kHelp / target)) << name << " -> " << target;
       if (target != name) linked.insert(target);
     }
-    for (const std::string& attribute : {"src", "srcset"}) {
+    for (const char* attribute : {"src", "srcset"}) {
       for (const std::string& target : Values(html, attribute)) {
         const std::string file = target.substr(0, target.find(' '));
         EXPECT_TRUE(fs::exists(kHelp / file)) << name << " -> " << file;
