@@ -6,11 +6,16 @@ set(kestrel_share ${CMAKE_INSTALL_DATADIR}/kestrel-sudoku)
 foreach(program kestrel-sudoku kestrel-sudoku-cli kestrel-sudoku-script)
   if(TARGET ${program})
     install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-    install(FILES docs/man/${program}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 OPTIONAL)
   endif()
 endforeach()
 
-install(FILES data/sudstock.kpz DESTINATION ${kestrel_share} OPTIONAL)
+install(FILES docs/man/kestrel-sudoku-cli.1 docs/man/kestrel-sudoku-script.1
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+if(TARGET kestrel-sudoku)
+  install(FILES docs/man/kestrel-sudoku.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+endif()
+
+install(FILES data/sudstock.kpz DESTINATION ${kestrel_share})
 install(DIRECTORY data/ DESTINATION ${kestrel_share} FILES_MATCHING PATTERN "*.wav" PATTERN "*.GIF"
         PATTERN "*.html" PATTERN "*.css" PATTERN "*.png" PATTERN "icons" EXCLUDE PATTERN "examples" EXCLUDE)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
