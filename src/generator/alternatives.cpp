@@ -35,10 +35,10 @@ ReferenceGrid::ReferenceGrid(const DigitGrid& grid) {
 
 Alternatives::Alternatives(const ReferenceGrid& reference) : reference_(kBoards.all) {
   for (int k = 0; k < 9; ++k) {
-    other_[9 * kCellKind + k] = kBoards.all & reference.Digit(k).not_cells;
-    other_[9 * kRowKind + k] = BitBoard(kBoards.all) - BitBoard(kBoards.column[k]);
-    other_[9 * kColumnKind + k] = BitBoard(kBoards.all) - BitBoard(kBoards.row[k]);
-    other_[9 * kBoxKind + k] = BitBoard(kBoards.all) - BitBoard(kBoards.position[k]);
+    other_[kCellKind][k] = kBoards.all & reference.Digit(k).not_cells;
+    other_[kRowKind][k] = BitBoard(kBoards.all) - BitBoard(kBoards.column[k]);
+    other_[kColumnKind][k] = BitBoard(kBoards.all) - BitBoard(kBoards.row[k]);
+    other_[kBoxKind][k] = BitBoard(kBoards.all) - BitBoard(kBoards.position[k]);
   }
 }
 
@@ -57,16 +57,17 @@ void Alternatives::RuleOut(const ReferenceGrid& reference, int cell, int index) 
   const BitBoard not_in_band = digit.not_in_band[at.band];
   const BitBoard not_in_stack = digit.not_in_stack[at.stack];
 
-  other_[index] &= at.not_seen;
+  auto& [digits, columns, rows, positions] = other_;
+  digits[index] &= at.not_seen;
   for (int i = 0; i < 3; ++i) {
-    other_[at.columns_of_box + i] &= not_in_band;
-    other_[at.rows_of_box + i] &= not_in_stack;
-    other_[at.positions_in_row + i] &= not_in_band;
-    other_[at.positions_in_column + 3 * i] &= not_in_stack;
+    columns[at.box_column + i] &= not_in_band;
+    rows[at.box_row + i] &= not_in_stack;
+    positions[at.row_start + i] &= not_in_band;
+    positions[at.column_start + 3 * i] &= not_in_stack;
   }
-  other_[at.column] &= digit.not_cells & at.not_row;
-  other_[at.row] &= digit.not_cells & at.not_column;
-  other_[at.position] &= at.not_box;
+  columns[at.column] &= digit.not_cells & at.not_row;
+  rows[at.row] &= digit.not_cells & at.not_column;
+  positions[at.position] &= at.not_box;
 }
 
 void Alternatives::Give(const ReferenceGrid& reference, BitBoard cells, BitBoard wanted) {
@@ -76,9 +77,9 @@ void Alternatives::Give(const ReferenceGrid& reference, BitBoard cells, BitBoard
     if (!(wanted & reference_).Any()) return;
     next.ForEach([&](int cell) { RuleOut(reference, cell, reference.Index(cell)); });
     BitBoard in_all_kinds = kBoards.all;
-    for (int kind = 0; kind < kKinds; ++kind) {
-      BitBoard any = other_[9 * kind];
-      for (int k = 1; k < 9; ++k) any |= other_[9 * kind + k];
+    for (const std::array<BitBoard, 9>& boards : other_) {
+      BitBoard any = boards[0];
+      for (int k = 1; k < 9; ++k) any |= boards[k];
       in_all_kinds &= any;
     }
     next = reference_ - in_all_kinds;

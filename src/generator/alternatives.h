@@ -15,7 +15,7 @@
 //      kind Column   bit i:  column c has digit d     alternative k:  in row k of column c instead
 //      kind Box      bit i:  box b has digit d        alternative k:  at position k of box b instead
 //
-// Board 9 x kind + k, bit i: constraint i can still be met by alternative k. A candidate (a digit in a cell
+// Bit i of board k of a kind: constraint i can still be met by alternative k. A candidate (a digit in a cell
 // that is not the reference's) thus has one bit in each kind. Which constraints have no alternative left is
 // an OR over nine boards, for all 81 at once; and naked singles (kind Cell) and hidden singles (the other
 // three) are the same thing.
@@ -77,8 +77,8 @@ class Alternatives {
   // constraints met by it keep what bits they have. The reference digit or another, it is the same.
   void RuleOut(const ReferenceGrid& reference, int cell, int index);
 
-  std::array<BitBoard, 9 * kKinds> other_;  // by 9 x kind + k, as drawn above
-  BitBoard reference_;                      // the constraints that the reference digit can still meet
+  std::array<std::array<BitBoard, 9>, kKinds> other_;  // by kind and k, as drawn above
+  BitBoard reference_;  // the constraints that the reference digit can still meet
 };
 
 }  // namespace kestrel

@@ -36,15 +36,14 @@ inline constexpr ConstantBoards kBoards = [] {
   return boards;
 }();
 
-// What Alternatives::RuleOut needs to know of a cell: boards, and indices into the 36 boards of alternatives.
+// What Alternatives::RuleOut needs to know of a cell.
 struct CellBoards {
-  BoardBits not_seen;                        // all but the 20 cells that see it
-  BoardBits not_row, not_column, not_box;    // all but the cells of its unit
-  std::uint8_t band, stack;                  // 0..2
-  std::uint8_t column, row, position;        // its own board of kind Row, Column, Box
-  std::uint8_t columns_of_box, rows_of_box;  // the first of the three boards of its box, kind Row, Column
-  std::uint8_t positions_in_row;             // kind Box: the first of three, one after the other
-  std::uint8_t positions_in_column;          // ... of three, two left out after each
+  BoardBits not_seen;                      // all but the 20 cells that see it
+  BoardBits not_row, not_column, not_box;  // all but the cells of its unit
+  std::uint8_t band, stack;                // 0..2
+  std::uint8_t row, column, position;      // 0..8; position in its box
+  std::uint8_t box_row, box_column;        // the first row and column of its box
+  std::uint8_t row_start, column_start;    // the first position of its row, its column of the box
 };
 
 inline constexpr std::array<CellBoards, kCells> kCellBoards = [] {
@@ -63,13 +62,13 @@ inline constexpr std::array<CellBoards, kCells> kCellBoards = [] {
     at.not_box = BoardBits::Where([i](int cell) { return CellBox[cell] != CellBox[i]; });
     at.band = narrow(row / 3);
     at.stack = narrow(column / 3);
-    at.column = narrow(9 + column);
-    at.row = narrow(18 + row);
-    at.position = narrow(27 + row % 3 * 3 + column % 3);
-    at.columns_of_box = narrow(9 + column / 3 * 3);
-    at.rows_of_box = narrow(18 + row / 3 * 3);
-    at.positions_in_row = narrow(27 + row % 3 * 3);
-    at.positions_in_column = narrow(27 + column % 3);
+    at.row = narrow(row);
+    at.column = narrow(column);
+    at.position = narrow(row % 3 * 3 + column % 3);
+    at.box_row = narrow(row / 3 * 3);
+    at.box_column = narrow(column / 3 * 3);
+    at.row_start = narrow(row % 3 * 3);
+    at.column_start = narrow(column % 3);
   }
   return all;
 }();

@@ -43,11 +43,11 @@ Deviation::Deviation(const ReferenceGrid& reference, const DigitGrid& givens) : 
 Deviation::Survey Deviation::Look() const {
   Survey survey;
   for (int kind = 0; kind < kKinds; ++kind) {
-    BitBoard any = other_[9 * kind];
+    BitBoard any = other_[kind][0];
     BitBoard several;
     for (int k = 1; k < 9; ++k) {
-      several |= any & other_[9 * kind + k];
-      any |= other_[9 * kind + k];
+      several |= any & other_[kind][k];
+      any |= other_[kind][k];
     }
     survey.any[kind] = any;
     survey.several[kind] = several;
@@ -60,7 +60,7 @@ BitBoard Deviation::MoreThanTwo(int kind) const {
   BitBoard two;
   BitBoard three;
   for (int k = 0; k < 9; ++k) {
-    const BitBoard board = other_[9 * kind + k];
+    const BitBoard board = other_[kind][k];
     three |= two & board;
     two |= one & board;
     one |= board;
@@ -71,7 +71,7 @@ BitBoard Deviation::MoreThanTwo(int kind) const {
 unsigned Deviation::AlternativesOf(int kind, int constraint) const {
   unsigned bits = 0;
   for (int k = 0; k < 9; ++k) {
-    bits |= static_cast<unsigned>(other_[9 * kind + k].Has(constraint)) << static_cast<unsigned>(k);
+    bits |= static_cast<unsigned>(other_[kind][k].Has(constraint)) << static_cast<unsigned>(k);
   }
   return bits;
 }
@@ -111,10 +111,10 @@ void Deviation::Place(const ReferenceGrid& reference, OtherDigit other) {
 void Deviation::Remove(const ReferenceGrid& reference, OtherDigit other) {
   const CellBoards& at = kCellBoards[other.cell];
   const BitBoard digit = reference.Digit(other.index).cells;
-  other_[other.index] -= kBoards.cell[other.cell];
-  other_[at.column] -= (digit & kBoards.row[CellRow[other.cell]]);
-  other_[at.row] -= (digit & kBoards.column[CellCol[other.cell]]);
-  other_[at.position] -= (digit & kBoards.box[CellBox[other.cell]]);
+  other_[kCellKind][other.index] -= kBoards.cell[other.cell];
+  other_[kRowKind][at.column] -= (digit & kBoards.row[CellRow[other.cell]]);
+  other_[kColumnKind][at.row] -= (digit & kBoards.column[CellCol[other.cell]]);
+  other_[kBoxKind][at.position] -= (digit & kBoards.box[CellBox[other.cell]]);
 }
 
 OtherDigit DeviationSearch::Meaning(int kind, int constraint, int k) const {
