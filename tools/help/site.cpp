@@ -43,16 +43,23 @@ std::vector<std::string> PageOrder() {
   return order;
 }
 
+// "18,459"; up to 999,999.
+std::string WithComma(int number) {
+  std::string digits = std::to_string(number);
+  return digits.size() <= 3 ? digits : digits.insert(digits.size() - 3, ",");
+}
+
 class Builder {
  public:
   explicit Builder(const SiteInput& input) : input_(input) {}
 
   Site Build() {
     if (!input_.examples.error.empty()) return {{}, "examples: " + input_.examples.error};
-    for (const std::string& file : PageOrder()) ReadText(file);
-    for (const auto& [file, text] : input_.texts) {
-      if (std::none_of(pages_.begin(), pages_.end(), [&](const auto& page) { return page.file == file; })) {
-        Fail(file, "is no page of the help");
+    const std::vector<std::string> order = PageOrder();
+    for (const std::string& file : order) ReadText(file);
+    for (const auto& entry : input_.texts) {
+      if (std::find(order.begin(), order.end(), entry.first) == order.end()) {
+        Fail(entry.first, "is no page of the help");
       }
     }
     for (int step = 1; step <= kTechniques; ++step) {
@@ -238,9 +245,9 @@ class Builder {
     if (input_.stock == nullptr) return;
     out_ << "<h2>How often</h2>\n";
     for (const int step : steps) OccurrenceOf(step);
-    out_ << "<p class=\"note\">This tells of the puzzles that come with the game. A level that you have "
-            "renewed "
-            "holds others.</p>\n";
+    out_ << "<p class=\"note\">These are the puzzles that come with the game; a level that you have renewed "
+            "holds "
+            "others. Within a level, the lower the number, the easier the puzzle.</p>\n";
   }
 
   void OccurrenceOf(int step) {
@@ -257,8 +264,9 @@ class Builder {
       out_ << "none of the 500 puzzles needs it.</p>\n";
       return;
     }
-    out_ << "needed in " << puzzles << " of the 500 puzzles, " << times << (times == 1 ? " time" : " times")
-         << " in all.</p>\n<table class=\"use\">\n";
+    out_ << (puzzles == 500 ? "needed in all 500 puzzles, "
+                            : "needed in " + std::to_string(puzzles) + " of the 500 puzzles, ")
+         << WithComma(times) << (times == 1 ? " time" : " times") << " in all.</p>\n<table class=\"use\">\n";
     for (int level = 1; level <= kLevels; ++level) {
       const std::vector<int>& numbers = use.puzzles[level - 1];
       if (numbers.empty()) continue;

@@ -60,9 +60,8 @@ std::string NumberList(const std::vector<int>& numbers) {
       others.push_back(number);
     }
   }
-  const std::string list = Ranges(numbers);
-  const std::string all_but = "all but " + Ranges(others);
-  return all_but.size() < list.size() ? all_but : list;
+  constexpr std::size_t kFewExceptions = 20;
+  return others.size() <= kFewExceptions ? "all but " + Ranges(others) : Ranges(numbers);
 }
 
 std::string_view LevelName(int level) {

@@ -23,8 +23,8 @@ std::optional<StockTable> StockOfBytes(std::span<const std::uint8_t> bytes);
 // Where the technique of the step (1..22) is needed.
 TechniqueUse UseOf(const StockTable& stock, int step);
 
-// "3, 7 to 9 and 12"; of a level's 100 numbers "all", or "all but 5 and 77" where that is shorter. Neighbours
-// are joined from three on.
+// "3, 7 to 9 and 12"; of a level's 100 numbers "all", or "all but 5 and 77" when few are missing.
+// Neighbours are joined from three on.
 std::string NumberList(const std::vector<int>& numbers);
 
 // The level's name, 1..5.
