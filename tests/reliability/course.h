@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-// What a script does to the files when nothing goes wrong, and the comparison with a run in which something
-// did. Used by the tests of faults and kills.
+// What a script does to the files when nothing goes wrong, and the look at what is left when something did.
+// Used by all tests here.
 #pragma once
 
-#include <iosfwd>
-#include <map>
+#include <functional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -15,28 +14,24 @@
 
 namespace kestrel::testing {
 
+// Plays a script on other system calls, calling `look` before each line. OK is pressed in every message box
+// that opens on the way, and lines "answer OK" without a box are left out.
+Played PlayOn(const GameHome& home, SystemCalls& calls, std::string_view script,
+              const std::function<void()>& look = nullptr);
+
 struct Course {
-  std::string script;               // without the answers to message boxes, which are all OK
-  std::string answered;             // with them, as the program can be given it
+  explicit Course(std::string_view played);
+
+  std::string script;
   std::vector<std::string> stocks;  // [k]: the stock's bytes after it was written k times
-  std::map<std::string, std::set<std::string>> settings;  // "SECTION KEY": all values it was given
-  int calls = 0;                                          // system calls in all
+  std::set<std::string> settings;   // all that were stored, as the script program prints them
+  int calls = 0;                    // system calls in all
 };
 
-// Plays `script` in a new home, pressing OK in every message box that opens on the way.
-Course Rehearse(std::string_view script);
-
-// Plays `course.script` on other system calls, pressing OK as above; what the game says is printed on `out`
-// at once. Returns the exit status.
-int PlayOn(const GameHome& home, SystemCalls& calls, const Course& course, std::ostream& out);
-
 // Looks at the home after a run of `course` that printed `output`, however it ended, and starts the program
-// there again: the stock is the one that was written last, or wholly the next; settings that were stored are
-// there; nothing else is left in the data folder; the game is ready to play.
+// there again. The stock is the one that was written last, or wholly a later one; settings that were stored
+// are there; no temporary is left; the game is ready.
 void ExpectNothingLost(GameHome& home, const Course& course, const std::string& output);
-
-// Whether the environment variable KESTREL_LONG asks for the long form of these tests.
-bool LongForm();
 
 // Lines that solve puzzles of level 2 from `first` on, number n in n + 10 seconds.
 std::string SolveLines(int first, int count);

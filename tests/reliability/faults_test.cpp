@@ -1,93 +1,152 @@
 // SPDX-License-Identifier: MIT
-// The whole game on files that fail: each system call in turn fails, once or from then on, or ends the
-// process.
+// The game on files that fail, and the game killed: at each system call in turn, and the real program at
+// random moments. KESTREL_LONG=1 takes every call, not a share of them; KESTREL_KILLS says how often the
+// program is killed, KESTREL_SEED at which moments.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
+#include <csignal>
 #include <fstream>
-#include <sstream>
+#include <map>
+#include <thread>
 
+#include "core/random_source.h"
 #include "course.h"
 #include "support/faulty_calls.h"
+#include "ui/script/runner.h"
 
 namespace kestrel::testing {
 namespace {
 
-const Course& Playing() {
-  static const Course course = Rehearse(std::string(kAnnPlays) + SolveLines(1, 2));
-  return course;
+using std::chrono::steady_clock;
+
+const std::string kRenewing = "press RenewLevel(1)\nanswer OK\nrenew 100000\n";
+const std::string kPlaying = std::string(kAnnPlays) + SolveLines(1, 2);
+
+int NumberFrom(const char* variable, int otherwise) {
+  const char* text = std::getenv(variable);
+  return text == nullptr ? otherwise : std::atoi(text);
 }
 
-const Course& Renewing() {
-  static const Course course = Rehearse("press RenewLevel(1)\nrenew 100000\n");
-  return course;
-}
-
-// A renewal takes a while and touches the files only at its end; the calls before that are those of any
-// start.
-constexpr int kCallsOfAWrite = 25;
-int FirstCall(const Course& course) {
-  return &course == &Playing() ? 1 : course.calls - kCallsOfAWrite;
-}
-
-// Of the short form's steps, which are prime to each other, each meets other calls.
-void FailAtCalls(const Course& course, int step, int error, bool for_good) {
+// Calls try_call(n) for system calls n of the course. A renewal takes a while and touches the files at its
+// end only; the calls before that are those of any start.
+template <class Try>
+void AtCalls(const Course& course, int step, Try try_call) {
+  constexpr int kCallsOfAWrite = 25;
   int tried = 0;
-  for (int n = FirstCall(course); n <= course.calls; n += LongForm() ? 1 : step, ++tried) {
-    SCOPED_TRACE(::testing::Message()
-                 << "call " << n << ", error " << error << (for_good ? " for good" : ""));
+  if (NumberFrom("KESTREL_LONG", 0) != 0) step = 1;
+  for (int n = course.stocks.size() > 2 ? 1 : course.calls - kCallsOfAWrite; n <= course.calls; n += step) {
+    SCOPED_TRACE(::testing::Message() << "call " << n << " of " << course.calls);
     GameHome home;
+    const std::string output = try_call(n, home);
+    ExpectNothingLost(home, course, output);
+    if (::testing::Test::HasFailure()) FAIL() << output;
+    ++tried;
+  }
+  std::cout << tried << " of " << course.calls << " calls\n";
+}
+
+void FailAtCalls(const Course& course, int step, int error, bool for_good) {
+  AtCalls(course, step, [&](int n, GameHome& home) {
     FaultyCalls calls;
     calls.FailAt(n, for_good, error);
-    std::ostringstream out;
-    const int status = PlayOn(home, calls, course, out);
-    const Played played{out.str(), "", status};
+    const Played played = PlayOn(home, calls, course.script);
     EXPECT_EQ(played.Count("stock failed"), played.Count("message \"File Error\" \"Error writing"));
-    EXPECT_EQ(played.Count("message \"Critical Error!\""), status);
-    ExpectNothingLost(home, course, played.output);
-    if (::testing::Test::HasFailure()) FAIL() << played.output;
+    EXPECT_EQ(played.Count("message \"Critical Error!\""), played.status) << strerror(error);
+    return played.output;
+  });
+}
+
+// The steps are prime to each other, so that each error meets other calls.
+TEST(Faults, AnyCallMayFailOnce) {
+  const Course playing(kPlaying);
+  FailAtCalls(playing, 5, EIO, false);
+  FailAtCalls(playing, 23, EACCES, false);
+  FailAtCalls(Course(kRenewing), 5, ENOSPC, false);
+}
+
+TEST(Faults, CallsMayFailForGood) {
+  const Course playing(kPlaying);
+  for (const auto& [step, error] :
+       {std::pair{7, EIO}, {29, ENOSPC}, {31, EROFS}, {37, ENOENT}, {41, EACCES}, {43, EDQUOT}}) {
+    FailAtCalls(playing, step, error, true);
   }
-  std::cout << course.calls << " calls, " << tried << " failed\n";
+  FailAtCalls(Course(kRenewing), 9, EROFS, true);
 }
 
-TEST(Reliability, AnyFileOperationMayFailOnce) {
-  FailAtCalls(Playing(), 5, EIO, false);
-  FailAtCalls(Playing(), 23, EACCES, false);
-  FailAtCalls(Renewing(), 5, ENOSPC, false);
-}
-
-TEST(Reliability, FileOperationsMayFailForGood) {
-  FailAtCalls(Playing(), 7, EIO, true);
-  FailAtCalls(Playing(), 29, ENOSPC, true);
-  FailAtCalls(Playing(), 31, EROFS, true);
-  FailAtCalls(Playing(), 37, ENOENT, true);
-  FailAtCalls(Playing(), 41, EACCES, true);
-  FailAtCalls(Renewing(), 9, EROFS, true);
-}
-
-TEST(Reliability, TheGameMayBeKilledAtAnyCall) {
-  for (const Course* course : {&Playing(), &Renewing()}) {
-    const int step = LongForm() ? 1 : (course == &Playing() ? 5 : 9);
-    for (int n = FirstCall(*course); n <= course->calls; n += step) {
-      SCOPED_TRACE(::testing::Message() << "call " << n << " of " << course->calls);
-      GameHome home;
-      const std::string output = home.program.Path("output").string();
-      const pid_t child = fork();
-      if (child == 0) {
+TEST(Kills, AtAnyCall) {
+  for (const auto& [script, step] : {std::pair{&kPlaying, 5}, {&kRenewing, 9}}) {
+    const Course course(*script);
+    AtCalls(course, step, [&](int n, GameHome& home) {
+      const std::string file = home.program.Path("output");
+      if (fork() == 0) {
         FaultyCalls calls;
         calls.KillAt(n);
-        std::ofstream out(output);
-        PlayOn(home, calls, *course, out);
+        HostFiles files(calls);
+        NeverStop yield;
+        std::istringstream lines(course.script);
+        std::ofstream output(file);
+        ScriptRunner(home.options, files, yield, lines, output, output).Run();
         _exit(0);
       }
       int status = 0;
-      ASSERT_EQ(waitpid(child, &status, 0), child);
-      ASSERT_EQ(WEXITSTATUS(status), FaultyCalls::kKilled);
-      ExpectNothingLost(home, *course, home.program.Get("output"));
-      if (HasFailure()) FAIL() << home.program.Get("output");
-    }
+      wait(&status);
+      EXPECT_EQ(WEXITSTATUS(status), FaultyCalls::kKilled);
+      return home.program.Get("output");
+    });
   }
+}
+
+// Starts the real program with the files "script" and "output" in the program folder.
+pid_t Start(const GameHome& home) {
+  const std::string script = home.program.Path("script"), output = home.program.Path("output");
+  const pid_t program = fork();
+  if (program != 0) return program;
+  dup2(open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDOUT_FILENO);
+  execl(KESTREL_SCRIPT_PROGRAM, "kestrel-sudoku-script", "--home", home.options.home.c_str(), "--program",
+        home.options.program.c_str(), script.c_str(), nullptr);
+  _exit(3);
+}
+
+void KillTheProgram(const Course& course, int kills) {
+  RandomSource random(static_cast<std::uint64_t>(NumberFrom("KESTREL_SEED", 1)));
+  std::map<int, int> writes;  // how many of the killed had written the stock so often
+  steady_clock::duration whole{};
+  for (int killed = 0, tries = 0; killed < kills && !::testing::Test::HasFailure(); ++tries) {
+    ASSERT_LT(tries, 5 * kills + 10) << "the program is too fast";
+    GameHome home;
+    home.program.Put("script", course.script);
+    const auto start = steady_clock::now();
+    const pid_t program = Start(home);
+    if (tries > 0) {  // the first run shows how long it takes
+      std::this_thread::sleep_for(whole * random.Next());
+      kill(program, SIGKILL);  // its own number still, for it was not waited for
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(program, &status, 0), program);
+    ASSERT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0) << status;
+    if (tries == 0) whole = steady_clock::now() - start;
+    const Played played{home.program.Get("output"), "", 0};
+    if (WIFSIGNALED(status)) ++writes[played.Count("stock written")];
+    killed += WIFSIGNALED(status) ? 1 : 0;
+    SCOPED_TRACE(played.output);
+    ExpectNothingLost(home, course, played.output);
+  }
+  std::cout << kills << " kills, after so many writes of the stock:";
+  for (const auto& [count, runs] : writes) std::cout << ' ' << count << " (" << runs << ')';
+  std::cout << '\n';
+}
+
+TEST(Kills, AtRandomMoments) {
+  const int share = NumberFrom("KESTREL_KILLS", 60) / 6;
+  KillTheProgram(Course(std::string(kAnnPlays) + SolveLines(1, 20)), 3 * share);
+  KillTheProgram(Course(kRenewing), share);
+  KillTheProgram(Course(std::string(kAnnPlays) + "press RenewLevel(1)\nanswer OK\n" + SolveLines(1, 4) +
+                        "renew 100000\n" + SolveLines(5, 2)),
+                 2 * share);
 }
 
 }  // namespace
