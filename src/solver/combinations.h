@@ -11,6 +11,11 @@
 
 namespace kestrel {
 
+// The lowest member of a set that is not empty, as a set of its own.
+constexpr unsigned LowestBit(unsigned set) {
+  return set & (~set + 1);
+}
+
 constexpr int Binomial(int n, int k) {
   return k == 0 ? 1 : Binomial(n - 1, k - 1) * n / k;
 }
@@ -50,7 +55,7 @@ bool ChooseSets(const NineSets& sets, int limit, unsigned rest, unsigned chosen,
     for (; rest != 0; rest &= rest - 1) {
       const unsigned joined = cover | sets.set[std::countr_zero(rest)];
       if (BitCount[joined] > limit) continue;
-      const unsigned next = rest & (~rest + 1);
+      const unsigned next = LowestBit(rest);
       if (ChooseSets<missing - 1>(sets, limit, rest & (rest - 1), chosen | next, joined, use)) return true;
     }
     return false;

@@ -137,7 +137,7 @@ bool TryDirection(SolverState& state, const SolverInput& input, const Attempt& a
     CellSet pair = state.Cells(digit) & kUnitTables.cells[pair_line];
     pair.Remove(x);
     const int y = pair.First();
-    // Y outside the box's band (or stack).
+    // With Y in the box's own band (or stack) the target would lie in the box itself.
     if (kUnitTables.unit[y][direction] % 9 / 3 == attempt.line[direction] % 9 / 3) continue;
     const CellSet target =
         kUnitTables.cells[kUnitTables.unit[y][direction]] & kUnitTables.cells[attempt.line[across]];
@@ -157,6 +157,7 @@ bool TryDirection(SolverState& state, const SolverInput& input, const Attempt& a
   return false;
 }
 
+// Scan order: crosses, and for each first from its row, then from its column.
 bool FindInBox(SolverState& state, const SolverInput& input, int digit, int box) {
   const Crosses& crosses = kCrosses[state.Places(digit, kFirstBox + box)];
   for (int i = 0; i < crosses.count; ++i) {

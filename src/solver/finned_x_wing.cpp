@@ -52,6 +52,7 @@ constexpr unsigned SegmentOf(int position) {
   return 7U << static_cast<unsigned>(position / 3 * 3);
 }
 
+// At most one corner has all fins in its box, because the corners lie in different boxes.
 bool TryShape(SolverState& state, const SolverInput& input, const Shape& shape) {
   const unsigned corners = state.Places(shape.digit, shape.first_line + shape.base);
   const unsigned places = state.Places(shape.digit, shape.first_line + shape.finned);
@@ -71,6 +72,7 @@ bool TryShape(SolverState& state, const SolverInput& input, const Shape& shape) 
   return false;
 }
 
+// Scan order: base lines, then finned lines of another band (or stack).
 bool FindFinnedOf(SolverState& state, const SolverInput& input, int digit, int first_line) {
   for (int base = 0; base < 9; ++base) {
     const unsigned corners = state.Places(digit, first_line + base);

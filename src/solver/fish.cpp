@@ -43,7 +43,8 @@ bool EliminateFish(SolverState& state, int digit, int first_line, unsigned base,
   return removed;
 }
 
-// One digit, base lines first_line (a unit) .. first_line + 8, covers in lexicographic order.
+// One digit, base lines first_line (a unit) .. first_line + 8. Scan order: covers in lexicographic order. The
+// base are all lines that qualify; only exactly `size` of them make a fish.
 template <int size>
 bool FindFishOf(SolverState& state, const SolverInput& input, int digit, int first_line) {
   NineSets lines;
@@ -56,7 +57,7 @@ bool FindFishOf(SolverState& state, const SolverInput& input, int digit, int fir
   for (const unsigned cover : kCombinations<size>) {
     unsigned base = 0;
     for (unsigned rest = lines.members; rest != 0; rest &= rest - 1) {
-      if ((lines.set[std::countr_zero(rest)] & ~cover) == 0) base |= rest & (~rest + 1);
+      if ((lines.set[std::countr_zero(rest)] & ~cover) == 0) base |= LowestBit(rest);
     }
     if (BitCount[base] == size && EliminateFish(state, digit, first_line, base, cover)) {
       if (input.finding != nullptr) Describe(*input.finding, state, digit, first_line, base, cover);

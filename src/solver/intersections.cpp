@@ -75,6 +75,7 @@ void Eliminate(SolverState& state, const SolverInput& input, int digit, int keep
   state.RemoveFrom(kUnitTables.cells[loser] - kUnitTables.cells[keeper], digit);
 }
 
+// Scan order: boxes; in a box its three rows, then its three columns.
 bool FindPointingOf(SolverState& state, const SolverInput& input, int digit) {
   std::array<unsigned, 3> rows{};  // by band
   std::array<unsigned, 3> columns{};
@@ -100,6 +101,7 @@ bool FindPointingOf(SolverState& state, const SolverInput& input, int digit) {
   return false;
 }
 
+// Scan order: lines; all digits have had their rows before any has its columns.
 bool FindBoxLineOf(SolverState& state, const SolverInput& input, int digit, int first_line) {
   for (int band = 0; band < 3; ++band) {
     const unsigned found = kBoxLine[BandSegments(state, digit, first_line + 3 * band)];

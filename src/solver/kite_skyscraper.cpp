@@ -11,6 +11,7 @@
 #include <array>
 #include <bit>
 
+#include "solver/combinations.h"
 #include "solver/describe.h"
 #include "solver/techniques.h"
 
@@ -40,7 +41,7 @@ unsigned SpreadPairLines(const SolverState& state, int digit, int first_line) {
   unsigned lines = PairLines(state, digit, first_line);
   for (unsigned rest = lines; rest != 0; rest &= rest - 1) {
     const Pair pair = PairOf(state, digit, first_line + std::countr_zero(rest));
-    if (CellBox[pair[0]] == CellBox[pair[1]]) lines &= ~(rest & (~rest + 1));
+    if (CellBox[pair[0]] == CellBox[pair[1]]) lines &= ~LowestBit(rest);
   }
   return lines;
 }
@@ -67,6 +68,8 @@ bool JoinInBox(Pair& row, Pair& column) {
   return false;
 }
 
+// Scan order: row by row, and for each row column by column. Only the first way in which the two meet counts,
+// even when it removes nothing and another would.
 bool FindKiteOf(SolverState& state, const SolverInput& input, int digit) {
   unsigned rows = SpreadPairLines(state, digit, 0);
   if (rows == 0) return false;
@@ -114,14 +117,14 @@ bool TrySkyscraper(SolverState& state, const SolverInput& input, int digit, cons
   return false;
 }
 
+// Scan order: two rows (i, j), then the columns of the same numbers, then the next pair of numbers.
 bool FindSkyscraperOf(SolverState& state, const SolverInput& input, int digit) {
   const std::array<unsigned, 2> lines{PairLines(state, digit, 0), PairLines(state, digit, kFirstColumn)};
-  // For every i < j the rows first, then the columns.
   for (unsigned left = lines[0] | lines[1]; left != 0; left &= left - 1) {
     const int i = std::countr_zero(left);
     for (unsigned right = left & (left - 1); right != 0; right &= right - 1) {
       const int j = std::countr_zero(right);
-      const unsigned both = (left & (~left + 1)) | (right & (~right + 1));
+      const unsigned both = LowestBit(left) | LowestBit(right);
       for (const int kind : {0, 1}) {
         if ((lines[kind] & both) != both) continue;
         const Pair a = PairOf(state, digit, 9 * kind + i);

@@ -124,6 +124,7 @@ std::array<Facing, 2> Cases(int pass, const Couple& a, const Couple& b) {
   }
 }
 
+// Scan order: units i < j, digits d1 and d2, then the two cases.
 bool FindInPass(SolverState& state, const SolverInput& input, CellSet bivalue, int pass) {
   std::array<Couples, 9> couples;
   for (int i = 0; i < 9; ++i) couples[i] = CouplesOf(state, bivalue, 9 * pass + i);

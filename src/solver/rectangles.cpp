@@ -96,6 +96,7 @@ bool TryType2(SolverState& state, const SolverInput& input, const RectangleCells
               int b) {
   if (!cells.three.Several()) return false;
   CellSet thirds = (cells.three & Across(kind, a, b)) - kUnitTables.cells[UnitOf(a, kind)];
+  // With the floor in two boxes the roof must lie in the same two, or there would be four.
   if (CellBox[a] != CellBox[b]) {
     thirds &= kUnitTables.cells[UnitOf(a, 2)] | kUnitTables.cells[UnitOf(b, 2)];
   }
@@ -118,6 +119,8 @@ bool TryType2(SolverState& state, const SolverInput& input, const RectangleCells
   return false;
 }
 
+// Scan order: floors (a, b) in cell order; for each, type 1 and then type 2, third corners in cell order.
+// Type 1 is for floors in one box only.
 bool FindRectangleOf(SolverState& state, const SolverInput& input, const RectangleCells& cells) {
   const CellList floor(cells.floor);
   for (int i = 0; i + 1 < floor.count; ++i) {
@@ -206,6 +209,7 @@ bool TryTwoOpen(SolverState& state, const SolverInput& input, const CellList& li
   return false;
 }
 
+// Scan order: digits, then pairs of cells solved with the digit.
 bool FindWithOneOpen(SolverState& state, const SolverInput& input) {
   for (const CellList& cells : DeducedCells(state, input.givens)) {
     for (int i = 0; i + 1 < cells.count; ++i) {
@@ -217,6 +221,8 @@ bool FindWithOneOpen(SolverState& state, const SolverInput& input) {
   return false;
 }
 
+// Scan order: pairs of solved cells in one line (a pair shares a row or a column, never both), then X by pair
+// of candidates and cell.
 bool FindWithTwoOpen(SolverState& state, const SolverInput& input) {
   const CellSet bivalue = state.CellsByCandidates().two;
   if (!bivalue.Several()) return false;

@@ -2,6 +2,7 @@
 // Hidden single and naked single: the techniques that place a digit.
 #include <bit>
 
+#include "solver/combinations.h"
 #include "solver/describe.h"
 #include "solver/techniques.h"
 
@@ -29,7 +30,8 @@ void DescribeSingle(Finding& finding, int digit, int cell) {
 }  // namespace
 
 bool FindHiddenSingle(SolverState& state, const SolverInput& input) {
-  // Boxes first, then rows, then columns.
+  // Scan order: boxes, rows, columns; in a unit the lowest digit. Units where no digit has newly come down to
+  // one place need no look: what was passed over there before is passed over still.
   UnitMask& lone_units = state.LoneUnits();
   for (const UnitMask group : {kAllUnits & ~kRowAndColumnUnits, kRowAndColumnUnits}) {
     for (UnitMask rest = lone_units & group; rest != 0; rest &= rest - 1) {
@@ -37,7 +39,7 @@ bool FindHiddenSingle(SolverState& state, const SolverInput& input) {
       int cell = 0;
       const int digit = HiddenSingle(state, unit, cell);
       if (digit == 0) {
-        lone_units &= ~(rest & (~rest + 1));
+        lone_units &= ~LowestBit(rest);
         continue;
       }
       state.PlaceValue(digit, cell);

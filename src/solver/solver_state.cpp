@@ -86,7 +86,7 @@ SolverState::SolverState(const DigitGrid& digits, const MarkGrid& marks) {
   DeriveUnits();
 }
 
-// Fills units_ from cells_.
+// Fills units_ from cells_, which costs less than adding the candidates one by one.
 void SolverState::DeriveUnits() {
   for (unsigned d = 0; d < 9; ++d) {
     const std::array<PositionMask, kUnits> places = PlacesOf(cells_[d]);
@@ -158,6 +158,7 @@ bool SolverState::EliminateSeenByBoth(int a, int b, int digit) {
   return RemoveFrom(kUnitTables.peers[a] & kUnitTables.peers[b], digit);
 }
 
+// Called when a search asks for its list, so that a removal need not update all of the lists.
 void SolverState::PassOnChanges() {
   if (changed_units_ == 0) return;
   for (UnitMask& units : units_to_scan_) units |= changed_units_;

@@ -33,6 +33,8 @@ NineSets MasksOf(const SolverState& state, int unit) {
   return masks;
 }
 
+// Scan order: sets of digits in lexicographic order, without those placed in the unit. Exactly `size`
+// unsolved cells must lie within the set; a cell without any candidate counts as one of them.
 template <int size>
 bool FindNakedInUnit(SolverState& state, const SolverInput& input, int unit) {
   if (!MayHoldSubset<size>(MasksOf(state, unit))) return false;
@@ -59,6 +61,7 @@ bool FindNakedInUnit(SolverState& state, const SolverInput& input, int unit) {
   return false;
 }
 
+// Scan order: the same, over digits that have a place in the unit. Together they must have exactly `size`.
 template <int size>
 bool FindHiddenInUnit(SolverState& state, const SolverInput& input, int unit) {
   NineSets places;
@@ -89,6 +92,7 @@ bool FindHiddenInUnit(SolverState& state, const SolverInput& input, int unit) {
   });
 }
 
+// Both forms go through rows, columns and boxes in this order, which is the order of the units' numbers.
 template <int size>
 bool FindNaked(SolverState& state, const SolverInput& input, UnitScan scan) {
   UnitMask& to_scan = state.UnitsToScan(scan);

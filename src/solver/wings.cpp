@@ -94,6 +94,7 @@ bool EliminateSeenByThree(SolverState& state, int pivot, int wing_a, int wing_b,
   return state.RemoveFrom(peers[pivot] & peers[wing_a] & peers[wing_b], digit);
 }
 
+// Scan order: triples of digits in lexicographic order, pivots in cell order, wings by kWingUnits.
 bool FindXYWing(SolverState& state, const SolverInput& input) {
   const CellSet bivalue = state.CellsByCandidates().two;
   const CellSet pivots = ProductivePivots<false>(state, bivalue, bivalue);
@@ -102,11 +103,11 @@ bool FindXYWing(SolverState& state, const SolverInput& input) {
     for (const int pivot : pivots) {
       const CandidateMask mask = state.CellMask(pivot);
       if ((mask & ~triple) != 0) continue;
-      // The pivot's digits are p < q and the digit to remove is r: the wings are {p, r} and {q, r}, and the
-      // one that comes first is the lower as a set of digits, {x, z} before {y, z} and {x, z} before {x, y}
-      // for the pivot {y, z}.
+      // Which wing is the first depends on the pivot. With the triple x < y < z:
+      //   pivot {x,y}: wings {x,z}, {y,z}    {x,z}: {x,y}, {y,z}    {y,z}: {x,z}, {x,y}
+      // so it is the one with the pivot's lower digit, except when the digit to remove is x.
       const CandidateMask removed = triple & ~mask;
-      const CandidateMask low = mask & (~mask + 1);
+      const CandidateMask low = static_cast<CandidateMask>(LowestBit(mask));
       const CandidateMask high = mask & (mask - 1);
       const bool high_first = removed < low;
       const CandidateMask first = (high_first ? high : low) | removed;
@@ -117,6 +118,7 @@ bool FindXYWing(SolverState& state, const SolverInput& input) {
   return false;
 }
 
+// Scan order: triples, pivots, then the digit to remove from the lowest up, then the wings by kWingUnits.
 bool FindXYZWing(SolverState& state, const SolverInput& input) {
   const SolverState::CellsBySize cells = state.CellsByCandidates();
   const CellSet pivots = ProductivePivots<true>(state, cells.three, cells.two);
@@ -125,9 +127,9 @@ bool FindXYZWing(SolverState& state, const SolverInput& input) {
     for (const int pivot : CellsWithMask(state, pivots, triple)) {
       for (unsigned rest = triple; rest != 0; rest &= rest - 1) {
         // The digit to remove, then the other two in ascending order.
-        const auto removed = static_cast<CandidateMask>(rest & (~rest + 1));
+        const auto removed = static_cast<CandidateMask>(LowestBit(rest));
         const CandidateMask others = triple & ~removed;
-        const CandidateMask low = others & (~others + 1);
+        const CandidateMask low = static_cast<CandidateMask>(LowestBit(others));
         const CandidateMask high = others & ~low;
         if (TryWings<true>(state, input, pivot, cells.two, low | removed, high | removed)) return true;
       }
