@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <ranges>
 #include <set>
 #include <span>
 #include <tuple>
@@ -158,7 +159,8 @@ std::set<std::uint64_t> FillStock(std::uint64_t seed, MadeStock& made) {
       return {};
     }
     SetFloor(made.stock, level);
-    for (const PoolPuzzle& entry : chosen) {
+    // From the highest score down: filing puts a puzzle below its equals, so they stay in the chosen order.
+    for (const PoolPuzzle& entry : std::views::reverse(chosen)) {
       const RatedPuzzle puzzle = MakeRatedPuzzle(seed, entry.attempt, kLevels);
       Require(puzzle.level == level && puzzle.score == entry.score);
       const bool is_new = forms.insert(CanonicalForm(puzzle.givens, puzzle.solution)).second;

@@ -44,14 +44,12 @@ bool SettingsInMemory::Write(std::string_view section, std::string_view key, std
 }
 
 std::string SettingsPath(const GameOptions& options, const std::string& home, HostFiles& files) {
+  if (!home.empty()) (void)files.MakeFolders(home);
   if (!options.settings.empty()) {
     std::error_code error;
     return std::filesystem::absolute(options.settings, error).lexically_normal().string();
   }
-  if (!home.empty()) {
-    (void)files.MakeFolders(home);
-    return home + '\\' + std::string(kSettingsFile);
-  }
+  if (!home.empty()) return home + '\\' + std::string(kSettingsFile);
   const std::string folder = HostFolders::Settings() + '\\' + std::string(kSettingsFolder);
   // Where it cannot be made, the settings last for this run.
   (void)files.MakeFolders(folder);
