@@ -2,7 +2,7 @@
 // The files of the program as its logic sees them. Implemented by core/host_files.h.
 //
 // Paths are in the written form: the host's folder, then parts with backslashes between them; a folder ends
-// in a backslash ("/home/ann/.local/share\KestrelSudoku\sudstock.kpz"). Only the implementation turns
+// in a backslash ("/users/ann/.local/share\KestrelSudoku\sudstock.kpz"). Only the implementation turns
 // them into the host's form.
 #pragma once
 

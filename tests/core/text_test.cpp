@@ -65,11 +65,11 @@ TEST(Global, HelpersFollowTheirRules) {
   EXPECT_EQ(GetSpecialFolder(folders, kLocalAppData), "C:\\Data\\");
   EXPECT_EQ(GetSpecialFolder(folders, 27), "");
 
-  setenv("HOME", "/home/ann", 1);
+  setenv("HOME", "/users/ann", 1);
   setenv("XDG_DATA_HOME", "relative", 1);  // to be ignored
   setenv("XDG_CONFIG_HOME", "/etc/ann//", 1);
   HostFolders host;
-  EXPECT_EQ(GetSpecialFolder(host, kLocalAppData), "/home/ann/.local/share");
+  EXPECT_EQ(GetSpecialFolder(host, kLocalAppData), "/users/ann/.local/share");
   EXPECT_EQ(HostFolders::Settings(), "/etc/ann");
 }
 
