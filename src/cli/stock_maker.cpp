@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <ranges>
 #include <set>
 #include <span>
 #include <tuple>
@@ -160,9 +159,9 @@ std::set<std::uint64_t> FillStock(std::uint64_t seed, MadeStock& made) {
     }
     SetFloor(made.stock, level);
     // From the highest score down: filing puts a puzzle below its equals, so they stay in the chosen order.
-    for (const PoolPuzzle& entry : std::views::reverse(chosen)) {
-      const RatedPuzzle puzzle = MakeRatedPuzzle(seed, entry.attempt, kLevels);
-      Require(puzzle.level == level && puzzle.score == entry.score);
+    for (auto entry = chosen.rbegin(); entry != chosen.rend(); ++entry) {
+      const RatedPuzzle puzzle = MakeRatedPuzzle(seed, entry->attempt, kLevels);
+      Require(puzzle.level == level && puzzle.score == entry->score);
       const bool is_new = forms.insert(CanonicalForm(puzzle.givens, puzzle.solution)).second;
       if (!is_new || SolvableBelow(level, puzzle.givens)) unfit.insert(puzzle.attempt);
       FilePuzzle(made.stock, puzzle);

@@ -82,9 +82,12 @@ constexpr Crosses CrossOfFour(unsigned box, LineCounts rows, LineCounts columns)
     crosses.Add(row, columns.Only(2));
   } else if (const int column = columns.Only(3); column >= 0) {
     crosses.Add(rows.Only(2), column);
-  } else if (rows.Only(2) >= 0 && columns.Only(2) >= 0 &&
-             (box & BoxRow(rows.Only(2)) & BoxColumn(columns.Only(2))) == 0) {
-    crosses.Add(rows.Only(2), columns.Only(2));
+  } else {
+    const int row_of_two = rows.Only(2);
+    const int column_of_two = columns.Only(2);
+    if (row_of_two >= 0 && column_of_two >= 0 && (box & BoxRow(row_of_two) & BoxColumn(column_of_two)) == 0) {
+      crosses.Add(row_of_two, column_of_two);
+    }
   }
   return crosses;
 }

@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QToolTip>
 #include <cstdio>
+#include <memory>
 
 #include "ui/qt/command_line.h"
 #include "ui/qt/fonts.h"
@@ -54,7 +55,7 @@ int FrontEnd::TakeScreenshot(const std::string& file) {
 void SetUpLook() {
   InstallFontSubstitutes();
   InstallLabelAccess();
-  QApplication::setStyle(new CalmStyle);
+  QApplication::setStyle(std::make_unique<CalmStyle>().release());
   QApplication::setPalette(CalmPalette());
   QApplication::setFont(WindowFont());
   QToolTip::setPalette(CalmPalette());

@@ -28,7 +28,8 @@ void ShowCommon(QWidget& widget, const Control& now, const Control* before, cons
     widget.setToolTip(ToQString(now.tooltip));
     widget.setAccessibleDescription(ToQString(now.tooltip));
   }
-  const QString spoken = now.spoken.empty() ? caption : ToQString(now.spoken);
+  QString spoken = now.spoken.empty() ? caption : ToQString(now.spoken);
+  if (spoken.isEmpty()) spoken = ToQString(now.tooltip);
   if (widget.accessibleName() != spoken) widget.setAccessibleName(spoken);
   if (before == nullptr || now.visible != before->visible) widget.setVisible(now.visible);
 }
