@@ -51,7 +51,7 @@ inline PlayedGame PlayInMemory(MemoryFiles& files, std::string_view script, bool
   std::istringstream plain{std::string(script)};
   std::istream lines(answering ? static_cast<std::streambuf*>(&with_answers) : plain.rdbuf());
   const int status = ScriptRunner(options, files, yield, lines, output, errors).Run();
-  return {status, output.str()};
+  return {status, output.str() + errors.str()};
 }
 
 }  // namespace kestrel::fuzz

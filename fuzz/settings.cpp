@@ -7,9 +7,9 @@ namespace {
 
 constexpr std::string_view kScript =
     "var SelectedLevel\nvar PlayerCount\nvar CurrentPlayer\nget MainWindow.caption\npress OptionType(4)\n"
-    "press CommandNew\npress CommandSolution\npress chkSound\npress cmdPlayers\nselect Naamlijst 0\n"
-    "press KnopWijzigen\ntype NaamInvoerveld x\nkey NaamInvoerveld enter\npress KnopNieuweSpeler\n"
-    "type NaamInvoerveld Ann\nkey NaamInvoerveld enter\npress KnopOK\ndialog close\npress CommandNew\n";
+    "press CommandNew\npress CommandSolution\npress chkSound\npress cmdPlayers\npress KnopNieuweSpeler\n"
+    "type NaamInvoerveld Ann\nkey NaamInvoerveld enter\nselect Naamlijst 0\npress KnopWijzigen\n"
+    "type NaamInvoerveld x\nkey NaamInvoerveld enter\npress KnopOK\npress CommandNew\n";
 
 void TestOneInput(std::string_view input) {
   const SettingsText text(input);

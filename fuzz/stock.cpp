@@ -17,7 +17,7 @@ std::string PlayRecord(const SudokuRecord& record, int number) {
   std::string lines =
       "press CommandOpen\nanswer " + std::to_string(number) +
       "\nget StatusBar(3).caption\nget StatusBar(5).caption\npress CommandHint\npress LabelHint\n"
-      "dialog close\nmark 0 1\nmark 40 9 right\nrow 4\ncolumn 8\npress CommandHint\nsteps\n"
+      "mark 0 1\nmark 40 9 right\nrow 4\ncolumn 8\npress CommandHint\nsteps\n"
       "press CommandUndo\npress CommandRedo\npress CommandRestart\nclock 12:00:09\ntick\n";
   for (int cell = 0; cell < kCells; ++cell) {
     const int digit = DigitAt(record.SolutionCells, cell);
