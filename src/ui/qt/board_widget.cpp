@@ -2,7 +2,6 @@
 #include "ui/qt/board_widget.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -11,6 +10,7 @@
 
 #include "core/grid.h"
 #include "ui/qt/board_access.h"
+#include "ui/qt/form_window.h"
 #include "ui/qt/palette.h"
 #include "ui/qt/texts.h"
 
@@ -237,8 +237,7 @@ void BoardWidget::SendRelease(const BoardSpot& spot, MouseButton button, int x, 
 }
 
 void BoardWidget::Click(const BoardSpot& spot, MouseButton button) {
-  const QWidget* modal = QApplication::activeModalWidget();
-  if (!isVisible() || (modal != nullptr && modal != window())) return;
+  if (!isVisible() || BehindDialog(*this)) return;
   const int middle = spot.kind == BoardSpot::Kind::Mark ? kMarkPitch / 2 : kHeaderSize / 2;
   SendRelease(spot, button, middle, middle);
 }

@@ -2,6 +2,7 @@
 #include "ui/qt/form_window.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -32,6 +33,11 @@ WindowState StateOf(Qt::WindowStates states) {
 FormWindow::FormWindow(FormId form, bool modal, QWidget* parent)
     : QWidget(parent, FlagsFor(form)), form_(form) {
   if (modal) setWindowModality(Qt::ApplicationModal);
+}
+
+bool BehindDialog(const QWidget& widget) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return modal != nullptr && modal != widget.window();
 }
 
 bool FormWindow::CancelWaits() const {

@@ -11,6 +11,9 @@
 
 namespace kestrel {
 
+// True while a dialog or box that is not the widget's own window is open in front of it.
+[[nodiscard]] bool BehindDialog(const QWidget& widget);
+
 class FormWindow final : public QWidget {
  public:
   FormWindow(FormId form, bool modal, QWidget* parent);

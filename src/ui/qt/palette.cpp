@@ -77,7 +77,7 @@ QColor ToQColor(Colour colour, QRgb fallback) {
 
 QColor DisabledFace(const QColor& face) {
   const QColor pale(kDisabledButton);
-  const auto mix = [](int one, int other) { return (one + 3 * other) / 4; };
+  const auto mix = [](int one, int other) { return (one + 4 * other) / 5; };
   return {mix(face.red(), pale.red()), mix(face.green(), pale.green()), mix(face.blue(), pale.blue())};
 }
 

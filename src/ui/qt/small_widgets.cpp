@@ -56,6 +56,14 @@ QAccessibleInterface* MakeLabelInterface(const QString& /*class_name*/, QObject*
   return nullptr;
 }
 
+// The font, smaller where the digits would not fit: a step counter has room for four.
+void UseFontThatFits(QPainter& painter, QFont font, const QString& digits, int width) {
+  while (font.pixelSize() > 1 && QFontMetrics(font).horizontalAdvance(digits) > width) {
+    font.setPixelSize(font.pixelSize() - 1);
+  }
+  painter.setFont(font);
+}
+
 }  // namespace
 
 void InstallLabelAccess() {
@@ -88,13 +96,15 @@ void TextLabel::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(label_.enabled ? ToQColor(label_.fore, kText) : QColor(kDisabledText));
   const int padding = surface.Grid().Pixels(kPadding);
   if (ground) area.adjust(padding, 0, -padding, 0);
-  const int line_height = painter.fontMetrics().height();
-  if (area.height() >= 2 * line_height && !OnlyDigitsAndColon(caption_)) {
+  if (OnlyDigitsAndColon(caption_)) {
+    UseFontThatFits(painter, painter.font(), caption_, area.width());
+    return PaintText(painter, area, label_.align, caption_, Digits::OneWidth);
+  }
+  if (area.height() >= 2 * painter.fontMetrics().height()) {
     painter.drawText(area, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, caption_);
     return;
   }
-  PaintText(painter, area, label_.align, caption_,
-            OnlyDigitsAndColon(caption_) ? Digits::OneWidth : Digits::AsDesigned);
+  PaintText(painter, area, label_.align, caption_);
 }
 
 // ---- LinkLabel ----

@@ -250,6 +250,12 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
   }
 }
 
+// The whole control answers to the mouse, not only its text.
+QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+  if (element == SE_CheckBoxClickRect || element == SE_RadioButtonClickRect) return option->rect;
+  return QProxyStyle::subElementRect(element, option, widget);
+}
+
 QIcon CalmStyle::standardIcon(StandardPixmap standard, const QStyleOption* option,
                               const QWidget* widget) const {
   const std::optional<Sign> sign = SignOf(standard);

@@ -35,6 +35,12 @@ void ShowButton(QPushButton& widget, const Button& now, const Button* before) {
   if (before == nullptr || now.back != before->back) SetFace(widget, now.back);
 }
 
+// Of a group of options, the Tab key goes to the chosen one; the arrow keys go on from there.
+void SetTabStop(QRadioButton& widget) {
+  const auto stop = widget.isChecked() ? Qt::TabFocus : Qt::NoFocus;
+  widget.setFocusPolicy(static_cast<Qt::FocusPolicy>((widget.focusPolicy() & ~Qt::TabFocus) | stop));
+}
+
 void ShowOption(QRadioButton& widget, const OptionButton& now, const OptionButton* before) {
   if (before == nullptr || now.caption != before->caption) {
     widget.setText(WithMnemonic(now.caption, now.mnemonic));
@@ -44,6 +50,7 @@ void ShowOption(QRadioButton& widget, const OptionButton& now, const OptionButto
   widget.setAutoExclusive(false);
   widget.setChecked(now.value);
   widget.setAutoExclusive(true);
+  SetTabStop(widget);
 }
 
 void ShowCheckBox(QCheckBox& widget, const CheckBox& now, const CheckBox* before) {
@@ -147,6 +154,12 @@ void SetFocusPolicy(QWidget& widget, FormId form, int tab_index) {
   }
 }
 
+// What the user pressed, or an assistive tool, which sees no dialog in front.
+template <class Entry>
+void TellClick(const Entry& entry, const QWidget& widget) {
+  if (widget.isEnabled() && !BehindDialog(widget)) entry.Tell(EventKind::Click);
+}
+
 // A button pressed by its letter has not taken the focus; a text box must learn that it is left.
 void LeaveTextBox(QWidget& pressed) {
   if (dynamic_cast<TextField*>(pressed.window()->focusWidget()) != nullptr) pressed.setFocus();
@@ -162,7 +175,8 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
   auto* widget = new LinkLabel(parent);
   auto mirrored = std::make_unique<Mirrored<Label, LinkLabel>>(context.form, id, context.sink, control,
                                                                *widget, ShowLink);
-  QObject::connect(widget, &LinkLabel::clicked, [entry = mirrored.get()] { entry->Tell(EventKind::Click); });
+  QObject::connect(widget, &LinkLabel::clicked,
+                   [entry = mirrored.get(), widget] { TellClick(*entry, *widget); });
   return mirrored;
 }
 
@@ -177,7 +191,7 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
   SetFocusPolicy(*widget, context.form, control.tab_index);
   QObject::connect(widget, &QPushButton::clicked, [entry = mirrored.get(), widget] {
     LeaveTextBox(*widget);
-    if (widget->isEnabled()) entry->Tell(EventKind::Click);
+    TellClick(*entry, *widget);
   });
   return mirrored;
 }
@@ -187,9 +201,12 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
   auto mirrored = std::make_unique<Mirrored<OptionButton, QRadioButton>>(context.form, id, context.sink,
                                                                          control, *widget, ShowOption);
   SetFocusPolicy(*widget, context.form, control.tab_index);
-  QObject::connect(widget, &QRadioButton::clicked,
-                   [entry = mirrored.get(), widget, id, unchoose = context.unchoose_others] {
-                     if (entry->Control().value) return;
+  SetTabStop(*widget);
+  // Not clicked(): assistive tools toggle without clicking.
+  QObject::connect(widget, &QRadioButton::toggled,
+                   [entry = mirrored.get(), widget, id, unchoose = context.unchoose_others](bool checked) {
+                     SetTabStop(*widget);
+                     if (!checked || entry->Control().value) return;
                      LeaveTextBox(*widget);
                      unchoose(id);
                      entry->UserChanged(&OptionButton::value, true, EventKind::Click);
@@ -202,7 +219,7 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
   auto mirrored = std::make_unique<Mirrored<CheckBox, QCheckBox>>(context.form, id, context.sink, control,
                                                                   *widget, ShowCheckBox);
   SetFocusPolicy(*widget, context.form, control.tab_index);
-  QObject::connect(widget, &QCheckBox::clicked, [entry = mirrored.get(), widget](bool checked) {
+  QObject::connect(widget, &QCheckBox::toggled, [entry = mirrored.get(), widget](bool checked) {
     LeaveTextBox(*widget);
     entry->UserChanged(&CheckBox::value, checked, EventKind::Click);
   });
@@ -279,7 +296,7 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
   auto mirrored = std::make_unique<Mirrored<Picture, PictureButton>>(context.form, id, context.sink, control,
                                                                      *widget, ShowPicture);
   QObject::connect(widget, &PictureButton::clicked,
-                   [entry = mirrored.get()] { entry->Tell(EventKind::Click); });
+                   [entry = mirrored.get(), widget] { TellClick(*entry, *widget); });
   return mirrored;
 }
 

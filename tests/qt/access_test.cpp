@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+// The window as assistive tools see it: a game played through the accessibility interface alone.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <stdexcept>
+
+#include "qt/qt_game.h"
+
+namespace kestrel::testing {
+namespace {
+
+QAccessibleInterface& Access(QtGame& game, std::string_view name) {
+  QAccessibleInterface* access = QAccessible::queryAccessibleInterface(game.Object(name));
+  if (access == nullptr) throw std::runtime_error(std::string(name) + " cannot be reached");
+  return *access;
+}
+
+std::string Name(QtGame& game, std::string_view name) {
+  return Access(game, name).text(QAccessible::Name).toStdString();
+}
+
+QStringList Actions(QtGame& game, std::string_view name) {
+  return Access(game, name).actionInterface()->actionNames();
+}
+
+void Do(QtGame& game, std::string_view name, const QString& action) {
+  Access(game, name).actionInterface()->doAction(action);
+  game.Settle();
+}
+
+QString Press() {
+  return QAccessibleActionInterface::pressAction();
+}
+
+TEST(Access, CellsReadAsTheyStand) {
+  QtGame game(3);
+  MainWindow& main = game.Main();
+  const int cell = 24;  // row C, column 7
+  main.Grid(cell).caption = "";
+  for (int d = 1; d <= 9; ++d) main.Mark(d)(cell).visible = d == 2 || d == 6 || d == 8;
+  EXPECT_EQ(Name(game, "Grid(24)"), "row C column 7, empty, marks 2 6 8");
+  main.Grid(cell).fore = kWindowTextColour;
+  main.Grid(cell).caption = "6";
+  EXPECT_EQ(Name(game, "Grid(24)"), "row C column 7, 6");
+  main.Grid(cell).fore = kDarkBlue;
+  EXPECT_EQ(Name(game, "Grid(24)"), "row C column 7, given 6");
+  EXPECT_EQ(Name(game, "Mark5(24)"), "mark 5, row C column 7");
+  EXPECT_EQ(Name(game, "LabelRow(8)"), "row J");
+}
+
+TEST(Access, TreeLeadsToEveryMarkAndBack) {
+  QtGame game(3);
+  QAccessibleInterface* board = QAccessible::queryAccessibleInterface(game.front_end.Windows().Board());
+  int marks = 0;
+  for (int i = 0; i < board->childCount(); ++i) {
+    QAccessibleInterface* item = board->child(i);
+    EXPECT_TRUE(item->parent() == board && board->indexOfChild(item) == i) << i;
+    for (int k = 0; k < item->childCount(); ++k, ++marks) {
+      EXPECT_TRUE(item->child(k)->parent() == item && item->indexOfChild(item->child(k)) == k) << i;
+    }
+  }
+  EXPECT_EQ(marks, 729);
+  // What is under a point is what the mouse would reach there.
+  QAccessibleInterface* mark = &Access(game, game.NextMark());
+  EXPECT_EQ(board->childAt(mark->rect().center().x(), mark->rect().center().y()), mark);
+}
+
+TEST(Access, MarksOfferTheirActions) {
+  QtGame medium(3);
+  const std::string name = medium.NextMark();
+  EXPECT_EQ(Actions(medium, name), QStringList({Press(), "discard"}));
+  Do(medium, name, "discard");
+  EXPECT_EQ(medium.State().history.StepCount(), 1);
+  EXPECT_TRUE(Access(medium, name).state().invisible);
+  EXPECT_TRUE(Actions(medium, name).isEmpty());
+  Do(medium, name, Press());
+  EXPECT_EQ(medium.State().history.StepCount(), 1);
+
+  QtGame easy(2);
+  EXPECT_EQ(Actions(easy, easy.NextMark()), QStringList({Press()}));
+  QtGame closed;
+  EXPECT_TRUE(Actions(closed, "Mark1(0)").isEmpty());
+  EXPECT_TRUE(Access(closed, "Mark1(0)").state().disabled);
+}
+
+TEST(Access, PlaysAGameToTheEnd) {
+  QtGame game;
+  Do(game, "OptionType(3)", QAccessibleActionInterface::toggleAction());
+  Do(game, "CommandNew", Press());  // shows the pressed button for a moment before it acts
+  ASSERT_TRUE(game.WaitFor([&] { return game.State().puzzle.PuzzleLevel == 3; }));
+  Do(game, "LabelColumn(4)", Press());
+  EXPECT_TRUE(Access(game, "LabelColumn(4)").state().selected);
+  while (game.EmptyCell() >= 0) Do(game, game.NextMark(), Press());
+  EXPECT_TRUE(game.State().clock.ClockStopped);
+}
+
+// Everything that can be seen has a name to be read, and a role that says what it is.
+TEST(Access, EveryControlIsNamed) {
+  QtGame game(3);
+  game.ClickControl("CommandHint");
+  EachControl(game.Main(), [&](ControlId id, auto& control) {
+    using Kind = std::remove_cvref_t<decltype(control)>;
+    if constexpr (!std::is_same_v<Kind, Window> && !std::is_same_v<Kind, Timer>) {
+      if (!control.visible) return;
+      EXPECT_NE(Name(game, FullName(id)), "") << FullName(id);
+      const bool button = std::is_same_v<Kind, Button> || id.name == "RenewLevel" || id.name == "LabelHint";
+      const QAccessible::Role role = Access(game, FullName(id)).role();
+      EXPECT_TRUE(button ? role == QAccessible::Button : role != QAccessible::NoRole) << FullName(id);
+    }
+  });
+  EXPECT_EQ(Name(game, "LabelCount(22)").substr(0, 15), "Hidden Single: ");
+  EXPECT_EQ(Name(game, "RenewLevel(4)"), "Renew Level: Hard");
+}
+
+// Assistive tools press nothing behind a dialog.
+TEST(Access, StopsAtDialogs) {
+  QtGame game(3);
+  game.Expect([&game](QWidget& dialog) {
+    Do(game, game.NextMark(), Press());
+    EXPECT_EQ(game.State().history.StepCount(), 0);
+    Do(game, "RenewLevel(5)", Press());  // would ask
+    Do(game, "CommandSolution", Press());
+    game.WaitFor([&] { return game.State().clock.ClockStopped; }, 300);
+    EXPECT_FALSE(game.State().clock.ClockStopped);
+    dialog.close();
+  });
+  game.ClickControl("cmdPlayers");
+  EXPECT_EQ(game.StillExpected(), 0U);
+}
+
+}  // namespace
+}  // namespace kestrel::testing

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+// The board under a real mouse: which press reaches which mark, and what is painted again for it.
+#include <gtest/gtest.h>
+
+#include <QPaintEvent>
+#include <QTest>
+
+#include "qt/qt_game.h"
+
+namespace kestrel::testing {
+namespace {
+
+// Adds up what is painted on a widget.
+class PaintWatch final : public QObject {
+ public:
+  explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) painted += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+  QRegion painted;
+};
+
+// An open puzzle, and the mark that solves its first empty cell.
+struct Play {
+  explicit Play(int level) : game(level) {}
+  QtGame game;
+  int cell = game.EmptyCell();
+  int digit = game.SolutionOf(cell);
+  QPoint corner = QtGame::Corner(game.Main().Mark(digit)(cell));
+  QPoint middle = corner + QPoint(8, 8);
+  [[nodiscard]] int Steps() { return game.State().history.StepCount(); }
+  [[nodiscard]] int Digit() { return game.State().puzzle.CurrentDigits[cell]; }
+};
+
+TEST(Board, CountsAReleaseOnlyInsideTheMark) {
+  Play play(3);
+  // Both borders are strict; the 17th pixel already belongs to the next mark.
+  for (const QPoint missed : {QPoint(0, 8), QPoint(8, 0), QPoint(16, 8), QPoint(8, 16), QPoint(-20, 8)}) {
+    play.game.Press(play.middle);
+    play.game.Release(play.corner + missed);
+    EXPECT_EQ(play.Steps(), 0) << missed.x() << "," << missed.y();
+  }
+  // A press beside the mark is not its press, wherever the button is let go.
+  play.game.Press(play.corner - QPoint(0, 30));
+  play.game.Release(play.middle);
+  EXPECT_EQ(play.Digit(), 0);
+  play.game.Click(play.middle, Qt::MiddleButton);
+  EXPECT_EQ(play.Steps(), 0);
+  play.game.Press(play.corner + QPoint(1, 1));
+  play.game.Release(play.corner + QPoint(15, 15));
+  EXPECT_EQ(play.Steps(), 1);
+  EXPECT_EQ(play.Digit(), play.digit);
+}
+
+TEST(Board, GivesTheOverlapToTheLaterMark) {
+  Play play(1);
+  const QPoint first = QtGame::Corner(play.game.Main().Mark(1)(play.cell));
+  // Pixel 16 of mark 1 is pixel 0 of mark 2, which gets the press and the release that follows.
+  play.game.Press(first + QPoint(16, 8));
+  play.game.Release(first + QPoint(20, 8));
+  EXPECT_EQ(play.Digit(), 2);
+}
+
+TEST(Board, DiscardsWithTheRightButtonFromMediumOn) {
+  Play easy(2);
+  easy.game.Click(easy.middle, Qt::RightButton);
+  EXPECT_EQ(easy.Steps(), 0);
+
+  Play medium(3);
+  medium.game.Click(medium.middle, Qt::RightButton);
+  EXPECT_FALSE(medium.game.Main().Mark(medium.digit)(medium.cell).visible);
+  EXPECT_EQ(medium.Steps(), 1);
+  // A hidden mark gets nothing.
+  medium.game.Click(medium.middle);
+  EXPECT_EQ(medium.Steps(), 1);
+}
+
+TEST(Board, KeepsTheFirstPressWhileAnyButtonIsDown) {
+  Play play(3);
+  play.game.Press(play.middle, Qt::MiddleButton);
+  play.game.Press(QtGame::Corner(play.game.Main().LabelRow(2)) + QPoint(17, 17), Qt::LeftButton);
+  play.game.Release(play.middle, Qt::LeftButton);
+  EXPECT_EQ(play.Digit(), play.digit);
+  // By now the mark is hidden and gets nothing more.
+  play.game.Release(play.middle, Qt::MiddleButton);
+  EXPECT_EQ(play.Steps(), 1);
+  EXPECT_EQ(play.game.State().SelectedRow, 9);
+}
+
+TEST(Board, IsDeafWhileNoPuzzleIsOpen) {
+  QtGame game;
+  game.ClickMark(40, 5);
+  EXPECT_EQ(game.State().history.StepCount(), 0);
+  // Headers answer all the same.
+  const QPoint header = QtGame::Corner(game.Main().LabelRow(2)) + QPoint(17, 17);
+  game.Press(header);
+  game.Release(header + QPoint(17, 0));
+  EXPECT_EQ(game.State().SelectedRow, 9);
+  game.Click(header);
+  EXPECT_EQ(game.State().SelectedRow, 2);
+}
+
+TEST(Board, ShowsWhatCanBeClicked) {
+  Play play(3);
+  const auto hover = [&](QPoint point) {
+    QTest::mouseMove(play.game.Window().windowHandle(), point);
+    play.game.Settle();
+    return play.game.front_end.Windows().Board()->cursor().shape();
+  };
+  EXPECT_EQ(hover(play.middle), Qt::PointingHandCursor);
+  EXPECT_EQ(hover(play.corner + QPoint(0, 8)), Qt::ArrowCursor);
+  // A mark that goes takes the hand with it.
+  hover(play.middle);
+  play.game.Click(play.middle, Qt::RightButton);
+  EXPECT_EQ(play.game.front_end.Windows().Board()->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST(Board, PaintsOnlyWhatChanged) {
+  Play play(3);
+  BoardWidget& board = *play.game.front_end.Windows().Board();
+  QTest::mouseMove(play.game.Window().windowHandle(), QPoint(1, 1));
+  play.game.Settle();
+  PaintWatch watch(board);
+  play.game.front_end.Windows().Sync();
+  play.game.Settle();
+  EXPECT_TRUE(watch.painted.isEmpty());
+
+  play.game.Click(play.middle, Qt::RightButton);
+  // The mark, and at fractional scales the pixels it shares with its neighbours.
+  const QRect mark = board.PlaceOf(play.game.Main().Mark(play.digit)(play.cell)).adjusted(-1, -1, 1, 1);
+  EXPECT_FALSE(watch.painted.isEmpty());
+  EXPECT_TRUE((watch.painted - mark).isEmpty());
+
+  watch.painted = QRegion();
+  play.game.clock.now += 61;
+  EXPECT_TRUE(play.game.WaitFor([&] { return play.game.Main().LabelTijd.caption == "01:01"; }));
+  EXPECT_TRUE(watch.painted.isEmpty());
+}
+
+}  // namespace
+}  // namespace kestrel::testing

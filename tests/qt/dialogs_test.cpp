@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+// Boxes and dialogs with real keys and clicks.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSlider>
+#include <QTest>
+
+#include "qt/qt_game.h"
+
+namespace kestrel::testing {
+namespace {
+
+// Types over what is in a field.
+void Type(QLineEdit& field, const char* text) {
+  field.setFocus();
+  field.selectAll();
+  QTest::keyClicks(&field, text);
+}
+
+TEST(Dialogs, QuitBoxIsToTheLetter) {
+  QtGame game(3);
+  const auto close = [&game](EndReason expected) {
+    game.Window().close();
+    game.Settle();
+    EXPECT_TRUE(game.Window().isVisible());
+    EXPECT_EQ(game.front_end.TheGame().End(), expected);
+  };
+  game.Expect([](QWidget& widget) {
+    auto* box = qobject_cast<QMessageBox*>(&widget);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->text(), "Do you really want to quit ?");
+    EXPECT_EQ(box->windowTitle(), "Quit Kestrel Sudoku");
+    EXPECT_EQ(box->icon(), QMessageBox::Question);
+    ASSERT_EQ(box->buttons().size(), 2);
+    EXPECT_EQ(box->buttons()[0]->text() + box->buttons()[1]->text(), "&Yes&No");
+    QTest::keyClick(box, Qt::Key_Escape);
+  });
+  close(EndReason::None);
+  game.Expect([](QWidget& box) { box.close(); });
+  close(EndReason::None);
+  game.ExpectBox("Quit Kestrel Sudoku", "Yes");
+  close(EndReason::Quit);
+}
+
+TEST(Dialogs, OpenAsksUntilTheNumberFits) {
+  QtGame game;
+  game.Expect([](QWidget& box) {
+    EXPECT_EQ(box.windowTitle(), "Sudoku number");
+    auto* field = box.findChild<QLineEdit*>();
+    EXPECT_EQ(field->selectedText(), "1");
+    QTest::keyClicks(field, "101");
+    PressCaption(box, "OK");
+  });
+  game.Expect([](QWidget& box) {
+    auto* field = box.findChild<QLineEdit*>();
+    QTest::keyClicks(field, "42");
+    QTest::keyClick(field, Qt::Key_Return);
+  });
+  game.ClickControl("CommandOpen");
+  EXPECT_EQ(game.State().puzzle.PuzzleNumber, 42);
+  game.ClickControl("CommandSolution");
+  game.Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+  game.ClickControl("CommandOpen");
+  EXPECT_EQ(game.State().puzzle.PuzzleNumber, 42);
+}
+
+TEST(Dialogs, PlayersAreTypedAndChosen) {
+  QtGame game;
+  game.Expect([&game](QWidget& dialog) {
+    FormNamen& form = game.Controls().names;
+    auto* list = dialog.findChild<QListWidget*>("Naamlijst");
+    auto* field = dialog.findChild<QLineEdit*>("NaamInvoerveld");
+    EXPECT_EQ(dialog.focusWidget(), list);
+    game.ClickControl("KnopNieuweSpeler");
+    EXPECT_EQ(dialog.focusWidget(), field);
+    game.Expect([&dialog](QWidget& box) {
+      EXPECT_EQ(box.parentWidget(), &dialog);
+      EXPECT_EQ(box.windowTitle(), "Loss of memory ?");
+      PressCaption(box, "OK");
+    });
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(game.StillExpected(), 0U);
+    Type(*field, "A name that is too long");
+    EXPECT_EQ(form.NaamInvoerveld.text, "A name that is t");
+    // While a name is typed, Escape belongs to the box, and so does Enter.
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(field->text(), "");
+    game.ClickControl("KnopNieuweSpeler");
+    Type(*field, "Zo");
+    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_Ediaeresis, QString::fromUtf8("\u00eb"), Qt::NoModifier);
+    QTest::keyClick(field, Qt::Key_Return);
+    ASSERT_EQ(list->count(), 1);
+    list->clearSelection();
+    EXPECT_FALSE(form.KnopOK.enabled);
+    const QPoint line = list->visualItemRect(list->item(0)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, line);
+    EXPECT_TRUE(form.KnopOK.enabled);
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, line);
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  game.ClickControl("cmdPlayers");
+  EXPECT_EQ(game.State().players.CurrentPlayer, 1);
+  EXPECT_EQ(game.Window().windowTitle(), QString::fromUtf8("Kestrel Sudoku - Zo\u00eb is playing"));
+  // Escape is the cancel button's again.
+  game.Expect([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+  game.ClickControl("cmdPlayers");
+  EXPECT_EQ(game.State().players.CurrentPlayer, 1);
+}
+
+TEST(Dialogs, PrintChoicesAnswerToKeysAndMouse) {
+  QtGame game(2);
+  game.Expect([&game](QWidget& dialog) {
+    FormPrint& form = game.Controls().print;
+    auto* from = dialog.findChild<QLineEdit*>("TextFrom");
+    Type(*from, "9x9");
+    EXPECT_EQ(form.TextFrom.text, "99");
+    game.ClickControl("OptionAantal(2)");
+    EXPECT_EQ(from->text(), "97");
+    QTest::keyClick(dialog.findChild<QSlider*>("PageSlider"), Qt::Key_Right);
+    EXPECT_EQ(from->text(), "93");
+    // Enter checks the range and prints nothing; so does leaving the box by a button's letter.
+    Type(*from, "0");
+    QTest::keyClick(from, Qt::Key_Return);
+    EXPECT_EQ(from->text(), "1");
+    Type(*from, "98");
+    game.ClickControl("CheckPencils");
+    EXPECT_EQ(from->text(), "93");
+    EXPECT_FALSE(form.CheckPencils.value);
+    QTest::keyClick(dialog.findChild<QComboBox*>("SudokuTypeKeuze"), Qt::Key_Down);
+    EXPECT_EQ(form.SudokuTypeKeuze.index, 2);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  game.ClickControl("CommandPrint");
+  EXPECT_EQ(game.State().print_dialog.Remembered().first_number, 93);
+}
+
+TEST(Dialogs, KeyboardReachesTheCommands) {
+  QtGame game;
+  QTest::keyClick(&game.Window(), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), game.Widget("OptionType(2)"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+  EXPECT_EQ(game.State().SelectedLevel, 3);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), game.Widget("CommandNew"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  game.Settle();
+  EXPECT_EQ(game.State().puzzle.PuzzleLevel, 3);
+  // By its letter, wherever the focus is.
+  QTest::keyClick(&game.Window(), Qt::Key_T, Qt::AltModifier);
+  EXPECT_TRUE(game.WaitFor([&] { return game.State().clock.ClockStopped; }));
+  // A link is pressed by Enter, too.
+  game.ExpectBox("Renew Selected Set of Sudokus", "Cancel");
+  QWidget* link = game.Widget("RenewLevel(5)");
+  link->setFocus();
+  QTest::keyClick(link, Qt::Key_Return);
+  EXPECT_EQ(game.State().RenewingLevel, 0);
+  EXPECT_EQ(game.StillExpected(), 0U);
+}
+
+}  // namespace
+}  // namespace kestrel::testing

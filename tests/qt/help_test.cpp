@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+// Help window, sounds and web link on this host.
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <QTest>
+
+#include "media/help.h"
+#include "qt/qt_game.h"
+#include "ui/qt/help_view.h"
+
+namespace kestrel::testing {
+namespace {
+
+TEST(Help, FollowsPagesForwardAndBack) {
+  QtGame game(3);
+  std::filesystem::create_directory(game.program_folder.Path("help"));
+  game.program_folder.Put("help/index.html",
+                          "<html><body><a href=\"naked_single.html\">Naked Single</a></body></html>");
+  game.program_folder.Put("help/naked_single.html", "<html><body>One candidate left</body></html>");
+  game.ClickControl("CommandHelp");
+  FormWindow& window = game.front_end.Windows().WindowOf(FormId::Browser);
+  HelpView& view = *game.front_end.Windows().Help();
+  EXPECT_TRUE(window.isMaximized());
+  EXPECT_EQ(window.windowTitle(), "Kestrel Sudoku - Help");
+  EXPECT_EQ(view.toPlainText(), "Naked Single");
+  // The game goes on beside it.
+  game.ClickMark(game.EmptyCell(), game.SolutionOf(game.EmptyCell()));
+  EXPECT_EQ(game.State().history.StepCount(), 1);
+
+  QTest::keyClick(&view, Qt::Key_Tab);
+  QTest::keyClick(&view, Qt::Key_Return);
+  EXPECT_EQ(view.toPlainText(), "One candidate left");
+  EXPECT_FALSE(window.findChild<QPushButton*>("HelpForward")->isEnabled());
+  for (const auto& [button, page] : {std::pair{"HelpBack", "Naked Single"},
+                                     {"HelpForward", "One candidate left"},
+                                     {"HelpContents", "Naked Single"}}) {
+    window.findChild<QPushButton*>(button)->click();
+    EXPECT_EQ(view.toPlainText(), page) << button;
+  }
+
+  // A page that is missing has an error page of the view's own.
+  view.Navigate(std::string(kHelpFolder) + "swordfish.html");
+  EXPECT_TRUE(view.toPlainText().startsWith("This page is missing"));
+  EXPECT_TRUE(view.toPlainText().contains("swordfish.html"));
+
+  window.setWindowState(Qt::WindowNoState);
+  window.resize(QSize(640, 480));
+  game.Settle();
+  EXPECT_EQ(view.size(), QSize(640 - 255 / 15, 480 - 525 / 15));
+  EXPECT_EQ(game.Controls().browser.WebBrowser1.width, 640 * 15 - 255);
+  window.close();
+  EXPECT_FALSE(game.Controls().browser.window.open);
+}
+
+TEST(Sound, RefusesWhatIsNoWaveFile) {
+  const TempFolder folder;
+  const auto number = [](std::uint32_t value) {
+    std::string bytes;
+    for (int i = 0; i < 4; ++i) bytes += static_cast<char>(value >> (8 * i) & 255U);
+    return bytes;
+  };
+  const std::string format = "fmt " + number(16) + std::string(16, '\1');
+  const std::string samples = "data" + number(8) + std::string(8, '\0');
+  const auto wave = [&](const std::string& chunks) { return "RIFF" + number(100) + "WAVE" + chunks; };
+  const std::pair<std::string, bool> kFiles[] = {
+      {wave(format + samples), true},
+      {wave("LIST" + number(3) + "abc" + '\0' + format + samples), true},  // a chunk of odd length
+      {"", false},
+      {"These are not the sounds you are looking for.", false},
+      {wave(samples), false},
+      {wave(format), false},
+      {wave(format + samples).substr(0, 48), false},
+      {wave(format + "data" + number(0)), false},
+  };
+  QtSoundDevice device;
+  for (const auto& [content, good] : kFiles) {
+    folder.Put("sound.wav", content);
+    EXPECT_EQ(device.Load(folder.Written("sound.wav")) >= 0, good) << content;
+  }
+  EXPECT_LT(device.Load(folder.Written("missing.wav")), 0);
+  // Ids that no file got do nothing.
+  device.Play(-1);
+  device.Play(7);
+}
+
+TEST(Shell, GoesByTheDesktopsChoice) {
+  const TempFolder folder;
+  const QByteArray path = qgetenv("PATH");
+  qputenv("PATH", QByteArray::fromStdString(folder.Path().string()));
+  qunsetenv("BROWSER");
+  const auto put = [&](const char* name, const std::string& script) {
+    folder.Put(name, "#!/bin/sh\n" + script + "\n");
+    std::filesystem::permissions(folder.Path(name), std::filesystem::perms::owner_all);
+  };
+  QtShell shell;
+  EXPECT_FALSE(shell.FindExecutable("x\\temphtm.HTM").has_value());
+  const std::string log = folder.Path("log").string();
+  put("xdg-open", "echo \"$1\" > " + log);
+  put("xdg-mime", "true");
+  EXPECT_FALSE(shell.FindExecutable("x\\temphtm.HTM").has_value());
+  put("xdg-mime", "echo browser.desktop");
+  EXPECT_EQ(shell.FindExecutable("x\\temphtm.HTM"), folder.Path("xdg-open").string());
+  EXPECT_TRUE(shell.Open(folder.Path("xdg-open").string(), "https://kestrel-sudoku.example/"));
+  const std::string expected = "https://kestrel-sudoku.example/\n";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return folder.Get("log") == expected; }, kPatience));
+  EXPECT_FALSE(shell.Open(folder.Path("no-such-program").string(), "https://kestrel-sudoku.example/"));
+  qputenv("PATH", path);
+}
+
+}  // namespace
+}  // namespace kestrel::testing
