@@ -69,6 +69,11 @@ TEST(Start, FindsSettingsAndData) {
   EXPECT_TRUE(std::filesystem::is_directory(home));
   options.settings = "/elsewhere/my.ini";
   EXPECT_EQ(SettingsPath(options, home, stored.files), "/elsewhere/my.ini");
+  const std::string new_user = stored.folder.Path("user/.local/share").string();
+  setenv("XDG_DATA_HOME", new_user.c_str(), 1);
+  (void)SettingsPath(options, "", stored.files);
+  unsetenv("XDG_DATA_HOME");
+  EXPECT_TRUE(std::filesystem::is_directory(new_user));
 }
 
 TEST(Start, KeepsThePictureTakersSettingsToItself) {

@@ -44,7 +44,9 @@ bool SettingsInMemory::Write(std::string_view section, std::string_view key, std
 }
 
 std::string SettingsPath(const GameOptions& options, const std::string& home, HostFiles& files) {
-  if (!home.empty()) (void)files.MakeFolders(home);
+  // The game makes its own folder in this one, but not this one, which a new user may not have yet.
+  std::string data;
+  if (HomeFolders(home).Find(kLocalAppData, data)) (void)files.MakeFolders(data);
   if (!options.settings.empty()) {
     std::error_code error;
     return std::filesystem::absolute(options.settings, error).lexically_normal().string();

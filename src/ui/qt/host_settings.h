@@ -42,7 +42,7 @@ class SettingsInMemory final : public Settings {
 };
 
 // The settings file in the written form: the one of the command line, the one in `home`, or the one in the
-// user's configuration folder. Makes home and that folder where they are missing.
+// user's configuration folder. Makes that folder and the one of the user's data where they are missing.
 std::string SettingsPath(const GameOptions& options, const std::string& home, HostFiles& files);
 
 // The scale of the command line, which is remembered, or else the one remembered; 1 where that makes no
