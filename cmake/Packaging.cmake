@@ -9,13 +9,32 @@ foreach(program kestrel-sudoku kestrel-sudoku-cli kestrel-sudoku-script)
   endif()
 endforeach()
 
-install(FILES docs/man/kestrel-sudoku-cli.1 docs/man/kestrel-sudoku-script.1
-        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+# Man pages and the list of changes are installed compressed, without a time stamp in them.
+find_program(KESTREL_GZIP gzip)
+function(kestrel_install_text file name folder)
+  if(KESTREL_GZIP)
+    set(packed ${PROJECT_BINARY_DIR}/packed/${name}.gz)
+    add_custom_command(OUTPUT ${packed} COMMAND ${KESTREL_GZIP} -9nc ${PROJECT_SOURCE_DIR}/${file} > ${packed}
+                       DEPENDS ${file})
+    add_custom_target(pack-${name} ALL DEPENDS ${packed})
+    install(FILES ${packed} DESTINATION ${folder})
+  else()
+    install(FILES ${file} DESTINATION ${folder} RENAME ${name})
+  endif()
+endfunction()
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/packed)
+set(kestrel_pages kestrel-sudoku-cli.1 kestrel-sudoku-script.1)
 if(TARGET kestrel-sudoku)
-  install(FILES docs/man/kestrel-sudoku.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+  list(APPEND kestrel_pages kestrel-sudoku.6)
 endif()
+foreach(page IN LISTS kestrel_pages)
+  string(REGEX REPLACE ".*[.]" "man" section ${page})
+  kestrel_install_text(docs/man/${page} ${page} ${CMAKE_INSTALL_MANDIR}/${section})
+endforeach()
+kestrel_install_text(CHANGELOG.md changelog ${CMAKE_INSTALL_DOCDIR})
 
 install(FILES data/sudstock.kpz DESTINATION ${kestrel_share})
+# The icons and the logo travel inside the program; examples are what the help pages are made from.
 install(DIRECTORY data/ DESTINATION ${kestrel_share} FILES_MATCHING PATTERN "*.wav" PATTERN "*.GIF"
         PATTERN "*.html" PATTERN "*.css" PATTERN "*.png" PATTERN "icons" EXCLUDE PATTERN "examples" EXCLUDE)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
@@ -32,16 +51,48 @@ if(TARGET kestrel-sudoku)
   endforeach()
 endif()
 
+# Each description is checked by its validator, where that is installed.
+if(KESTREL_TESTS)
+  set(packaging ${PROJECT_SOURCE_DIR}/packaging)
+  find_program(KESTREL_DESKTOP_FILE_VALIDATE desktop-file-validate)
+  find_program(KESTREL_APPSTREAMCLI appstreamcli)
+  find_program(KESTREL_MANDOC mandoc)
+  if(KESTREL_DESKTOP_FILE_VALIDATE)
+    add_test(NAME package.desktop_file COMMAND ${KESTREL_DESKTOP_FILE_VALIDATE} ${packaging}/${kestrel_id}.desktop)
+  endif()
+  if(KESTREL_APPSTREAMCLI)
+    add_test(NAME package.metainfo COMMAND ${KESTREL_APPSTREAMCLI} validate --no-net
+                                           ${packaging}/${kestrel_id}.metainfo.xml)
+  endif()
+  if(KESTREL_MANDOC)
+    file(GLOB pages ${PROJECT_SOURCE_DIR}/docs/man/*)
+    add_test(NAME package.man_pages COMMAND ${KESTREL_MANDOC} -T lint -W warning ${pages})
+  endif()
+  add_test(NAME package.metainfo_tells_this_version
+           COMMAND grep -m 1 -F "<release version=\"${PROJECT_VERSION}\"" ${packaging}/${kestrel_id}.metainfo.xml)
+endif()
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME kestrel-sudoku)
 set(CPACK_PACKAGE_VENDOR "The Kestrel Sudoku authors")
 set(CPACK_PACKAGE_CONTACT "The Kestrel Sudoku authors <maintainers@kestrel-sudoku.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Sudoku with a logic solver that rates, hints and teaches")
+set(CPACK_PACKAGE_DESCRIPTION "500 puzzles in five levels, rated by a solver that knows 22 human solving
+techniques and never guesses. It gives hints on the player's own pencil marks
+and opens the help page of the technique; a level that is played out can be
+renewed. A command line program rates, solves step by step, makes and prints
+puzzles.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation")
+# What the linker does not see. The plugins for X11, for no display, for sound and for printers are in the packages of
+# the Qt libraries themselves; xdg-open shows the web link.
+if(TARGET kestrel-sudoku)
+  set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation")
+  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils")
+endif()
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://kestrel-sudoku.example/")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_PACKAGE_FILE_NAME kestrel-sudoku_${PROJECT_VERSION})
 include(CPack)
