@@ -16,15 +16,18 @@ function(kestrel_library folder)
   endif()
 endfunction()
 
-# kestrel_test(NAME SOURCES a_test.cpp ... [LINKS folders])
-# One test program per folder; every GoogleTest case becomes a ctest case.
+# kestrel_test(NAME SOURCES a_test.cpp ... [LINKS folders] [PRECOMPILED])
+# One test program per folder; every GoogleTest case becomes a ctest case. PRECOMPILED: it has precompiled headers of its
+# own instead of those that all tests share.
 function(kestrel_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "PRECOMPILED" "" "SOURCES;LINKS" ${ARGN})
   list(TRANSFORM ARG_LINKS REPLACE "/" "_")
   list(TRANSFORM ARG_LINKS PREPEND kestrel_)
   add_executable(${name}_test ${ARG_SOURCES})
-  target_link_libraries(${name}_test PRIVATE kestrel_options ${ARG_LINKS} GTest::gtest GTest::gtest_main)
-  target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${name}_test PRIVATE kestrel_options kestrel_test_support ${ARG_LINKS} GTest::gtest GTest::gtest_main)
+  if(NOT ARG_PRECOMPILED)
+    target_precompile_headers(${name}_test REUSE_FROM kestrel_test_support)
+  endif()
   target_compile_definitions(${name}_test PRIVATE KESTREL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   gtest_discover_tests(${name}_test TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60)
 endfunction()
