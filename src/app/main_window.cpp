@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // kestrel-sudoku: the game in its window.
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <span>
@@ -25,6 +26,12 @@ std::string DataOfProgram() {
 
 // Keeps the platform's own messages off the terminal; what matters to the player comes in boxes.
 void DropMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+  // A display that is named but cannot be opened is the user's affair, not a crash.
+  if (type == QtFatalMsg && text.contains(QLatin1String("platform plugin"))) {
+    std::cerr << "kestrel-sudoku: the display cannot be opened; --screenshot FILE works without one"
+              << std::endl;
+    std::_Exit(kExitUsage);
+  }
   if (type == QtCriticalMsg || type == QtFatalMsg) {
     std::cerr << "kestrel-sudoku: " << qPrintable(text) << '\n';
   }
