@@ -152,6 +152,7 @@ TEST(Dialogs, KeyboardReachesTheCommands) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   game.Settle();
   EXPECT_EQ(game.State().puzzle.PuzzleLevel, 3);
+  EXPECT_EQ(QApplication::focusWidget(), &game.Window());  // not the next button
   // By its letter, wherever the focus is.
   QTest::keyClick(&game.Window(), Qt::Key_T, Qt::AltModifier);
   EXPECT_TRUE(game.WaitFor([&] { return game.State().clock.ClockStopped; }));

@@ -12,6 +12,13 @@ bool SamePlace(const Control& one, const Control& other) {
          one.height == other.height;
 }
 
+// Qt would pass the focus of a control that stops working on to the next one: the same key pressed again
+// would then do something else. A window that takes the focus itself, as the main window does, gets it.
+void TakeFocusBack(QWidget& widget) {
+  QWidget* window = widget.window();
+  if (widget.hasFocus() && window->focusPolicy() != Qt::NoFocus) window->setFocus();
+}
+
 }  // namespace
 
 void ShowCommon(QWidget& widget, const Control& now, const Control* before, const QString& caption) {
@@ -23,6 +30,7 @@ void ShowCommon(QWidget& widget, const Control& now, const Control* before, cons
     }
     widget.setGeometry(place);
   }
+  if (!now.enabled || !now.visible) TakeFocusBack(widget);
   if (before == nullptr || now.enabled != before->enabled) widget.setEnabled(now.enabled);
   if (before == nullptr || now.tooltip != before->tooltip) {
     widget.setToolTip(ToQString(now.tooltip));

@@ -4,11 +4,13 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QSpacerItem>
+#include <QStyle>
 #include <cstdio>
 
 #include "ui/qt/form_window.h"
@@ -68,6 +70,11 @@ Answer QtAsker::Message(const MessageBox& box) {
   widget.setTextFormat(Qt::PlainText);
   widget.setText(ToQString(box.text));
   widget.setIcon(ToQtIcon(box.icon));
+  // One line stands beside the middle of the sign.
+  if (auto* text = widget.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+    text->setMinimumHeight(widget.style()->pixelMetric(QStyle::PM_MessageBoxIconSize));
+    text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  }
   const std::vector<BoxButton> buttons = ButtonsOf(box.buttons);
   for (const BoxButton& each : buttons) {
     widget.addButton(each.button)->setText(QLatin1String(each.caption));

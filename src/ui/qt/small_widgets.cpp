@@ -148,7 +148,7 @@ void LinkLabel::PaintArrow(QPainter& painter, const QRect& place) const {
   const double shaft = size * 0.16;
   painter.drawPolygon(
       QPolygonF({tip, tip + QPointF(-size * 0.55, -size * 0.5), tip + QPointF(-size * 0.55, -shaft),
-                 tip + QPointF(-size * 1.25, -shaft), tip + QPointF(-size * 1.25, shaft),
+                 tip + QPointF(-size * 1.1, -shaft), tip + QPointF(-size * 1.1, shaft),
                  tip + QPointF(-size * 0.55, shaft), tip + QPointF(-size * 0.55, size * 0.5)}));
 }
 
