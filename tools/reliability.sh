@@ -7,7 +7,6 @@ cd "$(dirname "$0")/.."
 . tools/setup.sh
 install $build_packages $test_packages
 cmake --preset headless >/dev/null
-cmake --build build/headless --target reliability_test stock_commands_test
+cmake --build build/headless --target reliability_test
 export KESTREL_LONG=1 KESTREL_KILLS="${1:-600}" KESTREL_SEED="${2:-1}"
-./build/headless/bin/stock_commands_test
 ./build/headless/bin/reliability_test

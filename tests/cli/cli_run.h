@@ -31,13 +31,12 @@ inline std::vector<std::string> Fields(const std::string& line, char separator =
   return fields;
 }
 
-inline CliResult RunWith(const std::vector<std::string>& words, const std::string& input = "",
-                         const std::string& user_stock = "no-such-stock",
-                         const std::string& shipped_stock = "") {
+inline CliResult RunWith(const std::vector<std::string>& words, const std::string& input,
+                         const std::string& user_stock, const std::string& shipped_stock,
+                         SystemCalls& calls) {
   std::istringstream in(input);
   std::ostringstream out;
   std::ostringstream err;
-  SystemCalls calls;
   HostFiles files(calls, PathForm::kHost);
   FixedSeeds seeds(7);
   CliPorts ports{in, out, err, false, files, seeds, user_stock, shipped_stock};
@@ -46,6 +45,13 @@ inline CliResult RunWith(const std::vector<std::string>& words, const std::strin
   result.out = out.str();
   result.err = err.str();
   return result;
+}
+
+inline CliResult RunWith(const std::vector<std::string>& words, const std::string& input = "",
+                         const std::string& user_stock = "no-such-stock",
+                         const std::string& shipped_stock = "") {
+  SystemCalls calls;
+  return RunWith(words, input, user_stock, shipped_stock, calls);
 }
 
 }  // namespace kestrel

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "course.h"
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <sstream>
 
 #include "core/settings_file.h"
@@ -79,6 +82,14 @@ void ExpectNothingLost(GameHome& home, const Course& course, const std::string& 
   for (const auto& entry : std::filesystem::directory_iterator(home.home.Path("KestrelSudoku"))) {
     EXPECT_TRUE(entry.path().filename().string().starts_with("sudstock.kpz")) << entry;
   }
+}
+
+int InAChild(const std::function<int()>& run) {
+  const pid_t child = fork();
+  if (child == 0) _exit(run());
+  int status = -1;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 std::string SolveLines(int first, int count) {

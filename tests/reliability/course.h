@@ -33,6 +33,9 @@ struct Course {
 // are there; no temporary is left; the game is ready.
 void ExpectNothingLost(GameHome& home, const Course& course, const std::string& output);
 
+// What `run` returns in a child process, or the exit status that ended the child before.
+int InAChild(const std::function<int()>& run);
+
 // Lines that solve puzzles of level 2 from `first` on, number n in n + 10 seconds.
 std::string SolveLines(int first, int count);
 

@@ -2,7 +2,7 @@
 // Stock files that are not as they should be: play goes on, or a message tells why not; what a write would
 // lose of a damaged file is kept aside.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <fstream>
@@ -16,6 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kStock = "KestrelSudoku/sudstock.kpz";
+const std::string kAside = "KestrelSudoku/sudstock.kpz.damaged-20";
 
 std::string Noise(std::size_t size) {
   RandomSource random(size);
@@ -60,7 +61,7 @@ TEST(Damage, PlayGoesOnAndWhatWouldBeLostIsKeptAside) {
     int kept = 0;
     for (const auto& entry : fs::directory_iterator(home.home.Path("KestrelSudoku"))) {
       const std::string name = "KestrelSudoku/" + entry.path().filename().string();
-      kept += name.starts_with(std::string(kStock) + ".damaged-20") && home.home.Get(name) == damaged ? 1 : 0;
+      kept += name.starts_with(kAside) && home.home.Get(name) == damaged ? 1 : 0;
     }
     EXPECT_EQ(kept, damaged == too_long || damaged == zeros ? 0 : 1);
     EXPECT_EQ(home.Play("").status, 0);
@@ -80,27 +81,26 @@ TEST(Damage, AFolderInThePlaceOfTheStockIsReportedAndLeftAlone) {
 
 // No right to read, or none to write; played as another user when the superuser runs this.
 TEST(Damage, MissingRightsAreReported) {
+  const std::string ann(kAnnPlays), script = ann + SolveLines(1, 1);
   for (const mode_t rights : {0000U, 0444U}) {
     GameHome home;
     home.Play("");
     const std::string before = home.StockBytes(), output = home.program.Path("output");
     chmod(home.home.Path(kStock).c_str(), rights);
-    if (fork() == 0) {
+    const int status = InAChild([&] {
       chmod(home.program.Path().c_str(), 0755);
       bool ready = geteuid() != 0 || chown(home.home.Path().c_str(), 65534, 65534) == 0;
       for (const auto& entry : fs::recursive_directory_iterator(home.home.Path())) {
         ready = ready && (geteuid() != 0 || chown(entry.path().c_str(), 65534, 65534) == 0);
       }
       std::ofstream file(output);
-      if (!ready || (geteuid() == 0 && setuid(65534) != 0)) _exit(2);
+      if (!ready || (geteuid() == 0 && setuid(65534) != 0)) return 2;
       SystemCalls calls;
-      const Played played = PlayOn(home, calls, std::string(kAnnPlays) + SolveLines(1, 1));
+      const Played played = PlayOn(home, calls, script);
       file << played.output << std::flush;
-      _exit(played.status);
-    }
-    int status = -1;
-    wait(&status);
-    const Played played{home.program.Get("output"), "", WEXITSTATUS(status)};
+      return played.status;
+    });
+    const Played played{home.program.Get("output"), "", status};
     EXPECT_EQ(played.status, rights == 0 ? 1 : 0) << played.output;
     EXPECT_EQ(played.Count("message \"File Error\""), 1);
     EXPECT_EQ(home.StockBytes(), before);

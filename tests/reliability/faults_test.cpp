@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The game on files that fail, and the game killed: at each system call in turn, and the real program at
-// random moments. KESTREL_LONG=1 takes every call, not a share of them; KESTREL_KILLS says how often the
-// program is killed, KESTREL_SEED at which moments.
+// The game on files that fail, and killed: at each system call in turn, and the real
+// program at random moments; and several real programs at once. KESTREL_LONG=1 takes every call, not a share
+// of them; KESTREL_KILLS says how often the program is killed, KESTREL_SEED at which moments.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -24,7 +24,8 @@ namespace {
 using std::chrono::steady_clock;
 
 const std::string kRenewing = "press RenewLevel(1)\nanswer OK\nrenew 100000\n";
-const std::string kPlaying = std::string(kAnnPlays) + SolveLines(1, 2);
+const std::string kAnn(kAnnPlays);
+const std::string kPlaying = kAnn + SolveLines(1, 2);
 
 int NumberFrom(const char* variable, int otherwise) {
   const char* text = std::getenv(variable);
@@ -82,27 +83,25 @@ TEST(Kills, AtAnyCall) {
     const Course course(*script);
     AtCalls(course, step, [&](int n, GameHome& home) {
       const std::string file = home.program.Path("output");
-      if (fork() == 0) {
+      const int status = InAChild([&] {
         FaultyCalls calls;
         calls.KillAt(n);
         HostFiles files(calls);
         NeverStop yield;
         std::istringstream lines(course.script);
         std::ofstream output(file);
-        ScriptRunner(home.options, files, yield, lines, output, output).Run();
-        _exit(0);
-      }
-      int status = 0;
-      wait(&status);
-      EXPECT_EQ(WEXITSTATUS(status), FaultyCalls::kKilled);
+        return ScriptRunner(home.options, files, yield, lines, output, output).Run();
+      });
+      EXPECT_EQ(status, FaultyCalls::kKilled);
       return home.program.Get("output");
     });
   }
 }
 
-// Starts the real program with the files "script" and "output" in the program folder.
-pid_t Start(const GameHome& home) {
-  const std::string script = home.program.Path("script"), output = home.program.Path("output");
+// Starts the real program on the script; its output goes to a file of the program folder.
+pid_t Start(const GameHome& home, const std::string& lines, const std::string& output_name = "output") {
+  const std::string output = home.program.Path(output_name), script = output + ".script";
+  home.program.Put(output_name + ".script", lines);
   const pid_t program = fork();
   if (program != 0) return program;
   dup2(open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDOUT_FILENO);
@@ -118,9 +117,8 @@ void KillTheProgram(const Course& course, int kills) {
   for (int killed = 0, tries = 0; killed < kills && !::testing::Test::HasFailure(); ++tries) {
     ASSERT_LT(tries, 5 * kills + 10) << "the program is too fast";
     GameHome home;
-    home.program.Put("script", course.script);
     const auto start = steady_clock::now();
-    const pid_t program = Start(home);
+    const pid_t program = Start(home, course.script);
     if (tries > 0) {  // the first run shows how long it takes
       std::this_thread::sleep_for(whole * random.Next());
       kill(program, SIGKILL);  // its own number still, for it was not waited for
@@ -142,11 +140,30 @@ void KillTheProgram(const Course& course, int kills) {
 
 TEST(Kills, AtRandomMoments) {
   const int share = NumberFrom("KESTREL_KILLS", 60) / 6;
-  KillTheProgram(Course(std::string(kAnnPlays) + SolveLines(1, 20)), 3 * share);
+  KillTheProgram(Course(kAnn + SolveLines(1, 20)), 3 * share);
   KillTheProgram(Course(kRenewing), share);
-  KillTheProgram(Course(std::string(kAnnPlays) + "press RenewLevel(1)\nanswer OK\n" + SolveLines(1, 4) +
-                        "renew 100000\n" + SolveLines(5, 2)),
+  KillTheProgram(Course(kAnn + "press RenewLevel(1)\nanswer OK\n" + SolveLines(1, 4) + "renew 100000\n" +
+                        SolveLines(5, 2)),
                  2 * share);
+}
+
+// Two players at one level, and a third program that renews another, all with the same files.
+TEST(Copies, KeepEachOthersBestTimesAndLevels) {
+  GameHome home;
+  home.Play(kAnn);
+  std::filesystem::remove(home.home.Path("KestrelSudoku/sudstock.kpz"));
+  const std::vector programs{Start(home, SolveLines(1, 20), "1"), Start(home, SolveLines(21, 20), "2"),
+                             Start(home, kRenewing, "3")};
+  for (const pid_t program : programs) {
+    int status = -1;
+    waitpid(program, &status, 0);
+    EXPECT_EQ(status, 0);
+  }
+  const StockTable stock = home.Stock();
+  for (int number = 1; number <= 40; ++number) {
+    EXPECT_EQ(BestTime(stock(2, number)), 10 + number);
+    EXPECT_EQ(stock(1, number).Reserved2, 0) << "still an old puzzle";
+  }
 }
 
 }  // namespace
