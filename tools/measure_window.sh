@@ -6,16 +6,23 @@
 #              fastest and the middle one of RUNS starts (10 when left out)
 #   clicks     from the release of the mouse button until the board has been painted, idle and during a renewal
 #   idling     processor time with a puzzle open and the clock running
-#   renewals   from the click on the label until the level can be chosen again
+#   renewals   from the answer to the question until the level can be chosen again
 #   memory     the most that was resident
 set -eu
 cd "$(dirname "$0")/.."
+runs=${1:-10}
+case $runs in
+  0 | *[!0-9]*)
+    echo "usage: tools/measure_window.sh [RUNS]" >&2
+    exit 2
+    ;;
+esac
 build=build/release
 cmake --preset release -DKESTREL_QT=ON >/dev/null
 cmake --build $build --target measure-window >/dev/null
+export QT_LOGGING_RULES='*.warning=false'  # no sound server, no window manager
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
-runs=${1:-10}
 
 for run in $(seq "$runs"); do
   timeout 60 $build/bin/measure-window data "$home" "$(date +%s%N)" start

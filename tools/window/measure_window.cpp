@@ -9,6 +9,7 @@
 
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QPointingDevice>
 #include <QTimer>
 #include <algorithm>
 #include <atomic>
@@ -83,6 +84,7 @@ class ClickTimer final : public QObject {
   // `count` clicks of the right button on marks that are shown, one about every 20 ms, each on another mark.
   std::vector<double> Run(GameApplication& game, int count) {
     times_.clear();
+    (void)QPointingDevice::primaryPointingDevice();  // belongs to this thread, not to the one that clicks
     done_ = false;
     std::thread user([&] {
       for (int i = 0; i < count; ++i) {
@@ -129,6 +131,7 @@ class ClickTimer final : public QObject {
         const Label& mark = main.Mark(place_ / kCells + 1)(place_ % kCells);
         if (!mark.visible) continue;
         spot_ = QPointF(mark.left, mark.top) / kTwipsPerPixel + QPointF(8, 8);
+        on_screen_ = board_.mapToGlobal(spot_);
         busy_ = false;
         return;
       }
@@ -140,8 +143,8 @@ class ClickTimer final : public QObject {
   }
 
   void Post(QEvent::Type type, Qt::MouseButtons buttons) {
-    QCoreApplication::postEvent(&board_, new QMouseEvent(type, spot_, board_.mapToGlobal(spot_),
-                                                         Qt::RightButton, buttons, Qt::NoModifier));
+    QCoreApplication::postEvent(
+        &board_, new QMouseEvent(type, spot_, on_screen_, Qt::RightButton, buttons, Qt::NoModifier));
   }
 
   BoardWidget& board_;
@@ -150,6 +153,7 @@ class ClickTimer final : public QObject {
   std::atomic<bool> done_ = false;
   Clock::time_point start_;
   QPointF spot_;
+  QPointF on_screen_;
   int place_ = 0;
   bool released_ = false;
 };
