@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QSpacerItem>
 #include <QStyle>
+#include <algorithm>
 #include <cstdio>
 
 #include "ui/qt/form_window.h"
@@ -72,7 +73,8 @@ Answer QtAsker::Message(const MessageBox& box) {
   widget.setIcon(ToQtIcon(box.icon));
   // One line stands beside the middle of the sign.
   if (auto* text = widget.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
-    text->setMinimumHeight(widget.style()->pixelMetric(QStyle::PM_MessageBoxIconSize));
+    text->setMinimumHeight(
+        std::max(text->sizeHint().height(), widget.style()->pixelMetric(QStyle::PM_MessageBoxIconSize)));
     text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   }
   const std::vector<BoxButton> buttons = ButtonsOf(box.buttons);
