@@ -52,8 +52,8 @@ const CommandSpec kStockRenewSpec{
     "Replace the 100 puzzles of a level by new ones",
     "Makes puzzles until 100 of the level are found and files them by score, as the\n"
     "game does; their best times are gone. FILE is written at the very end, in one\n"
-    "piece: when the command is interrupted, it is as it was. Close the game first: it\n"
-    "keeps its own copy of the stock and would write that back.\n"
+    "piece: when the command is interrupted, it is as it was. Close the game first: one\n"
+    "that is running goes on with the old puzzles and does not keep times for them.\n"
     "Without FILE the stock that the game plays from is renewed.",
     kRenewOptions};
 
