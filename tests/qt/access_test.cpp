@@ -79,9 +79,6 @@ TEST(Access, MarksOfferTheirActions) {
 
   QtGame easy(2);
   EXPECT_EQ(Actions(easy, easy.NextMark()), QStringList({Press()}));
-  QtGame closed;
-  EXPECT_TRUE(Actions(closed, "Mark1(0)").isEmpty());
-  EXPECT_TRUE(Access(closed, "Mark1(0)").state().disabled);
 }
 
 TEST(Access, PlaysAGameToTheEnd) {

@@ -88,11 +88,10 @@ TEST(Board, KeepsTheFirstPressWhileAnyButtonIsDown) {
   EXPECT_EQ(play.game.State().SelectedRow, 9);
 }
 
-TEST(Board, IsDeafWhileNoPuzzleIsOpen) {
+TEST(Board, SelectsHeadersOnlyWhileNoPuzzleIsOpen) {
   QtGame game;
   game.ClickMark(40, 5);
   EXPECT_EQ(game.State().history.StepCount(), 0);
-  // Headers answer all the same.
   const QPoint header = QtGame::Corner(game.Main().LabelRow(2)) + QPoint(17, 17);
   game.Press(header);
   game.Release(header + QPoint(17, 0));
