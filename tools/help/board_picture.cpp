@@ -42,7 +42,8 @@ struct Point {
 };
 
 double Along(int i) {
-  return kPitch * i + kBoxGap * (i / 3);
+  const int box = i / 3;
+  return kPitch * i + kBoxGap * box;
 }
 Point CellCorner(int cell) {
   return {kLeft + Along(CellCol[cell]), kTop + Along(CellRow[cell])};
@@ -53,7 +54,9 @@ Point CellMiddle(int cell) {
 }
 Point MarkMiddle(int cell, int digit) {
   const Point corner = CellCorner(cell);
-  return {corner.x + kMarkPitch * ((digit - 1) % 3) + 8.5, corner.y + kMarkPitch * ((digit - 1) / 3) + 8.5};
+  const int row = (digit - 1) / 3;
+  const int column = (digit - 1) % 3;
+  return {corner.x + kMarkPitch * column + 8.5, corner.y + kMarkPitch * row + 8.5};
 }
 // Where a grid line runs: before line i of cells (0..9).
 double GridLine(double start, int i) {

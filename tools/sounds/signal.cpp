@@ -27,7 +27,7 @@ double Rise(double x) {
 }  // namespace
 
 std::size_t Samples(double seconds) {
-  return static_cast<std::size_t>(seconds * kSampleRate + 0.5);
+  return static_cast<std::size_t>(std::lround(seconds * kSampleRate));
 }
 
 void AddTone(Signal& signal, const Tone& tone) {

@@ -206,10 +206,12 @@ Wave Applause() {
     const Hands hands{between(0.12, 0.88), nearness * nearness, between(750, 1500), between(500, 1100),
                       between(0.17, 0.25), between(0.0, 0.45),  between(1.4, 2.55)};
     double tired = 1;
-    for (double t = hands.first; t < hands.last; t += hands.period * tired * between(0.9, 1.1)) {
+    double t = hands.first;
+    while (t < hands.last) {
       const double fade = std::min(1.0, 0.35 + (hands.last - t) * 1.2);
       AddClap(left, right, hands, t, hands.nearness * fade * between(0.7, 1.0), random);
       tired += 0.012;  // hands slow down
+      t += hands.period * tired * between(0.9, 1.1);
     }
   }
   AddRoom(left, 0.22, 0);

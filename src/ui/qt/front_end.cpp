@@ -6,7 +6,6 @@
 #include <QPixmap>
 #include <QToolTip>
 #include <cstdio>
-#include <memory>
 
 #include "ui/qt/command_line.h"
 #include "ui/qt/fonts.h"
@@ -55,7 +54,7 @@ int FrontEnd::TakeScreenshot(const std::string& file) {
 void SetUpLook() {
   InstallFontSubstitutes();
   InstallLabelAccess();
-  QApplication::setStyle(std::make_unique<CalmStyle>().release());
+  QApplication::setStyle(new CalmStyle);
   QApplication::setPalette(CalmPalette());
   QApplication::setFont(WindowFont());
   QToolTip::setPalette(CalmPalette());
