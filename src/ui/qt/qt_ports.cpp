@@ -141,7 +141,13 @@ void QtScreen::Show(FormId form) {
   FormWindow& widget = mirror_.WindowOf(form);
   mirror_.Sync();
   mirror_.FocusFirst(form);
-  if (form != FormId::Browser) widget.move(window.left / kTwipsPerPixel, window.top / kTwipsPerPixel);
+  QPoint corner(window.left / kTwipsPerPixel, window.top / kTwipsPerPixel);
+  if (form == FormId::Main) {
+    // The title bar stays in reach where the window is larger than the screen.
+    const QRect screen = QApplication::primaryScreen()->availableGeometry();
+    corner = {std::max(screen.x(), corner.x()), std::max(screen.y(), corner.y())};
+  }
+  if (form != FormId::Browser) widget.move(corner);
   if (window.state == WindowState::Maximized) {
     widget.showMaximized();
   } else {
