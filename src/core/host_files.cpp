@@ -127,7 +127,8 @@ FileResult FlushFolder(SystemCalls& calls, const std::string& folder) {
   return errno == EINVAL || errno == EBADF || errno == ENOTSUP ? FileResult::Done() : Failure();
 }
 
-FileResult ReplaceTarget(SystemCalls& calls, const Target& target, std::span<const std::uint8_t> bytes) {
+FileResult ReplaceTarget(SystemCalls& calls, const Target& target, std::span<const std::uint8_t> bytes,
+                         bool (HostTemporary::*put)(const std::string& target) = &HostTemporary::RenameTo) {
   // Renaming asks only for the folder's permissions; a file that was made read-only is to stay as it is.
   if (target.exists && (!IsRegular(target.status) || calls.WriteAccess(target.path) != 0)) return Failure();
   const std::string folder = FolderOf(target.path);
@@ -136,7 +137,7 @@ FileResult ReplaceTarget(SystemCalls& calls, const Target& target, std::span<con
   // 0600: nobody else may look into it before it has the permissions of the old file.
   const bool written = temporary.Create(target.exists ? 0600 : 0666) && temporary.Append(bytes) &&
                        (!target.exists || temporary.TakeOver(target.status)) && temporary.Flush() &&
-                       temporary.RenameTo(target.path);
+                       (temporary.*put)(target.path);
   return written ? FlushFolder(calls, folder) : Failure();
 }
 
@@ -208,7 +209,10 @@ FileResult HostFiles::Update(std::string_view path, std::size_t max_bytes, const
     }
   }
   const FileResult changed = change(bytes);
-  return changed ? ReplaceTarget(calls_, target, bytes) : changed;
+  if (!changed) return changed;
+  // A file that was not there is not to be replaced either: nothing of it would be left.
+  return ReplaceTarget(calls_, target, bytes,
+                       target.exists ? &HostTemporary::RenameTo : &HostTemporary::AppearAs);
 }
 
 FileResult HostFiles::Copy(std::string_view from, std::string_view to) {
