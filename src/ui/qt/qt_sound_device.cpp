@@ -6,6 +6,7 @@
 #include <QMediaDevices>
 #include <QUrl>
 #include <QtEndian>
+#include <algorithm>
 
 #include "core/host_files.h"
 #include "ui/qt/text_conversion.h"
@@ -14,40 +15,68 @@ namespace kestrel {
 
 namespace {
 
-constexpr qint64 kRiffHeader = 12;  // "RIFF", size, "WAVE"
-constexpr qint64 kChunkHeader = 8;  // name, size
-constexpr quint32 kPcmFormat = 16;  // bytes of the smallest format chunk
+constexpr qsizetype kRiffHeader = 12;  // "RIFF", size, "WAVE"
+constexpr qsizetype kChunkHeader = 8;  // name, size
+// The format chunk: its least size, and where two of its numbers stand.
+constexpr qsizetype kPcmFormat = 16;
+constexpr qsizetype kBytesPerSecond = 8;
+constexpr qsizetype kBytesPerFrame = 12;
+constexpr qsizetype kBitsPerSample = 14;
+
+template <class Number>
+Number NumberAt(const QByteArray& bytes, qsizetype place) {
+  return qFromLittleEndian<Number>(bytes.constData() + place);
+}
+
+QByteArray Chunk(const QByteArray& name, const QByteArray& content) {
+  const quint32 size = qToLittleEndian(static_cast<quint32>(content.size()));
+  return name + QByteArray(reinterpret_cast<const char*>(&size), sizeof size) + content;
+}
+
+// Half a second, in whole frames.
+QByteArray Silence(const QByteArray& format) {
+  const qsizetype frame = std::max<qsizetype>(NumberAt<quint16>(format, kBytesPerFrame), 1);
+  constexpr qsizetype kMost = 1 << 20;
+  const qsizetype wanted = std::min<qsizetype>(NumberAt<quint32>(format, kBytesPerSecond) / 2, kMost);
+  const bool is_unsigned = NumberAt<quint16>(format, kBitsPerSample) <= 8;
+  return {wanted / frame * frame, is_unsigned ? '\x80' : '\0'};
+}
+
+// The format and the samples of a wave file, with silence behind them; empty when it is none. The sound
+// server throws away what is not played yet when the samples end: that must be nothing that one should hear.
+QByteArray WaveWithSilence(const QByteArray& file) {
+  if (!file.startsWith("RIFF") || file.mid(8, 4) != "WAVE") return {};
+  QByteArray format;
+  for (qsizetype place = kRiffHeader; place + kChunkHeader <= file.size();) {
+    const QByteArray name = file.mid(place, 4);
+    const qsizetype size = NumberAt<quint32>(file, place + 4);
+    place += kChunkHeader;
+    if (size > file.size() - place) return {};
+    if (name == "fmt " && size >= kPcmFormat) format = file.mid(place, size);
+    if (name == "data") {
+      if (format.isEmpty() || size == 0) return {};
+      return Chunk("RIFF",
+                   "WAVE" + Chunk("fmt ", format) + Chunk("data", file.mid(place, size) + Silence(format)));
+    }
+    place += size + size % 2;  // chunks begin at even places
+  }
+  return {};
+}
 
 }  // namespace
-
-bool IsWaveFile(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return false;
-  const QByteArray riff = file.read(kRiffHeader);
-  if (riff.size() != kRiffHeader || !riff.startsWith("RIFF") || !riff.endsWith("WAVE")) return false;
-  bool format = false;
-  while (true) {
-    const QByteArray chunk = file.read(kChunkHeader);
-    if (chunk.size() != kChunkHeader) return false;
-    const auto size = qFromLittleEndian<quint32>(chunk.constData() + 4);
-    const qint64 left = file.size() - file.pos();
-    if (chunk.startsWith("fmt ")) format = size >= kPcmFormat && size <= left;
-    if (chunk.startsWith("data")) return format && size > 0 && size <= left;
-    // Chunks begin at even places.
-    if (!file.seek(file.pos() + size + size % 2)) return false;
-  }
-}
 
 bool QtSoundDevice::Open() {
   return !QMediaDevices::defaultAudioOutput().isNull();
 }
 
 std::int32_t QtSoundDevice::Load(std::string_view path) {
-  const QString host = ToQString(ToHostPath(path));
-  // The samples are read in the background; a file that cannot be one is refused at once.
-  if (!IsWaveFile(host)) return -1;
+  QFile file(ToQString(ToHostPath(path)));
+  if (!file.open(QIODevice::ReadOnly)) return -1;
+  // The samples are decoded in the background; a file that cannot be one is refused at once.
+  const QByteArray wave = WaveWithSilence(file.readAll());
+  if (wave.isEmpty()) return -1;
   effects_.push_back(std::make_unique<QSoundEffect>());
-  effects_.back()->setSource(QUrl::fromLocalFile(host));
+  effects_.back()->setSource(QUrl(QLatin1String("data:audio/wav;base64,") + QLatin1String(wave.toBase64())));
   return static_cast<std::int32_t>(effects_.size()) - 1;
 }
 

@@ -22,7 +22,4 @@ class QtSoundDevice final : public SoundDevice {
   std::vector<std::unique_ptr<QSoundEffect>> effects_;  // the id is the place
 };
 
-// True for a file that begins as a wave file and holds a format and samples.
-bool IsWaveFile(const QString& path);
-
 }  // namespace kestrel
