@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Which positions become examples: the forms, what counts as clear, and what rules out the other places of a
-// hidden single.
+// Which positions become examples: the forms, and what rules out the other places of a hidden single.
 #include <gtest/gtest.h>
 
-#include <array>
 #include <string>
 
 #include "help/blockers.h"
@@ -12,14 +10,6 @@
 
 namespace kestrel::help {
 namespace {
-
-const Form& FormOf(std::string_view key) {
-  for (const Form& form : AllForms()) {
-    if (form.key == key) return form;
-  }
-  ADD_FAILURE() << key;
-  return AllForms()[0];
-}
 
 Finding Sketch(int step, int form, std::vector<PatternCell> pattern, std::vector<Unit> units = {}) {
   Finding finding;
@@ -71,46 +61,6 @@ TEST(Forms, TellTheirFindingsApart) {
             "unique-type2-one-box");
 }
 
-// The marks of an empty board without `digit` but in the cells named.
-MarkGrid OnlyIn(int digit, const std::vector<const char*>& cells) {
-  MarkGrid marks;
-  marks.fill(static_cast<CandidateMask>(kAllDigits & ~DigitBit(digit)));
-  for (const char* cell : cells) marks[CellOfName(cell)] |= DigitBit(digit);
-  return marks;
-}
-
-TEST(Clarity, PrefersMoreRemovalsFewerOthersAndCloserCells) {
-  const std::vector<const char*> cells{"A1", "A2", "A5", "A6"};
-  Finding finding = Sketch(3, 1, {At("A1", DigitBit(4)), At("A2", DigitBit(4))});
-  finding.digits = DigitBit(4);
-  finding.removals = {{CellOfName("A5"), DigitBit(4)}, {CellOfName("A6"), DigitBit(4)}};
-  const DigitGrid empty{};
-  const double both = Clarity({empty, OnlyIn(4, cells)}, finding);
-  const double cluttered = Clarity({empty, OnlyIn(4, {"A1", "A2", "A5", "A6", "H8", "J9"})}, finding);
-  EXPECT_GT(both, cluttered);
-  Finding spread = finding;
-  spread.removals[1].cell = CellOfName("A9");
-  EXPECT_GT(both, Clarity({empty, OnlyIn(4, {"A1", "A2", "A5", "A9"})}, spread));
-  Finding one = finding;
-  one.removals.pop_back();
-  EXPECT_GT(both, Clarity({empty, OnlyIn(4, {"A1", "A2", "A5"})}, one));
-}
-
-// A naked single to which row, column and box all add something teaches more than one that the row decides.
-TEST(Clarity, NakedSinglesNeedAllThreeUnits) {
-  DigitGrid by_row{};
-  DigitGrid by_all{};
-  for (int column = 1; column < 9; ++column) by_row[column] = static_cast<std::uint8_t>(column + 1);
-  by_all[3] = 2, by_all[4] = 3, by_all[5] = 4;
-  by_all[27] = 5, by_all[36] = 6, by_all[45] = 7;
-  by_all[10] = 8, by_all[20] = 9;
-  Finding finding = Sketch(2, 0, {{0, DigitBit(1), Role::Base}});
-  finding.digits = DigitBit(1);
-  finding.placed_cell = 0;
-  finding.placed_digit = 1;
-  EXPECT_GT(Clarity(SolverState(by_all), finding), Clarity(SolverState(by_row), finding));
-}
-
 TEST(Blockers, AreFewAndExplainTheUnit) {
   DigitGrid digits{};
   digits[CellOfName("B5")] = 7;  // sees A4, A5, A6
@@ -124,10 +74,6 @@ TEST(Blockers, AreFewAndExplainTheUnit) {
   digits[CellOfName("A3")] = 1;
   EXPECT_TRUE(FindBlockers(digits, row, CellOfName("A2"), 7).all_explained);
   EXPECT_TRUE(FindBlockers(digits, row, CellOfName("A2"), 6).cells.empty());
-}
-
-TEST(Forms, AreNamedOnce) {
-  for (const Form& form : AllForms()) EXPECT_EQ(&FormOf(form.key), &form) << form.key;
 }
 
 }  // namespace

@@ -9,10 +9,8 @@
 #include <fstream>
 #include <iterator>
 #include <string>
-#include <tuple>
 
 #include "sounds/level.h"
-#include "sounds/signal.h"
 #include "sounds/sound_set.h"
 #include "sounds/steady_math.h"
 
@@ -116,72 +114,6 @@ TEST(Sounds, LevelsOfKnownSignals) {
   tone.samples.resize(4410);  // half of the window
   EXPECT_NEAR(Loudness(tone), -6.02 - 3.01 + 0.691 - 3.01, 0.1);
   EXPECT_EQ(Loudness(Wave{1, 44100, std::vector<std::int16_t>(100, 0)}), -200);
-  for (int i = -200; i <= 200; ++i) {
-    EXPECT_NEAR(Sine(i / 37.0), std::sin(i / 37.0 * 2 * kPi), 1e-8);
-    EXPECT_NEAR(Exp2(i / 37.0) / std::exp2(i / 37.0), 1, 1e-12);
-  }
-}
-
-double MiddleRms(const Signal& signal) {
-  double sum = 0;
-  for (std::size_t i = signal.size() / 4; i < signal.size() / 4 * 3; ++i) sum += signal[i] * signal[i];
-  return std::sqrt(sum / static_cast<double>(signal.size() / 2));
-}
-
-Signal Steady(double pitch) {
-  Signal signal(Samples(0.5));
-  for (std::size_t i = 0; i < signal.size(); ++i)
-    signal[i] = Sine(pitch * static_cast<double>(i) / kSampleRate);
-  return signal;
-}
-
-// What the sounds are made of does what it says.
-TEST(Synthesis, TonesFiltersAndFades) {
-  // A resonance passes its own pitch unchanged and little of what lies far off.
-  for (const auto& [pitch, least, most] : {std::tuple{1000.0, 0.95, 1.05}, std::tuple{4000.0, 0.0, 0.1}}) {
-    Signal signal = Steady(pitch);
-    const double before = MiddleRms(signal);
-    Resonator resonator(1000, 100);
-    for (double& sample : signal) sample = resonator.Next(sample);
-    EXPECT_GE(MiddleRms(signal) / before, least) << pitch;
-    EXPECT_LE(MiddleRms(signal) / before, most) << pitch;
-  }
-  Signal low = Steady(500);
-  Signal high = Steady(8000);
-  LowPass(low, 1000);
-  LowPass(high, 1000);
-  EXPECT_GT(MiddleRms(low), 4 * MiddleRms(high));
-
-  // A gliding tone ends on its second pitch: count the rising zero crossings in its last stretch.
-  Signal glide;
-  AddTone(glide, {.start = 0.1, .pitch = 400, .end_pitch = 800, .glide = 0.2, .half_life = 0.2});
-  EXPECT_EQ(MiddleRms(Signal(glide.begin(), glide.begin() + 4000)), 0);  // silence before the start
-  int crossings = 0;
-  for (std::size_t i = Samples(0.4); i < Samples(0.6); ++i)
-    crossings += glide[i - 1] < 0 && glide[i] >= 0 ? 1 : 0;
-  EXPECT_NEAR(crossings, 160, 1);
-  // Half a life later and a whole one later: levels 1, 0.5.
-  const auto loudest = [&](double from, double to) {
-    return *std::max_element(glide.begin() + static_cast<std::ptrdiff_t>(Samples(from)),
-                             glide.begin() + static_cast<std::ptrdiff_t>(Samples(to)));
-  };
-  EXPECT_NEAR(loudest(0.402, 0.405) / loudest(0.602, 0.605), 2, 0.05);
-
-  Signal ones(1000, 1.0);
-  FadeEnds(ones, 0.005, 0.005);
-  EXPECT_NEAR(ones.front(), 0, 1e-9);
-  EXPECT_NEAR(ones.back(), 0, 1e-9);
-  EXPECT_EQ(ones[500], 1);
-  EXPECT_TRUE(std::is_sorted(ones.begin(), ones.begin() + 500));
-
-  // Two seats hear the same sound at once and different reflections after it.
-  Signal left(100, 1.0);
-  Signal right = left;
-  AddRoom(left, 0.3, 0);
-  AddRoom(right, 0.3, 1);
-  EXPECT_TRUE(std::equal(left.begin(), left.begin() + 100, right.begin()));
-  EXPECT_NE(left, right);
-  EXPECT_GT(left.size(), 10000U);
 }
 
 TEST(Sounds, AnyWrongHeaderByteIsRefused) {

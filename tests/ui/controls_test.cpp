@@ -29,18 +29,6 @@ TEST(Controls, HaveNamesOfTheirOwn) {
   EXPECT_TRUE(names.contains("OptionAantal(2)"));
 }
 
-TEST(Controls, StandWhereTheBoardNeedsThem) {
-  const MainWindow main = MakeMainWindow();
-  // Row 4, column 7: boxes stand 120 further apart; mark 6 is the right one of the middle line.
-  EXPECT_EQ(main.Grid(43).left, 960 + 840 * 7 + 240);
-  EXPECT_EQ(main.Grid(43).top, 960 + 840 * 4 + 120);
-  EXPECT_EQ(main.Mark(6)(43).left, main.Grid(43).left + 480);
-  EXPECT_EQ(main.Mark(6)(43).top, main.Grid(43).top + 240);
-  EXPECT_EQ(main.LabelRow(8).top, 1080 + 840 * 8 + 240);
-  EXPECT_EQ(main.LabelColumn(3).left, 1080 + 840 * 3 + 120);
-  EXPECT_EQ(main.LabelRow(8).caption, "J");
-}
-
 // Nothing lies outside its window or on top of another control, but for the marks, the start-up panel and the
 // bars on it, which are meant to.
 TEST(Controls, DoNotOverlap) {

@@ -5,6 +5,7 @@
 // Lines for this test in a script (comments to the script program):
 //   #option --no-sound    options for the runs that follow
 //   #without Assign.wav   that file is missing from the program folder
+//   #fill 2 1             stands for the marks that solve puzzle 1 of level 2
 //   #restart              ends the run; another one follows in the same home
 // A file of the same name ending in .ini is the settings file at the start.
 #include <gtest/gtest.h>
@@ -72,6 +73,7 @@ std::string PlayAll(const fs::path& script) {
     if (line.starts_with("#option ")) SetOptions(home.options, line.substr(8));
     if (line.starts_with("#without ")) fs::remove(home.program.Path(line.substr(9)));
     run += line + "\n";
+    if (line.starts_with("#fill ")) run += FillIn(line[6] - '0', line[8] - '0');
     if (line != "#restart") continue;
     report += Report(home.Play(run));
     run.clear();
