@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSlider>
@@ -96,6 +97,17 @@ TEST(Dialogs, PlayersAreTypedAndChosen) {
     QTest::sendKeyEvent(QTest::Click, field, Qt::Key_Ediaeresis, QString::fromUtf8("\u00eb"), Qt::NoModifier);
     QTest::keyClick(field, Qt::Key_Return);
     ASSERT_EQ(list->count(), 1);
+    game.ClickControl("KnopNieuweSpeler");
+    field->setText(list->item(0)->text());
+    emit field->textEdited(field->text());
+    game.Expect([](QWidget& box) {
+      const auto* text = box.findChild<QLabel*>("qt_msgbox_label");
+      EXPECT_EQ(text->text().count('\n'), 3);
+      EXPECT_GE(text->height(), text->sizeHint().height()) << "lines are cut";
+      PressCaption(box, "OK");
+    });
+    QTest::keyClick(field, Qt::Key_Return);
+    QTest::keyClick(field, Qt::Key_Escape);
     list->clearSelection();
     EXPECT_FALSE(form.KnopOK.enabled);
     const QPoint line = list->visualItemRect(list->item(0)).center();
