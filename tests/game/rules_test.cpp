@@ -25,18 +25,6 @@ TEST(StatusBar, AveragesAreRoundedDown) {
   EXPECT_EQ(texts::Time(125, 5), "25:05");
 }
 
-TEST(StepHistory, HoldsAtMost32767Steps) {
-  StepHistory history;
-  for (int i = 0; i < StepHistory::kMostSteps; ++i) history.Append(i % kCells);
-  EXPECT_TRUE(history.Full());
-  EXPECT_EQ(history.StepTop(), 32767);
-  history.TakeBack();
-  EXPECT_FALSE(history.Full());
-  EXPECT_EQ(history.StepTop(), 32767);
-  history.Append(0);
-  EXPECT_EQ(history.StepTop(), 32767);
-}
-
 // At the last possible step a click changes nothing, and undoing still works.
 TEST(Game, TakesNoStepBeyondTheLast) {
   GameHome home;

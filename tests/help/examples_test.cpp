@@ -128,13 +128,6 @@ TEST(Examples, TextAndPictureShowEveryCell) {
     };
     EXPECT_EQ(count("l16 -16"), struck);  // the strokes
     EXPECT_EQ(count("font-size=\"38\""), 2U);
-    std::size_t marks = 0;
-    std::size_t digits = 0;
-    for (int cell = 0; cell < kCells; ++cell) {
-      marks += static_cast<std::size_t>(BitCount[example.marks[cell]]);
-      digits += example.digits[cell] != 0 ? 1 : 0;
-    }
-    EXPECT_GE(count("<text"), 18 + marks + digits);  // headers, marks, digits; signs write theirs once more
   }
 }
 
