@@ -11,5 +11,5 @@ cmake --build build/coverage
 find build/coverage -name '*.gcda' -delete
 ctest --test-dir build/coverage --output-on-failure -j "$(nproc)" >build/coverage/ctest.log || { cat build/coverage/ctest.log; exit 1; }
 mkdir -p build/coverage/report
-gcovr --root . --filter src/ --exclude-throw-branches --object-directory build/coverage build/coverage \
+gcovr --root . --filter src/ --exclude-throw-branches --gcov-ignore-parse-errors --object-directory build/coverage build/coverage \
   --html-details build/coverage/report/index.html --print-summary --txt

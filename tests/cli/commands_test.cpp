@@ -50,6 +50,7 @@ TEST(Usage, ErrorsAreStatusTwoWithAHint) {
       {{"solve", "--steps", "--trace"}, "exclude each other"},
       {{"generate", "extra"}, "generate: unexpected argument 'extra'"},
       {{"generate", "--seed", "18446744073709551616"}, "not '18446744073709551616'"},
+      {{"print"}, "name it with '--output'"},
       {{"stock", "new"}, "the FILE to write is missing"},
       {{"stock", "list", "a", "--stock", "b"}, "named twice"},
       {{"stock", "renew"}, "needs '--level'"},
@@ -153,7 +154,7 @@ TEST(RateAndSolve, AgreeWithThePlainSolver) {
 TEST(Rate, JobsChangeNothing) {
   const std::string input = "bad\n" + ManyPuzzles(500, 3) + "worse\n";
   for (const std::vector<std::string>& command :
-       {std::vector<std::string>{"rate", "--format=json"}, {"solve", "--steps"}}) {
+       {std::vector<std::string>{"rate", "--format=json"}, {"solve", "--steps", "--format=json"}}) {
     std::vector<std::string> words = command;
     words.insert(words.end(), {"--jobs", "1"});
     const CliResult one = RunWith(words, input);
@@ -225,6 +226,8 @@ TEST(Generate, SameSeedSamePuzzlesWhateverTheJobs) {
   ASSERT_TRUE(drawn.err.starts_with("seed "));
   EXPECT_EQ(RunWith({"generate", "--count=2", "--seed", drawn.err.substr(5, drawn.err.size() - 6)}).out,
             drawn.out);
+  EXPECT_TRUE(RunWith({"generate", "--format=json", "--seed", "1"})
+                  .out.starts_with(R"({"schema":1,"puzzle":"001000000890500000)"));
   // The first puzzle of seed 1 is a promise to users: it never changes.
   EXPECT_EQ(RunWith({"generate", "--seed", "1"}).out,
             "001000000890500000024009003063208097000050000780403210900300620000002039000000400\t"
