@@ -12,22 +12,6 @@
 namespace kestrel {
 namespace {
 
-// Asks another yield three times where it is asked once: two more calls at each step, for their cost.
-class AskThrice final : public Yield {
- public:
-  [[nodiscard]] bool KeepGoing() override {
-    for (int i = 0; i < 3; ++i) {
-      Yield* asked = &inner_;
-      benchmark::DoNotOptimize(asked);
-      if (!asked->KeepGoing()) return false;
-    }
-    return true;
-  }
-
- private:
-  NeverStop inner_;
-};
-
 class Counting final : public Yield {
  public:
   [[nodiscard]] bool KeepGoing() override {
@@ -65,7 +49,6 @@ void Puzzle(benchmark::State& state) {
 }
 BENCHMARK(Puzzle<Generator>);
 BENCHMARK(Puzzle<PlainGenerator>);
-BENCHMARK(Puzzle<Generator, AskThrice>);
 BENCHMARK(Puzzle<Generator, Counting>);
 
 std::vector<DigitGrid> SomePuzzles(std::size_t count) {

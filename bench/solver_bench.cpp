@@ -27,22 +27,6 @@ const std::vector<DigitGrid>& Puzzles() {
   return puzzles;
 }
 
-// Asks another yield three times where it is asked once: two more calls at each step, for their cost.
-class AskThrice final : public Yield {
- public:
-  [[nodiscard]] bool KeepGoing() override {
-    for (int i = 0; i < 3; ++i) {
-      Yield* asked = &inner_;
-      benchmark::DoNotOptimize(asked);
-      if (!asked->KeepGoing()) return false;
-    }
-    return true;
-  }
-
- private:
-  NeverStop inner_;
-};
-
 class Listener final : public StepObserver {
  public:
   void OnStep(const Finding& finding, const SolverState&) override { benchmark::DoNotOptimize(finding.step); }
@@ -66,12 +50,6 @@ void Rate(benchmark::State& state) {
   RateAll(state, yield, {});
 }
 BENCHMARK(Rate)->MinTime(2);
-
-void RateWithTwoMoreYieldsAStep(benchmark::State& state) {
-  AskThrice yield;
-  RateAll(state, yield, {});
-}
-BENCHMARK(RateWithTwoMoreYieldsAStep)->MinTime(2);
 
 // Giving up as soon as the level is above the argument.
 void RateUpToLevel(benchmark::State& state) {

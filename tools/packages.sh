@@ -2,7 +2,7 @@
 # Debian packages, by what they are needed for. Sourced by tools/setup.sh; nothing else lists packages.
 build_packages="g++ cmake ninja-build"
 window_packages="qt6-base-dev qt6-multimedia-dev fonts-liberation"
-test_packages="libgtest-dev poppler-utils"
+test_packages="libgtest-dev poppler-utils appstream desktop-file-utils mandoc tidy"
 check_packages="clang clang-format clang-tidy libclang-rt-14-dev"
 proof_packages="gcovr valgrind"
 bench_packages="libbenchmark-dev qqwing"

@@ -55,14 +55,13 @@ grep -E '^[0-9.]{81}' "$work/puzzles" >"$work/lines" && mv "$work/lines" "$work/
 for _ in $(seq "$rounds"); do
   user_seconds qqwing --generate $generated --symmetry rotate180 --one-line >>"$work/peer_make"
   bench_nanoseconds 'Puzzle<Generator>' >>"$work/make"
-  bench_nanoseconds 'Puzzle<Generator, AskThrice>' >>"$work/make_thrice"
   user_seconds qqwing --solve --stats --csv <"$work/puzzles" >>"$work/peer_rate"
   user_seconds $cli rate --jobs 1 "$work/puzzles" >>"$work/rate"
   bench_nanoseconds 'HundredOfALevel/5/iterations:5' >>"$work/hundred"
 done
 
 awk -v made=$generated -v rated="$(wc -l <"$work/puzzles")" -v make="$(least "$work/make")" \
-  -v thrice="$(least "$work/make_thrice")" -v peer_make="$(least "$work/peer_make")" \
+  -v peer_make="$(least "$work/peer_make")" \
   -v rate="$(least "$work/rate")" -v peer_rate="$(least "$work/peer_rate")" \
   -v hundred="$(least "$work/hundred")" 'BEGIN {
   print "| work | qqwing, a second | here, a second | ratio |"
@@ -72,5 +71,4 @@ awk -v made=$generated -v rated="$(wc -l <"$work/puzzles")" -v make="$(least "$w
   printf "| rating %d of them, from a file | %d | %d | %.1f |\n", rated, rated / peer_rate, rated / rate,
     peer_rate / rate
   printf "\nMaking and rating until 100 Very Hard ones are there: %.2f s.\n", hundred / 1e9
-  printf "Asking at every step whether to go on: %.1f %% of making.\n", (thrice - make) / 2 / make * 100
 }'

@@ -10,6 +10,7 @@
 #include "cli/puzzle_maker.h"
 #include "cli/puzzle_reader.h"
 #include "cli/rating_text.h"
+#include "core/text.h"
 
 namespace kestrel {
 namespace {

@@ -6,13 +6,12 @@
 #include <string>
 #include <string_view>
 
+#include "core/json_string.h"
+
 namespace kestrel {
 
 // The version of the objects that the commands write; goes up when a member changes its meaning.
 inline constexpr int kJsonSchema = 1;
-
-// A text as a JSON string, in quotes. Bytes that are not UTF-8 become U+FFFD.
-std::string JsonString(std::string_view text);
 
 class JsonObject {
  public:

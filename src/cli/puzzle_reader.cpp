@@ -45,12 +45,6 @@ std::string ParsePuzzle(std::string_view text, DigitGrid& givens) {
   return {};
 }
 
-std::string GridText(const DigitGrid& grid) {
-  std::string text(kCells, '0');
-  for (std::size_t i = 0; i < kCells; ++i) text[i] = static_cast<char>('0' + grid[i]);
-  return text;
-}
-
 PuzzleReader::PuzzleReader(std::vector<std::string> files, std::istream& in)
     : files_(std::move(files)), standard_input_(in) {
   if (files_.empty()) files_.emplace_back("-");

@@ -27,9 +27,6 @@ struct InputLine {
 // Returns what is wrong with them, or an empty text.
 std::string ParsePuzzle(std::string_view text, DigitGrid& givens);
 
-// The givens (or any grid) as 81 characters, '0' for an empty cell.
-std::string GridText(const DigitGrid& grid);
-
 class PuzzleReader {
  public:
   // No file names, or "-" among them: standard input, which is `in`.

@@ -10,6 +10,7 @@
 #include "cli/puzzle_reader.h"
 #include "cli/puzzle_run.h"
 #include "cli/rating_text.h"
+#include "core/text.h"
 #include "solver/solver.h"
 
 namespace kestrel {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Numbers and names as text.
+// Numbers, grids and names as text.
 #include "core/text.h"
 
 #include <charconv>
@@ -55,6 +55,12 @@ std::size_t CharacterBytes(std::string_view text) {
 std::string TwoDigits(std::int64_t value) {
   const std::string text = std::to_string(value + 100);
   return text.size() <= 2 ? text : text.substr(text.size() - 2);
+}
+
+std::string GridText(const DigitGrid& grid) {
+  std::string text;
+  for (const std::uint8_t digit : grid) text += digit <= 9 ? static_cast<char>('0' + digit) : '?';
+  return text;
 }
 
 std::optional<int> WholeNumber(std::string_view text) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Numbers and names as text. Used by the status texts, the settings and the players.
+// Numbers, grids and names as text. Used by the status texts, the settings, the players and the commands.
 #pragma once
 
 #include <cstddef>
@@ -8,11 +8,16 @@
 #include <string>
 #include <string_view>
 
+#include "core/grid.h"
+
 namespace kestrel {
 
 // The last two characters of the decimal text of value + 100: 7 gives "07", 123 gives "23". Negative values
 // follow the same rule (-5 gives "95", -95 gives "5").
 std::string TwoDigits(std::int64_t value);
+
+// The grid as 81 characters: '0' for an empty cell, '?' for a byte above 9.
+std::string GridText(const DigitGrid& grid);
 
 // The whole number that a setting holds, blanks around it allowed; nothing for any other text and for numbers
 // that do not fit into 16 bits.

@@ -11,6 +11,8 @@
 #include "cli/json.h"
 #include "cli/progress.h"
 #include "cli/puzzle_reader.h"
+#include "core/json_string.h"
+#include "core/text.h"
 #include "support/plain_solver.h"
 #include "support/temp_folder.h"
 #include "support/test_puzzles.h"
@@ -235,7 +237,7 @@ TEST(Generate, SameSeedSamePuzzlesWhateverTheJobs) {
 }
 
 TEST(Text, JsonStringsAndProgress) {
-  EXPECT_EQ(JsonString("a\"b\\c\n\x7f\xC3\xA9"), R"("a\"b\\c\u000a\u007f)"
+  EXPECT_EQ(JsonString("a\"b\\c\n\x7f\xC3\xA9"), R"("a\"b\\c\n\u007f)"
                                                  "\xC3\xA9\"");
   EXPECT_EQ(JsonString("\xC3(\xE2\x82\xF5\xED\xA0\x80"), R"("\ufffd(\ufffd\ufffd\ufffd\ufffd\ufffd\ufffd")");
   EXPECT_EQ(ProgressLine("rate", 50, 200, "12 puzzles"),

@@ -6,6 +6,7 @@
 
 #include <sstream>
 
+#include "core/json_string.h"
 #include "core/settings_file.h"
 #include "support/answering_script.h"
 #include "support/faulty_calls.h"

@@ -5,6 +5,7 @@
 #include <sstream>
 #include <vector>
 
+#include "core/json_string.h"
 #include "support/game_home.h"
 #include "ui/memory/transcript.h"
 #include "ui/script/command_line.h"

@@ -196,9 +196,11 @@ bool Renewing(GameApplication& game) {
   return game.TheFrontEnd().TheGame().State().RenewingLevel != 0;
 }
 
+// Each level while another one is selected, which takes a board that is not in play.
 void MeasureRenewals(GameApplication& game) {
+  Send(game, {"CommandSolution"});
   for (int level = 1; level <= 5; ++level) {
-    if (level == game.TheFrontEnd().TheGame().State().SelectedLevel) continue;
+    Send(game, {"OptionType", level % 5 + 1});
     StartRenewal(game, level);
     const Clock::time_point start = Clock::now();
     const double processor = ProcessorSeconds();

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "core/json_string.h"
+
 namespace kestrel {
 
 namespace {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <initializer_list>
 
+#include "core/json_string.h"
 #include "core/text.h"
 
 namespace kestrel {

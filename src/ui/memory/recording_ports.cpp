@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/json_string.h"
 #include "core/stock_file.h"
 
 namespace kestrel {

@@ -6,27 +6,6 @@
 
 namespace kestrel {
 
-std::string JsonString(std::string_view text) {
-  constexpr std::string_view kHex = "0123456789abcdef";
-  std::string json = "\"";
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (c == '"' || c == '\\') {
-      json += '\\';
-      json += c;
-    } else if (c == '\n') {
-      json += "\\n";
-    } else if (byte < 0x20) {
-      json += "\\u00";
-      json += kHex[byte >> 4U];
-      json += kHex[byte & 15U];
-    } else {
-      json += c;
-    }
-  }
-  return json + '"';
-}
-
 std::string TruthValue(bool value) {
   return value ? "true" : "false";
 }

@@ -17,9 +17,6 @@ class Transcript {
   virtual void Line(std::string_view line) = 0;
 };
 
-// The text as a JSON string, quotes included. UTF-8 stays as it is.
-std::string JsonString(std::string_view text);
-
 // "true" or "false".
 std::string TruthValue(bool value);
 

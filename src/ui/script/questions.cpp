@@ -2,6 +2,7 @@
 // The script's lines that are questions.
 #include <string>
 
+#include "core/text.h"
 #include "ui/script/parsing.h"
 #include "ui/script/properties.h"
 #include "ui/script/runner.h"

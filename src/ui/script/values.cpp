@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "core/json_string.h"
+#include "core/text.h"
 #include "ui/memory/transcript.h"
 #include "ui/script/parsing.h"
 
@@ -75,12 +77,6 @@ std::optional<std::string> ValueText(const Session& session, std::string_view na
   const auto indexed = ParseIndexedName(name);
   if (!indexed || !indexed->index) return std::nullopt;
   return IndexedValue(session, indexed->name, *indexed->index);
-}
-
-std::string GridText(const DigitGrid& grid) {
-  std::string text;
-  for (const std::uint8_t digit : grid) text += digit <= 9 ? static_cast<char>('0' + digit) : '?';
-  return text;
 }
 
 std::string PencilText(const OpenPuzzle& puzzle) {

@@ -15,9 +15,6 @@ namespace kestrel {
 // The value of a name like "StockStatus" or "CurrentNumber(3)"; nothing when there is none.
 std::optional<std::string> ValueText(const Session& session, std::string_view name);
 
-// 81 digits; a byte that is no digit as "?".
-std::string GridText(const DigitGrid& grid);
-
 // 81 masks in decimal with commas between them.
 std::string PencilText(const OpenPuzzle& puzzle);
 
