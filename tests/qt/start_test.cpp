@@ -26,6 +26,9 @@ TEST(Start, TakesTheArgumentsApart) {
   EXPECT_TRUE(Parse({"--help"}, error)->help);
   EXPECT_FALSE(Parse({"--scale", "3"}, error));
   EXPECT_EQ(error, "--scale takes 1, 1.25, 1.5 or 2, not 3");
+  EXPECT_EQ(FittingScale(2, 2), 2);
+  EXPECT_EQ(FittingScale(2, 1.6), 1.5);
+  EXPECT_EQ(FittingScale(1.25, 0.9), 1);
   EXPECT_FALSE(Parse({"--home"}, error));
   EXPECT_EQ(error, "--home needs a value");
   EXPECT_FALSE(Parse({"puzzle.kpz"}, error));

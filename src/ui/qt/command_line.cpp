@@ -47,6 +47,14 @@ std::optional<double> ParseScale(std::string_view text) {
   return std::nullopt;
 }
 
+double FittingScale(double wanted, double room) {
+  double fitting = 1;
+  for (const auto& [name, value] : kScales) {
+    if (value <= wanted && value <= room) fitting = value;
+  }
+  return fitting;
+}
+
 std::optional<GameOptions> ParseGameArguments(std::span<const char* const> arguments, std::string& error) {
   GameOptions options;
   for (std::size_t i = 0; i < arguments.size(); ++i) {

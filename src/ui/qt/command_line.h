@@ -30,4 +30,8 @@ std::string_view GameHelp();
 // A scale as the option and the setting spell it; nothing for all but "1", "1.25", "1.5" and "2".
 std::optional<double> ParseScale(std::string_view text);
 
+// The largest scale up to the wanted one that is not above `room`, the scale at which the window would just
+// fill the screen; at least 1.
+double FittingScale(double wanted, double room);
+
 }  // namespace kestrel

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/game_application.h"
 
+#include <QScreen>
+#include <algorithm>
+#include <cstdio>
 #include <filesystem>
 #include <system_error>
+
+#include "ui/controls/main_window.h"
 
 namespace kestrel {
 
@@ -34,6 +39,21 @@ class ScaleForQt {
   bool was_set_;
 };
 
+// Off screen, windows may be larger than what stands in for a screen.
+bool HasRealScreen() {
+  return QGuiApplication::primaryScreen() != nullptr &&
+         QGuiApplication::platformName() != QLatin1String("offscreen");
+}
+
+// How many times larger the screen is than the main window with its title bar, in the tighter direction.
+double ScreensInWindows() {
+  constexpr double kTitleBar = 30;
+  const Window window = MakeMainWindow().window;
+  const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+  return std::min(screen.width() / (1.0 * window.width / kTwipsPerPixel),
+                  screen.height() / (1.0 * window.height / kTwipsPerPixel + kTitleBar));
+}
+
 // The working folder may change while the program runs, the game's folders must not.
 std::string Absolute(const std::string& path) {
   if (path.empty()) return path;
@@ -59,8 +79,20 @@ GameApplication::GameApplication(const GameOptions& options, const std::string& 
       program_.folder + "/help", Unattended());
 }
 
+// What size the screen has at a scale is known only when the application has been made with it.
 void GameApplication::MakeApplication(char** argv) {
-  const ScaleForQt for_qt(ChooseScale(options_, settings_));
+  const double wanted = ChooseScale(options_, settings_);
+  MakeApplication(argv, wanted);
+  if (wanted == 1 || !HasRealScreen()) return;
+  const double fitting = FittingScale(wanted, wanted * ScreensInWindows());
+  if (fitting == wanted) return;
+  std::fprintf(stderr, "kestrel-sudoku: the screen is too small for scale %g; %g is used\n", wanted, fitting);
+  application_.reset();
+  MakeApplication(argv, fitting);
+}
+
+void GameApplication::MakeApplication(char** argv, double scale) {
+  const ScaleForQt for_qt(scale);
   // One look everywhere, whatever the desktop's theme is.
   QApplication::setDesktopSettingsAware(false);
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);

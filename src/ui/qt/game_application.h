@@ -30,6 +30,7 @@ class GameApplication {
  private:
   [[nodiscard]] bool Unattended() const { return !options_.screenshot.empty(); }
   void MakeApplication(char** argv);
+  void MakeApplication(char** argv, double scale);
 
   GameOptions options_;
   std::string home_;
