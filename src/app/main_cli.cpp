@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // kestrel-sudoku-cli: joins the commands with the host's streams and files.
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -27,6 +28,11 @@ void FillClosedStreams() {
   for (int file = 0; file <= 2; ++file) {
     if (fcntl(file, F_GETFD) == -1) (void)open("/dev/null", O_RDONLY);
   }
+}
+
+bool ReaderLeft() {
+  pollfd output{.fd = STDOUT_FILENO, .events = POLLOUT, .revents = 0};
+  return poll(&output, 1, 0) == 1 && (output.revents & POLLERR) != 0;
 }
 
 // The user's stock, which the game keeps in its folder.
@@ -61,8 +67,8 @@ int main(int argc, char** argv) {
   SystemCalls calls;
   HostFiles files(calls, PathForm::kHost);
   ClockSeeds seeds;
-  CliPorts ports{std::cin, std::cout, std::cerr,   isatty(STDERR_FILENO) == 1,
-                 files,    seeds,     UserStock(), ShippedStock()};
+  CliPorts ports{std::cin,    std::cout,      std::cerr, isatty(STDERR_FILENO) == 1, files, seeds,
+                 UserStock(), ShippedStock(), ReaderLeft};
   const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
   return static_cast<int>(RunCli(words, ports));
 }

@@ -18,11 +18,12 @@ struct CliPorts {
   std::istream& in;
   std::ostream& out;
   std::ostream& err;
-  bool err_is_terminal;       // whether progress is shown
-  Files& files;               // for stock files; paths as the user types them
-  SeedSource& seeds;          // where a seed comes from when none is given
-  std::string user_stock;     // the stock that the game plays from
-  std::string shipped_stock;  // the one that came with the program; empty when it is not known
+  bool err_is_terminal;             // whether progress is shown
+  Files& files;                     // for stock files; paths as the user types them
+  SeedSource& seeds;                // where a seed comes from when none is given
+  std::string user_stock;           // the stock that the game plays from
+  std::string shipped_stock;        // the one that came with the program; empty when it is not known
+  bool (*reader_left)() = nullptr;  // whether whoever reads `out` has gone, as `head` does; null: cannot tell
 };
 
 extern const CommandSpec kRateSpec;

@@ -91,7 +91,8 @@ ExitStatus RunCli(std::span<const std::string> words, CliPorts& ports) {
   const ExitStatus status = Dispatch(words, ports);
   ports.out.flush();
   if (ports.out) return status;
-  PrintError(ports, "standard output could not be written");
+  const bool had_enough = ports.reader_left != nullptr && ports.reader_left();
+  if (!had_enough) PrintError(ports, "standard output could not be written");
   return ExitStatus::kFailure;
 }
 
