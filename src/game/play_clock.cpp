@@ -13,7 +13,6 @@ constexpr int kSecondsPerDay = 86400;
 
 void PlayClock::Start() {
   StartSecond = clock_.SecondsOfDay();
-  ElapsedSeconds = 0;
   ClockStopped = false;
   main_.Timer1.enabled = true;
   main_.LabelTijd.caption = texts::Time(0, 0);

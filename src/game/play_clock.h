@@ -15,8 +15,7 @@ class PlayClock {
   // Both must outlive this object.
   PlayClock(Clock& clock, MainWindow& main) : clock_(clock), main_(main) {}
 
-  // Starts at 00:00. The old time is forgotten at once, so that a pause before the first tick keeps nothing
-  // of it.
+  // Starts at 00:00. ElapsedSeconds keeps the old time until the first tick.
   void Start();
 
   // Stops the timer; the display keeps the time.
@@ -37,7 +36,7 @@ class PlayClock {
   void ClearPause() { PausedMinutes = PausedSeconds = 0; }
 
   std::int32_t StartSecond = 0;  // time of day at which the clock would have read 0; below 0 after a penalty
-  std::int32_t ElapsedSeconds = 0;  // the clock value
+  std::int32_t ElapsedSeconds = 0;  // the clock value, as of the last tick
   bool ClockPaused = false;         // a value is saved in the next two
   std::int32_t PausedMinutes = 0;
   std::int32_t PausedSeconds = 0;

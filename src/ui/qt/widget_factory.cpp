@@ -135,6 +135,8 @@ class MirroredTimer final : public MirroredControl {
     if (control_.enabled == timer_.isActive()) return;
     if (control_.enabled) {
       timer_.start();
+      // Till the first tick the clock holds the time of the puzzle before; a pause must not find that.
+      QTimer::singleShot(0, &timer_, [this] { Send(EventKind::Timer); });
     } else {
       timer_.stop();
     }
