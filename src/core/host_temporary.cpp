@@ -40,6 +40,13 @@ bool LinksAreUnknown() {
   return errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS || errno == EMLINK;
 }
 
+bool IsNameOf(SystemCalls& calls, const std::string& path, int file) {
+  struct stat named {};
+  struct stat open {};
+  return calls.Lstat(path, named) == 0 && calls.Fstat(file, open) == 0 && named.st_dev == open.st_dev &&
+         named.st_ino == open.st_ino;
+}
+
 }  // namespace
 
 HostTemporary::~HostTemporary() {
@@ -60,9 +67,14 @@ bool HostTemporary::Create(mode_t mode) {
     file_ = Uninterrupted([&] { return calls_.Open(path, O_WRONLY | O_CREAT | O_EXCL, mode); });
     if (file_ < 0 && errno == EEXIST) continue;
     if (file_ < 0) return false;
-    path_ = path;
-    if (Lock()) return true;
-    Discard();
+    if (Lock()) {
+      path_ = path;
+      return true;
+    }
+    // Whoever has the lock deletes the name. Done here, it could come in the way of the next file of that
+    // name.
+    calls_.Close(file_);
+    file_ = -1;
   }
   errno = EEXIST;
   return false;
@@ -135,10 +147,8 @@ void SweepTemporaries(SystemCalls& calls, const std::string& folder) {
     if (!IsTemporaryName(name)) continue;
     const int file = calls.Open(folder + name, O_RDWR | O_NOFOLLOW | O_NONBLOCK, 0);
     if (file < 0) continue;
-    // Without any name left, it was swept by another one meanwhile, and the name may have a new owner.
-    struct stat status {};
-    const bool abandoned =
-        calls.Flock(file, LOCK_EX | LOCK_NB) == 0 && calls.Fstat(file, status) == 0 && status.st_nlink > 0;
+    // Its owner may have renamed it and made the next one of that name meanwhile.
+    const bool abandoned = calls.Flock(file, LOCK_EX | LOCK_NB) == 0 && IsNameOf(calls, folder + name, file);
     if (abandoned) calls.Unlink(folder + name);
     calls.Close(file);
   }

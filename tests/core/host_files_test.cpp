@@ -199,6 +199,23 @@ TEST(HostFiles, OnlyAbandonedTemporariesAreSwept) {
   EXPECT_TRUE(alive.RenameTo(folder.Path("target")));
 }
 
+// Its owner finishes a temporary and makes the next of the same name between the sweeper's look and its lock.
+TEST(HostFiles, SweepersLeaveTheNextTemporaryOfTheSameNameAlone) {
+  struct BusyOwner final : SystemCalls {
+    bool Allowed(Call call) override {
+      if (call == Call::kFlock) {
+        fs::rename(folder.Path(".kestrel-1-0.tmp"), folder.Path("target"));
+        folder.Put(".kestrel-1-0.tmp", kNew);
+      }
+      return true;
+    }
+    TempFolder folder;
+  } calls;
+  calls.folder.Put(".kestrel-1-0.tmp", kOld);
+  SweepTemporaries(calls, calls.folder.Path().string() + "/");
+  EXPECT_EQ(calls.folder.Get(".kestrel-1-0.tmp"), kNew);
+}
+
 TEST(HostFiles, PermissionsAreKeptAndNewFilesAreTheUsersOwn) {
   TempFolder folder;
   SystemCalls calls;
