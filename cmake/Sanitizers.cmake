@@ -4,6 +4,6 @@ if(KESTREL_SANITIZE)
   add_link_options(-fsanitize=${KESTREL_SANITIZE})
 endif()
 if(KESTREL_COVERAGE)
-  add_compile_options(--coverage -O0)
+  add_compile_options(--coverage -fprofile-update=atomic -O0)  # atomic: some code runs in several threads
   add_link_options(--coverage)
 endif()
