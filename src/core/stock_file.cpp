@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+#include "core/global.h"
+
 namespace kestrel {
 
 namespace {
@@ -98,7 +100,7 @@ FileResult Write(Files& files, std::string_view path, const StockTable& table, M
   if (!files.Read(path, kStockBytes, content)) {
     // Replaced all the same: a file on a bad spot of the disk is healed by that. Perhaps it can be copied
     // now.
-    if (files.Exists(path)) (void)files.KeepAside(path);
+    if (FileExists(files, path)) (void)files.KeepAside(path);
     return files.Replace(path, EncodeStock(table));
   }
   return files.Update(path, kLongestStock, [&](Bytes& bytes) {
@@ -119,7 +121,7 @@ FileResult Write(Files& files, std::string_view path, const StockTable& table, M
 
 void CopyStockIfMissing(Files& files, std::string_view program_folder, std::string_view data_folder) {
   const std::string stock = StockPath(data_folder);
-  if (files.Exists(stock)) return;
+  if (FileExists(files, stock)) return;
   (void)files.Copy(StockPath(program_folder), stock);
 }
 

@@ -181,6 +181,8 @@ TEST(Solve, GridAndJson) {
                     R"(2: places 3 in C5"},{"number":2,)"),
       std::string::npos)
       << json.out;
+  const CliResult trace = RunWith({"solve", "--trace", "--format", "json"}, input);
+  EXPECT_NE(trace.out.find(R"("trace":[1,)"), std::string::npos) << trace.out;
 }
 
 // A sentence for every form of every technique, each from the solution of a puzzle. Read them when you change
