@@ -8,8 +8,8 @@ cd "$(dirname "$0")/.."
 install $build_packages $test_packages $proof_packages
 cmake --preset coverage >/dev/null
 cmake --build build/coverage
-# Not the kills: a program killed while it writes its counts spoils those of the others.
 find build/coverage -name '*.gcda' -delete
+# Not the kills: a program killed while it writes its counts spoils those of the others.
 ctest --test-dir build/coverage -E Kills --output-on-failure -j "$(nproc)" >build/coverage/ctest.log || { cat build/coverage/ctest.log; exit 1; }
 mkdir -p build/coverage/report
 gcovr --root . --filter src/ --exclude-throw-branches --gcov-ignore-parse-errors --object-directory build/coverage build/coverage \

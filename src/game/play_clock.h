@@ -36,7 +36,7 @@ class PlayClock {
   void ClearPause() { PausedMinutes = PausedSeconds = 0; }
 
   std::int32_t StartSecond = 0;  // time of day at which the clock would have read 0; below 0 after a penalty
-  std::int32_t ElapsedSeconds = 0;  // the clock value, as of the last tick
+  std::int32_t ElapsedSeconds = 0;  // the clock value, as of the last tick, resume or penalty
   bool ClockPaused = false;         // a value is saved in the next two
   std::int32_t PausedMinutes = 0;
   std::int32_t PausedSeconds = 0;

@@ -136,7 +136,9 @@ class MirroredTimer final : public MirroredControl {
     if (control_.enabled) {
       timer_.start();
       // Till the first tick the clock holds the time of the puzzle before; a pause must not find that.
-      QTimer::singleShot(0, &timer_, [this] { Send(EventKind::Timer); });
+      QTimer::singleShot(0, &timer_, [this] {
+        if (timer_.isActive()) Send(EventKind::Timer);
+      });
     } else {
       timer_.stop();
     }
