@@ -1,25 +1,27 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # Checks that includes run one way only: tools/check_includes.sh [SOURCE_FOLDER]
-# Every folder of src/ may include itself and the folders of its row, nothing else (docs/architecture.md).
+# Every folder of src/ may include itself and the folders of its row, nothing else (docs/architecture.md), and a file
+# that names a fixed-width integer includes <cstdint> itself.
 set -eu
 cd "${1:-src}"
 
 allowed() {
+  logic="core forms solver hint generator media"
   case $1 in
     core) ;;
-    ui/controls) echo core ;;
-    ui/ports) echo core ui/controls ;;
-    solver) echo core ;;
-    media) echo core ui/controls ui/ports ;;
-    hint | generator) echo core solver ;;
-    players) echo core ui/controls ui/ports media ;;
-    print) echo core ui/controls ui/ports solver ;;
-    game) echo core ui/controls ui/ports solver media hint generator players print ;;
-    cli) echo core solver generator print ui/ports ;;
-    ui/memory | ui/qt) echo core ui/controls ui/ports solver media hint generator players print game ;;
-    ui/script) echo core ui/controls ui/ports solver media hint generator players print game ui/memory ;;
-    app) echo core ui/controls ui/ports solver media hint generator players print game cli ui/memory ui/qt ui/script ;;
+    host | forms | solver) echo core ;;
+    hint | generator | explain) echo core solver ;;
+    media) echo core forms ;;
+    stock) echo core solver generator explain ;;
+    players) echo core forms media ;;
+    print) echo core forms solver ;;
+    game) echo "$logic" explain players print ;;
+    cli) echo core host forms solver generator explain print stock ;;
+    ui/memory) echo "$logic" players print game ;;
+    ui/qt) echo "$logic" host explain players print game ;;
+    ui/script) echo "$logic" host players print game ui/memory ;;
+    app) echo "$logic" host explain stock players print game cli ui/memory ui/qt ui/script ;;
     *) echo "unknown folder $1" >&2; exit 1 ;;
   esac
 }
@@ -32,5 +34,10 @@ for folder in $(find . -name '*.cpp' -o -name '*.h' | sed 's|^\./||; s|/[^/]*$||
   done
   case $folder in ui/qt | app) continue ;; esac
   if grep -ln '#include <Q' "$folder"/* 2>/dev/null; then echo "$folder must not include Qt"; bad=1; fi
+done
+for file in $(grep -rlE '\bu?int(8|16|32|64)_t\b' --include='*.cpp' --include='*.h' .); do
+  grep -q '#include <cstdint>' "$file" && continue
+  echo "$file uses a fixed-width integer without <cstdint>"
+  bad=1
 done
 exit $bad

@@ -5,18 +5,17 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <filesystem>
 #include <iostream>
 #include <string>
-#include <system_error>
 #include <vector>
 
 #include "cli/run.h"
-#include "core/host_clock.h"
-#include "core/host_files.h"
-#include "core/host_folders.h"
 #include "core/stock_file.h"
 #include "game/names.h"
+#include "host/host_clock.h"
+#include "host/host_files.h"
+#include "host/host_folders.h"
+#include "host/program_folder.h"
 
 namespace {
 
@@ -43,16 +42,10 @@ std::string UserStock() {
   return folder.append("/").append(names::kDataFolder).append("/").append(kStockFileName);
 }
 
-// The stock that was installed with this program or, for a program that runs where it was built, that of the
-// source; empty when there is none.
-std::string ShippedStock() {
-  std::error_code error;
-  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
-  for (const char* folder : {KESTREL_SHARE_FROM_BIN, KESTREL_DATA_FROM_BUILD}) {
-    const std::filesystem::path stock = program.parent_path() / folder / kStockFileName;
-    if (std::filesystem::exists(stock, error)) return stock.lexically_normal().string();
-  }
-  return "";
+// The stock that was installed with this program; empty when there is none.
+std::string ShippedStock(Files& files) {
+  const std::string stock = ProgramFolder().append("/").append(kStockFileName);
+  return files.Exists(stock) ? stock : "";
 }
 
 }  // namespace
@@ -67,8 +60,8 @@ int main(int argc, char** argv) {
   SystemCalls calls;
   HostFiles files(calls, PathForm::kHost);
   ClockSeeds seeds;
-  CliPorts ports{std::cin,    std::cout,      std::cerr, isatty(STDERR_FILENO) == 1, files, seeds,
-                 UserStock(), ShippedStock(), ReaderLeft};
+  CliPorts ports{std::cin,    std::cout,           std::cerr, isatty(STDERR_FILENO) == 1, files, seeds,
+                 UserStock(), ShippedStock(files), ReaderLeft};
   const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
   return static_cast<int>(RunCli(words, ports));
 }

@@ -2,30 +2,21 @@
 // kestrel-sudoku-script: plays the game by a script.
 #include <cerrno>
 #include <csignal>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <span>
 #include <string>
 #include <system_error>
 
-#include "core/host_files.h"
 #include "core/yield.h"
+#include "host/host_files.h"
+#include "host/program_folder.h"
 #include "ui/script/command_line.h"
 #include "ui/script/runner.h"
 
 namespace {
 
 using namespace kestrel;
-
-// The data that belongs to this program: where it was installed, or in the tree that it was built from.
-std::string ProgramFolder() {
-  std::error_code error;
-  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-  const std::filesystem::path installed = program / KESTREL_SHARE_FROM_BIN;
-  const bool is_installed = std::filesystem::is_directory(installed, error);
-  return (is_installed ? installed : program / KESTREL_DATA_FROM_BUILD).lexically_normal().string();
-}
 
 int Play(const ScriptCommand& command) {
   std::ifstream file;

@@ -2,27 +2,17 @@
 // kestrel-sudoku: the game in its window.
 #include <csignal>
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
 #include <span>
 #include <string>
-#include <system_error>
 
-#include "ui/qt/command_line.h"
+#include "host/command_line.h"
+#include "host/program_folder.h"
 #include "ui/qt/game_application.h"
 
 namespace {
 
 using namespace kestrel;
-
-// The data that belongs to this program: where it was installed, or in the tree that it was built from.
-std::string DataOfProgram() {
-  std::error_code error;
-  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-  const std::filesystem::path installed = program / KESTREL_SHARE_FROM_BIN;
-  const bool is_installed = std::filesystem::is_directory(installed, error);
-  return (is_installed ? installed : program / KESTREL_DATA_FROM_BUILD).lexically_normal().string();
-}
 
 // Keeps the platform's own messages off the terminal; what matters to the player comes in boxes.
 void DropMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
@@ -64,5 +54,5 @@ int main(int argc, char** argv) {
   }
   if (!HasDisplay()) return Complain("there is no display; --screenshot FILE works without one");
   if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES")) qInstallMessageHandler(DropMessage);
-  return GameApplication(*options, options->program.empty() ? DataOfProgram() : options->program, argv).Run();
+  return GameApplication(*options, options->program.empty() ? ProgramFolder() : options->program, argv).Run();
 }

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 // `generate`: new puzzles, of any level or of one.
 #include <array>
+#include <cstdint>
 #include <ostream>
 #include <string>
 
 #include "cli/command.h"
 #include "cli/json.h"
 #include "cli/progress.h"
-#include "cli/puzzle_maker.h"
 #include "cli/puzzle_reader.h"
 #include "cli/rating_text.h"
 #include "core/text.h"
+#include "stock/puzzle_maker.h"
 
 namespace kestrel {
 namespace {

@@ -2,6 +2,7 @@
 #include "cli/progress.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <ostream>
 #include <utility>
 

@@ -2,13 +2,14 @@
 #include "cli/puzzle_run.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <ostream>
 #include <utility>
 
 #include "cli/json.h"
-#include "cli/ordered_work.h"
 #include "cli/progress.h"
 #include "cli/puzzle_reader.h"
+#include "stock/ordered_work.h"
 
 namespace kestrel {
 namespace {

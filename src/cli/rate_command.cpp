@@ -9,9 +9,9 @@
 #include "cli/puzzle_reader.h"
 #include "cli/puzzle_run.h"
 #include "cli/rating_text.h"
-#include "cli/solution_counter.h"
 #include "core/text.h"
 #include "solver/solver.h"
+#include "stock/solution_counter.h"
 
 namespace kestrel {
 namespace {

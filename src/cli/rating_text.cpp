@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/rating_text.h"
 
+#include <cstdint>
+
 #include "cli/json.h"
 
 namespace kestrel {
-
-SlotCounts CountsBySlot(const TechniqueCounters& counters) {
-  SlotCounts counts{};
-  for (int slot = 0; slot < kTechniques; ++slot) counts[slot] = counters[kCounterOfSlot[slot]];
-  return counts;
-}
 
 std::string CountsHeader() {
   std::string text;

@@ -2,8 +2,6 @@
 // Ratings as text: counts in the order of the window and of the stock file. Used by the commands.
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <string>
 
 #include "core/grid.h"
@@ -12,10 +10,6 @@
 #include "solver/technique_table.h"
 
 namespace kestrel {
-
-// Technique counts by display slot, as a SudokuRecord has them.
-using SlotCounts = std::array<std::int16_t, kTechniques>;
-SlotCounts CountsBySlot(const TechniqueCounters& counters);
 
 // The 22 abbreviations, or counts, with tabs between them.
 std::string CountsHeader();

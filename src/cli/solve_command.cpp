@@ -5,12 +5,12 @@
 #include <string_view>
 
 #include "cli/command.h"
-#include "cli/explain.h"
 #include "cli/json.h"
 #include "cli/puzzle_reader.h"
 #include "cli/puzzle_run.h"
 #include "cli/rating_text.h"
 #include "core/text.h"
+#include "explain/explain.h"
 #include "solver/solver.h"
 
 namespace kestrel {

@@ -2,6 +2,7 @@
 // `stock verify`, `stock list` and `stock export`: the commands that only read a stock.
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <ostream>
 #include <string>
@@ -10,8 +11,8 @@
 #include "cli/json.h"
 #include "cli/progress.h"
 #include "cli/rating_text.h"
-#include "cli/stock_check.h"
 #include "cli/stock_path.h"
+#include "stock/stock_check.h"
 
 namespace kestrel {
 namespace {

@@ -2,15 +2,16 @@
 // `stock new`: a complete stock of 500 puzzles.
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <ostream>
 #include <string>
 
 #include "cli/command.h"
 #include "cli/progress.h"
-#include "cli/stock_check.h"
-#include "cli/stock_maker.h"
 #include "cli/stock_path.h"
 #include "core/stock_file.h"
+#include "stock/stock_check.h"
+#include "stock/stock_maker.h"
 
 namespace kestrel {
 namespace {

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 // `stock renew`: new puzzles for one level of a stock.
 #include <array>
+#include <cstdint>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "cli/command.h"
 #include "cli/progress.h"
-#include "cli/puzzle_maker.h"
 #include "cli/stock_path.h"
 #include "core/stock_file.h"
+#include "stock/puzzle_maker.h"
 
 namespace kestrel {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The time of day. Used by the game's clock; implemented by core/host_clock.h.
+// The time of day. Used by the game's clock; implemented by host/host_clock.h.
 #pragma once
 
 namespace kestrel {

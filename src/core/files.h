@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The files of the program as its logic sees them. Implemented by core/host_files.h.
+// The files of the program as its logic sees them. Implemented by host/host_files.h.
 //
 // Paths are in the written form: the host's folder, then parts with backslashes between them; a folder ends
 // in a backslash ("/users/ann/.local/share\KestrelSudoku\sudstock.kpz"). Only the implementation turns

@@ -12,7 +12,7 @@ namespace kestrel {
 // The shell's number of the user's local application data folder.
 inline constexpr int kLocalAppData = 28;
 
-// Where the host keeps its special folders. Implemented by core/host_folders.h.
+// Where the host keeps its special folders. Implemented by host/host_folders.h.
 class SpecialFolders {
  public:
   SpecialFolders() = default;

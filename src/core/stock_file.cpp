@@ -3,6 +3,7 @@
 #include "core/stock_file.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <string>
 

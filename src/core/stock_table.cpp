@@ -3,6 +3,7 @@
 #include "core/stock_table.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <type_traits>
 
 namespace kestrel {

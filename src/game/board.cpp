@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "game/board.h"
 
+#include <cstdint>
 #include <string>
 
 namespace kestrel {

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "core/open_puzzle.h"
-#include "ui/controls/main_window.h"
+#include "forms/main_window.h"
 
 namespace kestrel {
 

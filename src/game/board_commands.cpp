@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "game/board_commands.h"
 
+#include <cstdint>
+
 namespace kestrel {
 
 namespace {

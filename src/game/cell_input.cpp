@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "game/cell_input.h"
 
+#include <cstdint>
+
 #include "game/completion.h"
 
 namespace kestrel {

@@ -2,6 +2,8 @@
 // What a mouse release on the board does: assign or discard a digit, select a row or column. Used by Game.
 #pragma once
 
+#include <cstdint>
+
 #include "game/session.h"
 
 namespace kestrel {

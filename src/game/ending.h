@@ -3,9 +3,9 @@
 #pragma once
 
 #include "core/yield.h"
-#include "ui/ports/asker.h"
-#include "ui/ports/ports.h"
-#include "ui/ports/screen.h"
+#include "forms/asker.h"
+#include "forms/ports.h"
+#include "forms/screen.h"
 
 namespace kestrel {
 

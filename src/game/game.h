@@ -3,9 +3,9 @@
 // program's start, driven by its front end.
 #pragma once
 
+#include "forms/ports.h"
 #include "game/renewal.h"
 #include "game/session.h"
-#include "ui/ports/ports.h"
 
 namespace kestrel {
 

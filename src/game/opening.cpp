@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "game/opening.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 

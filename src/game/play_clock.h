@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "core/clock.h"
-#include "ui/controls/main_window.h"
+#include "forms/main_window.h"
 
 namespace kestrel {
 

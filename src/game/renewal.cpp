@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "game/renewal.h"
 
+#include <cstdint>
 #include <string>
 
 #include "game/texts.h"

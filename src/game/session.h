@@ -12,6 +12,8 @@
 #include "core/open_puzzle.h"
 #include "core/stock_file.h"
 #include "core/stock_table.h"
+#include "forms/forms.h"
+#include "forms/ports.h"
 #include "game/board.h"
 #include "game/ending.h"
 #include "game/play_clock.h"
@@ -21,8 +23,6 @@
 #include "players/players.h"
 #include "players/players_dialog.h"
 #include "print/print_dialog.h"
-#include "ui/controls/forms.h"
-#include "ui/ports/ports.h"
 
 namespace kestrel {
 

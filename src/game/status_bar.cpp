@@ -2,9 +2,10 @@
 #include "game/status_bar.h"
 
 #include <algorithm>
+#include <cstdint>
 
+#include "forms/texts.h"
 #include "game/texts.h"
-#include "ui/controls/texts.h"
 
 namespace kestrel {
 

@@ -2,6 +2,7 @@
 // The texts of the status bar. Used by opening and completion.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "core/stock_table.h"

@@ -2,6 +2,8 @@
 // The composed texts of the main window.
 #include "game/texts.h"
 
+#include <cstdint>
+
 #include "core/text.h"
 
 namespace kestrel::texts {

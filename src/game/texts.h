@@ -2,6 +2,7 @@
 // The texts of the main window that are not fixed captions: messages, questions, caption, status bar.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 

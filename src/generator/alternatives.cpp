@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "generator/alternatives.h"
 
+#include <cstdint>
+
 #include "generator/board_tables.h"
 
 namespace kestrel {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "generator/deviation.h"
 
+#include <cstdint>
+
 #include "generator/board_tables.h"
 
 namespace kestrel {

@@ -2,6 +2,7 @@
 #include "generator/full_grid.h"
 
 #include <bit>
+#include <cstdint>
 #include <cstring>
 #include <memory>
 #include <utility>

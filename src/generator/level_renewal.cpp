@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "generator/level_renewal.h"
 
+#include <cstdint>
+
 #include "solver/solver.h"
 
 namespace kestrel {

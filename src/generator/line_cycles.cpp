@@ -2,6 +2,7 @@
 #include "generator/line_cycles.h"
 
 #include <bit>
+#include <cstdint>
 
 #include "generator/random_order.h"
 

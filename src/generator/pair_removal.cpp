@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "generator/pair_removal.h"
 
+#include <cstdint>
+
 #include "generator/board_tables.h"
 #include "generator/deviation.h"
 

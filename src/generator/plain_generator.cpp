@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "generator/plain_generator.h"
 
+#include <cstdint>
 #include <utility>
 
 namespace kestrel {

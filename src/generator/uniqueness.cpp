@@ -2,6 +2,7 @@
 #include "generator/uniqueness.h"
 
 #include <array>
+#include <cstdint>
 
 #include "generator/board_tables.h"
 #include "generator/deviation.h"

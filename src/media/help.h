@@ -4,9 +4,9 @@
 
 #include <string_view>
 
-#include "ui/controls/browser_form.h"
-#include "ui/ports/help_window.h"
-#include "ui/ports/screen.h"
+#include "forms/browser_form.h"
+#include "forms/help_window.h"
+#include "forms/screen.h"
 
 namespace kestrel {
 

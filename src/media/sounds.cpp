@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "media/sounds.h"
 
+#include <cstdint>
 #include <string>
 
 namespace kestrel {

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "ui/ports/sound_device.h"
+#include "forms/sound_device.h"
 
 namespace kestrel {
 

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "core/files.h"
-#include "ui/ports/asker.h"
-#include "ui/ports/shell.h"
+#include "forms/asker.h"
+#include "forms/shell.h"
 
 namespace kestrel {
 

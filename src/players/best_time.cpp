@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "players/best_time.h"
 
+#include <cstdint>
+
 namespace kestrel {
 
 bool IsNewBestTime(const OpenPuzzle& puzzle, std::int32_t seconds) {

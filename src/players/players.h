@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/settings.h"
-#include "ui/controls/names_form.h"
+#include "forms/names_form.h"
 
 namespace kestrel {
 

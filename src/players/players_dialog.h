@@ -9,10 +9,10 @@
 #include <string>
 
 #include "core/settings.h"
+#include "forms/asker.h"
+#include "forms/names_form.h"
+#include "forms/screen.h"
 #include "players/players.h"
-#include "ui/controls/names_form.h"
-#include "ui/ports/asker.h"
-#include "ui/ports/screen.h"
 
 namespace kestrel {
 

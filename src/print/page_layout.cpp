@@ -7,10 +7,10 @@
 #include <string>
 
 #include "core/text.h"
+#include "forms/texts.h"
 #include "print/names.h"
 #include "print/texts.h"
 #include "solver/technique_table.h"
-#include "ui/controls/texts.h"
 
 namespace kestrel {
 

@@ -4,12 +4,13 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 #include "core/stock_table.h"
+#include "forms/page.h"
 #include "print/page_metrics.h"
 #include "print/print_settings.h"
-#include "ui/ports/page.h"
 
 namespace kestrel {
 

@@ -5,10 +5,11 @@
 
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <initializer_list>
 
+#include "forms/texts.h"
 #include "print/standard_fonts.h"
-#include "ui/controls/texts.h"
 
 namespace kestrel {
 

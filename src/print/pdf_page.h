@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "core/files.h"
-#include "ui/ports/page.h"
+#include "forms/page.h"
 
 namespace kestrel {
 

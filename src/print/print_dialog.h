@@ -8,13 +8,13 @@
 #include <string_view>
 
 #include "core/stock_table.h"
+#include "forms/asker.h"
+#include "forms/event.h"
+#include "forms/page.h"
+#include "forms/print_form.h"
+#include "forms/screen.h"
 #include "print/page_metrics.h"
 #include "print/print_settings.h"
-#include "ui/controls/event.h"
-#include "ui/controls/print_form.h"
-#include "ui/ports/asker.h"
-#include "ui/ports/page.h"
-#include "ui/ports/screen.h"
 
 namespace kestrel {
 

@@ -2,10 +2,10 @@
 // The PDF file of the command line, and the check of what it is asked for.
 #include "print/print_job.h"
 
+#include "forms/texts.h"
 #include "print/page_layout.h"
 #include "print/pdf_page.h"
 #include "print/texts.h"
-#include "ui/controls/texts.h"
 
 namespace kestrel {
 

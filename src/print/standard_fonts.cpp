@@ -3,6 +3,7 @@
 #include "print/standard_fonts.h"
 
 #include <array>
+#include <cstdint>
 
 namespace kestrel {
 

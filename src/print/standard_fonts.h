@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "ui/controls/control.h"
+#include "forms/control.h"
 
 namespace kestrel {
 

@@ -10,6 +10,7 @@
 //         . . . t | . . Y | . . .        X and Y are the only 4s of their column
 #include <array>
 #include <bit>
+#include <cstdint>
 
 #include "solver/describe.h"
 #include "solver/techniques.h"

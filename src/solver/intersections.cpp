@@ -15,6 +15,7 @@
 // with more (line 2). So 512 table entries answer both, and the columns are the same thing turned.
 #include <array>
 #include <bit>
+#include <cstdint>
 
 #include "solver/describe.h"
 #include "solver/techniques.h"

@@ -3,6 +3,8 @@
 // and tests; the hints use FirstTechnique.
 #pragma once
 
+#include <cstdint>
+
 #include "core/grid.h"
 #include "core/yield.h"
 #include "solver/finding.h"

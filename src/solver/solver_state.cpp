@@ -2,6 +2,8 @@
 // Keeps the three forms of the candidates in step.
 #include "solver/solver_state.h"
 
+#include <cstdint>
+
 namespace kestrel {
 namespace {
 

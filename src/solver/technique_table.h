@@ -72,6 +72,14 @@ inline constexpr std::array<int, kTechniques> kSlotOfCounter = [] {
   return slot_of_counter;
 }();
 
+// Technique counts by display slot, as a SudokuRecord has them.
+using SlotCounts = std::array<std::int16_t, kTechniques>;
+constexpr SlotCounts CountsBySlot(const TechniqueCounters& counters) {
+  SlotCounts counts{};
+  for (int slot = 0; slot < kTechniques; ++slot) counts[slot] = counters[kCounterOfSlot[slot]];
+  return counts;
+}
+
 // How many techniques have a tier of at most `level`, 0..22 for level 0..5: the display slots from 0 up to
 // this are the ones that a puzzle of that level can use.
 constexpr int TechniquesUpTo(int level) {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "cli/run.h"
-#include "core/host_files.h"
+#include "host/host_files.h"
 
 namespace kestrel {
 

@@ -11,9 +11,9 @@
 
 #include "cli/cli_run.h"
 #include "cli/puzzle_reader.h"
-#include "cli/stock_check.h"
-#include "cli/stock_maker.h"
 #include "core/stock_file.h"
+#include "stock/stock_check.h"
+#include "stock/stock_maker.h"
 #include "support/faulty_calls.h"
 #include "support/temp_folder.h"
 #include "support/test_puzzles.h"

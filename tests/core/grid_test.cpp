@@ -6,8 +6,8 @@
 
 #include <set>
 
-#include "core/host_clock.h"
 #include "core/random_source.h"
+#include "host/host_clock.h"
 
 namespace kestrel {
 namespace {

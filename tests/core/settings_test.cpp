@@ -6,8 +6,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "core/host_files.h"
 #include "core/random_source.h"
+#include "host/host_files.h"
 #include "support/faulty_calls.h"
 #include "support/temp_folder.h"
 

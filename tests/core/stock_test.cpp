@@ -4,9 +4,9 @@
 
 #include <map>
 
-#include "core/host_files.h"
 #include "core/random_source.h"
 #include "core/stock_file.h"
+#include "host/host_files.h"
 #include "support/faulty_calls.h"
 #include "support/temp_folder.h"
 

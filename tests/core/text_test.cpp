@@ -9,7 +9,7 @@
 #include <sstream>
 
 #include "core/global.h"
-#include "core/host_folders.h"
+#include "host/host_folders.h"
 
 namespace kestrel {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <sstream>
 
-#include "core/host_files.h"
+#include "host/host_files.h"
 #include "support/game_home.h"
 #include "ui/script/runner.h"
 

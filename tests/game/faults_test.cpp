@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "core/host_files.h"
+#include "host/host_files.h"
 #include "support/game_home.h"
 
 namespace kestrel::testing {

@@ -10,8 +10,8 @@
 #include <streambuf>
 #include <string>
 
-#include "core/host_files.h"
 #include "core/random_source.h"
+#include "host/host_files.h"
 #include "support/game_home.h"
 #include "ui/script/runner.h"
 

@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "help/blockers.h"
-#include "help/cell_names.h"
-#include "help/forms.h"
+#include "explain/blockers.h"
+#include "explain/cell_names.h"
+#include "explain/forms.h"
 
 namespace kestrel::help {
 namespace {

@@ -7,10 +7,10 @@
 #include <set>
 #include <string>
 
-#include "help/board_picture.h"
-#include "help/cell_names.h"
-#include "help/example_text.h"
-#include "help/forms.h"
+#include "explain/board_picture.h"
+#include "explain/cell_names.h"
+#include "explain/example_text.h"
+#include "explain/forms.h"
 #include "help/site_files.h"
 #include "solver/solver.h"
 #include "solver/technique_table.h"

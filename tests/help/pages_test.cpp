@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "help/board_picture.h"
+#include "explain/board_picture.h"
 #include "help/site_files.h"
 #include "help/stock_use.h"
 #include "solver/technique_table.h"

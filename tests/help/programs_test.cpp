@@ -8,7 +8,7 @@
 #include <map>
 #include <string>
 
-#include "help/forms.h"
+#include "explain/forms.h"
 #include "help/site_files.h"
 
 namespace kestrel::help {

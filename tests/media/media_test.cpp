@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/host_files.h"
+#include "host/host_files.h"
 #include "media/sounds.h"
 #include "media/web_link.h"
 #include "support/temp_folder.h"

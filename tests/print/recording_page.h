@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/stock_table.h"
-#include "ui/ports/page.h"
+#include "forms/page.h"
 
 namespace kestrel {
 

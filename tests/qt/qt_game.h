@@ -14,13 +14,13 @@
 #include <string_view>
 #include <vector>
 
-#include "core/host_files.h"
 #include "core/settings_file.h"
+#include "host/host_files.h"
+#include "host/host_settings.h"
 #include "support/temp_folder.h"
 #include "ui/qt/board_widget.h"
 #include "ui/qt/form_window.h"
 #include "ui/qt/front_end.h"
-#include "ui/qt/host_settings.h"
 
 namespace kestrel::testing {
 

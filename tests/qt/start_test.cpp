@@ -5,8 +5,8 @@
 #include <QImage>
 #include <initializer_list>
 
+#include "host/command_line.h"
 #include "qt/qt_game.h"
-#include "ui/qt/command_line.h"
 
 namespace kestrel::testing {
 namespace {

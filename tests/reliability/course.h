@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/host_calls.h"
+#include "host/host_calls.h"
 #include "support/game_home.h"
 
 namespace kestrel::testing {

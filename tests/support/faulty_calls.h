@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "core/host_calls.h"
+#include "host/host_calls.h"
 
 namespace kestrel {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/host_files.h"
 #include "core/stock_table.h"
 #include "core/yield.h"
+#include "host/host_files.h"
 #include "support/temp_folder.h"
 #include "ui/script/command_line.h"
 

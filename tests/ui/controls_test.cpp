@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/controls/forms.h"
+#include "forms/forms.h"
 
 namespace kestrel {
 namespace {

@@ -11,9 +11,9 @@
 #include <string>
 
 #include "core/yield.h"
+#include "explain/example.h"
+#include "explain/forms.h"
 #include "generator/generator.h"
-#include "help/example.h"
-#include "help/forms.h"
 #include "solver/solver.h"
 
 namespace {
@@ -23,7 +23,7 @@ using namespace kestrel::help;
 
 constexpr const char* kHeading =
     "# Worked examples of the help pages: positions from generated puzzles and what the solver finds there.\n"
-    "# Written by find-examples; docs/help-pages.md tells how. tools/help/example.h has the format.\n";
+    "# Written by find-examples; docs/help-pages.md tells how. src/explain/example.h has the format.\n";
 
 struct Options {
   std::string file;

@@ -8,9 +8,9 @@
 #include <sstream>
 #include <vector>
 
-#include "help/board_picture.h"
-#include "help/cell_names.h"
-#include "help/example_text.h"
+#include "explain/board_picture.h"
+#include "explain/cell_names.h"
+#include "explain/example_text.h"
 #include "help/stock_use.h"
 #include "solver/technique_table.h"
 

@@ -15,7 +15,7 @@
 #include <string>
 
 #include "core/stock_table.h"
-#include "help/example.h"
+#include "explain/example.h"
 
 namespace kestrel::help {
 

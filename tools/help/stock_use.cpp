@@ -2,7 +2,7 @@
 // Which puzzles of a stock need which technique.
 #include "help/stock_use.h"
 
-#include "help/cell_names.h"
+#include "explain/cell_names.h"
 
 namespace kestrel::help {
 namespace {

@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "forms/asker.h"
+#include "forms/ports.h"
+#include "forms/screen.h"
 #include "ui/memory/transcript.h"
-#include "ui/ports/asker.h"
-#include "ui/ports/ports.h"
-#include "ui/ports/screen.h"
 
 namespace kestrel {
 

@@ -2,8 +2,8 @@
 // A printer that reports what is printed. Used by the script front end and by tests.
 #pragma once
 
+#include "forms/page.h"
 #include "ui/memory/transcript.h"
-#include "ui/ports/page.h"
 
 namespace kestrel {
 

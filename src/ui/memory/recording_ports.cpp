@@ -2,6 +2,7 @@
 #include "ui/memory/recording_ports.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "core/json_string.h"
 #include "core/stock_file.h"

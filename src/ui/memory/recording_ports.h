@@ -2,6 +2,7 @@
 // Ports that report what the game does with them. Used by the script front end and by tests.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
@@ -10,10 +11,10 @@
 #include "core/files.h"
 #include "core/global.h"
 #include "core/settings.h"
+#include "forms/help_window.h"
+#include "forms/shell.h"
+#include "forms/sound_device.h"
 #include "ui/memory/transcript.h"
-#include "ui/ports/help_window.h"
-#include "ui/ports/shell.h"
-#include "ui/ports/sound_device.h"
 
 namespace kestrel {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "forms/ports.h"
 #include "ui/memory/memory_desk.h"
-#include "ui/ports/ports.h"
 
 namespace kestrel {
 

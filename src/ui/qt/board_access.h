@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <cstdint>
 #include <memory>
 #include <vector>
 

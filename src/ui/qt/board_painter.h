@@ -13,9 +13,10 @@
 #include <QRect>
 #include <QRegion>
 #include <array>
+#include <cstdint>
 #include <optional>
 
-#include "ui/controls/main_window.h"
+#include "forms/main_window.h"
 #include "ui/qt/device_painter.h"
 
 namespace kestrel {

@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-#include "ui/controls/main_window.h"
+#include "forms/main_window.h"
 #include "ui/qt/board_painter.h"
 #include "ui/qt/event_sink.h"
 

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QWidget>
 
-#include "ui/controls/control.h"
+#include "forms/control.h"
 
 namespace kestrel {
 

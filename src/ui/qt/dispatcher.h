@@ -12,7 +12,7 @@
 #include <functional>
 
 #include "core/yield.h"
-#include "ui/ports/ports.h"
+#include "forms/ports.h"
 #include "ui/qt/event_sink.h"
 
 namespace kestrel {

@@ -2,7 +2,7 @@
 // Where the widgets hand over what the user did. Implemented by the dispatcher.
 #pragma once
 
-#include "ui/controls/event.h"
+#include "forms/event.h"
 
 namespace kestrel {
 

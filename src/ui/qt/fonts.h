@@ -4,7 +4,7 @@
 
 #include <QFont>
 
-#include "ui/controls/control.h"
+#include "forms/control.h"
 
 namespace kestrel {
 

@@ -7,7 +7,7 @@
 #include <QToolTip>
 #include <cstdio>
 
-#include "ui/qt/command_line.h"
+#include "host/command_line.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/form_window.h"
 #include "ui/qt/palette.h"

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "ui/controls/main_window.h"
+#include "forms/main_window.h"
 
 namespace kestrel {
 

@@ -7,12 +7,12 @@
 #include <memory>
 #include <string>
 
-#include "core/host_clock.h"
-#include "core/host_files.h"
 #include "core/settings_file.h"
-#include "ui/qt/command_line.h"
+#include "host/command_line.h"
+#include "host/host_clock.h"
+#include "host/host_files.h"
+#include "host/host_settings.h"
 #include "ui/qt/front_end.h"
-#include "ui/qt/host_settings.h"
 
 namespace kestrel {
 

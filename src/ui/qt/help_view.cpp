@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <string>
 
-#include "core/host_files.h"
+#include "host/host_files.h"
 #include "media/help.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/text_conversion.h"

@@ -7,7 +7,7 @@
 #include <QListWidget>
 #include <functional>
 
-#include "ui/controls/event.h"
+#include "forms/event.h"
 
 namespace kestrel {
 

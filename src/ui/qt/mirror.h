@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-#include "ui/controls/forms.h"
+#include "forms/forms.h"
 #include "ui/qt/event_sink.h"
 
 class QWidget;

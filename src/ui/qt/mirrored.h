@@ -12,7 +12,7 @@
 #include <functional>
 #include <utility>
 
-#include "ui/controls/event.h"
+#include "forms/event.h"
 #include "ui/qt/event_sink.h"
 #include "ui/qt/text_conversion.h"
 

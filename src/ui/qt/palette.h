@@ -6,7 +6,7 @@
 #include <QPalette>
 #include <span>
 
-#include "ui/controls/control.h"
+#include "forms/control.h"
 
 namespace kestrel {
 

@@ -5,9 +5,9 @@
 #include <QEventLoop>
 #include <array>
 
-#include "ui/ports/asker.h"
-#include "ui/ports/help_window.h"
-#include "ui/ports/screen.h"
+#include "forms/asker.h"
+#include "forms/help_window.h"
+#include "forms/screen.h"
 #include "ui/qt/dispatcher.h"
 #include "ui/qt/mirror.h"
 

@@ -11,7 +11,7 @@
 #include <QStandardPaths>
 #include <cmath>
 
-#include "ui/controls/texts.h"
+#include "forms/texts.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/palette.h"
 #include "ui/qt/text_conversion.h"

@@ -9,9 +9,9 @@
 #include <optional>
 
 #include "core/files.h"
+#include "forms/asker.h"
+#include "forms/page.h"
 #include "print/pdf_page.h"
-#include "ui/ports/asker.h"
-#include "ui/ports/page.h"
 #include "ui/qt/dispatcher.h"
 #include "ui/qt/mirror.h"
 

@@ -3,7 +3,7 @@
 // end.
 #pragma once
 
-#include "ui/ports/shell.h"
+#include "forms/shell.h"
 
 namespace kestrel {
 

@@ -7,8 +7,9 @@
 #include <QUrl>
 #include <QtEndian>
 #include <algorithm>
+#include <cstdint>
 
-#include "core/host_files.h"
+#include "host/host_files.h"
 #include "ui/qt/text_conversion.h"
 
 namespace kestrel {

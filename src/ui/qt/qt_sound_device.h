@@ -3,10 +3,11 @@
 #pragma once
 
 #include <QSoundEffect>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
-#include "ui/ports/sound_device.h"
+#include "forms/sound_device.h"
 
 namespace kestrel {
 

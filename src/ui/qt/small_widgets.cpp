@@ -7,8 +7,8 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "core/host_files.h"
-#include "ui/controls/texts.h"
+#include "forms/texts.h"
+#include "host/host_files.h"
 #include "ui/qt/device_painter.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/palette.h"

@@ -9,7 +9,7 @@
 #include <QWidget>
 #include <string>
 
-#include "ui/controls/control.h"
+#include "forms/control.h"
 
 namespace kestrel {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "ui/controls/event.h"
+#include "forms/event.h"
 #include "ui/qt/mirrored.h"
 
 namespace kestrel {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "ui/script/parsing.h"
 #include "ui/script/texts.h"

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/controls/control.h"
+#include "forms/control.h"
 
 namespace kestrel {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "ui/controls/forms.h"
+#include "forms/forms.h"
 
 namespace kestrel {
 

@@ -3,6 +3,7 @@
 // printed. Used by the script program and by tests.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <iosfwd>
 #include <string>

@@ -1,0 +1,335 @@
+// SPDX-License-Identifier: MIT
+// What a worked example shows, in plain sentences.
+#include "explain/example_text.h"
+
+#include "explain/blockers.h"
+#include "explain/cell_names.h"
+#include "solver/technique_table.h"
+
+namespace kestrel::help {
+namespace {
+
+using Text = std::string;
+
+Text Cells(const Finding& finding, std::size_t first, std::size_t count, const char* joint = "and") {
+  std::vector<int> cells;
+  for (std::size_t i = first; i < first + count; ++i) cells.push_back(finding.pattern[i].cell);
+  return CellNames(cells, joint);
+}
+
+Text Name(const Finding& finding, std::size_t i) {
+  return CellName(finding.pattern[i].cell);
+}
+
+// "a 7", "an 8".
+Text WithArticle(CandidateMask digit) {
+  return (digit == DigitBit(8) ? "an " : "a ") + DigitNames(digit);
+}
+
+// The cells of the pattern inside the unit.
+Text CellsIn(const Finding& finding, Unit unit, const char* joint) {
+  std::vector<int> cells;
+  for (const PatternCell& part : finding.pattern) {
+    const int index = unit.kind == UnitKind::Row      ? CellRow[part.cell]
+                      : unit.kind == UnitKind::Column ? CellCol[part.cell]
+                                                      : CellBox[part.cell];
+    if (index == unit.index) cells.push_back(part.cell);
+  }
+  return CellNames(cells, joint);
+}
+
+// "Remove 4 from A2 and D8, and 3 and 7 from C5."
+Text Removals(const Finding& finding) {
+  std::vector<CandidateMask> kinds;
+  for (const Removal& removal : finding.removals) {
+    bool known = false;
+    for (const CandidateMask kind : kinds) known = known || kind == removal.digits;
+    if (!known) kinds.push_back(removal.digits);
+  }
+  Text text = "Remove ";
+  for (std::size_t i = 0; i < kinds.size(); ++i) {
+    std::vector<int> cells;
+    for (const Removal& removal : finding.removals) {
+      if (removal.digits == kinds[i]) cells.push_back(removal.cell);
+    }
+    if (i > 0) text += i + 1 == kinds.size() ? ", and " : ", ";
+    text += DigitNames(kinds[i]) + " from " + CellNames(cells);
+  }
+  return text + '.';
+}
+
+CandidateMask Common(const Finding& finding, std::size_t a, std::size_t b) {
+  return finding.pattern[a].digits & finding.pattern[b].digits;
+}
+
+Text HiddenSingle(const Example& example) {
+  const Finding& f = example.finding;
+  const Text unit = UnitName(f.units[0]);
+  const Text cell = Name(f, 0);
+  const Text digit = DigitNames(f.digits);
+  const CandidateMask others = example.marks[f.placed_cell] & ~f.digits;
+  const Blockers blockers = FindBlockers(example.digits, f.units[0], f.placed_cell, f.placed_digit);
+  Text why;
+  if (blockers.all_explained && !blockers.cells.empty()) {
+    const bool one = blockers.cells.size() == 1;
+    why = "The " + digit + (one ? " in " : "s in ") + CellNames(blockers.cells) + (one ? " rules" : " rule") +
+          " out its other empty cells. ";
+  }
+  return "Look at " + unit + ": of its empty cells, only " + cell + " can still hold " + digit + ". " + why +
+         cell +
+         (BitCount[others] == 1 ? " has another candidate as well (" : " has other candidates as well (") +
+         DigitNames(others) + "), but " + unit + " needs " + WithArticle(f.digits) +
+         " and has no other place for it. So " + digit + " goes into " + cell + '.';
+}
+
+Text NakedSingle(const Example& example) {
+  const Finding& f = example.finding;
+  const int cell = f.placed_cell;
+  CandidateMask seen[3] = {0, 0, 0};
+  for (int other = 0; other < kCells; ++other) {
+    if (other == cell || example.digits[other] == 0) continue;
+    const CandidateMask bit = DigitBit(example.digits[other]);
+    if (CellRow[other] == CellRow[cell]) seen[0] |= bit;
+    if (CellCol[other] == CellCol[cell]) seen[1] |= bit;
+    if (CellBox[other] == CellBox[cell]) seen[2] |= bit;
+  }
+  seen[1] &= ~seen[0];
+  seen[2] &= ~(seen[0] | seen[1]);
+  const CandidateMask gone = kAllDigits & ~(seen[0] | seen[1] | seen[2] | f.digits);
+  std::vector<Text> parts;
+  const Unit units[3] = {
+      {UnitKind::Row, CellRow[cell]}, {UnitKind::Column, CellCol[cell]}, {UnitKind::Box, CellBox[cell]}};
+  for (int i = 0; i < 3; ++i) {
+    if (seen[i] != 0) parts.push_back(DigitNames(seen[i]) + " in " + UnitName(units[i]));
+  }
+  Text text = CellName(cell) + " can only be " + DigitNames(f.digits) +
+              ". The other digits are taken: " + Joined(parts);
+  if (gone != 0)
+    text += "; " + DigitNames(gone) + (BitCount[gone] == 1 ? " was" : " were") + " ruled out before";
+  return text + ". So " + DigitNames(f.digits) + " goes into " + CellName(cell) + '.';
+}
+
+Text Intersection(const Finding& f) {
+  const Text digit = DigitNames(f.digits);
+  const Text from = UnitName(f.units[0]);
+  const Text to = UnitName(f.covers[0]);
+  const Text cells = CellNames(
+      [&] {
+        std::vector<int> list;
+        for (const PatternCell& part : f.pattern) list.push_back(part.cell);
+        return list;
+      }(),
+      "or");
+  return "The " + digit + " of " + from + " can only go into " + cells + ", and they all lie in " + to +
+         ". Whichever of them it is, " + to + " has its " + digit + " there and nowhere else. " + Removals(f);
+}
+
+Text NakedSubset(const Example& example) {
+  const Finding& f = example.finding;
+  const Text unit = UnitName(f.units[0]);
+  const Text digits = DigitNames(f.digits);
+  const Text count = NumberWord(static_cast<int>(f.pattern.size()));
+  std::vector<Text> cells;
+  for (const PatternCell& part : f.pattern) {
+    cells.push_back(CellName(part.cell) + " (" + DigitNames(part.digits, "or") + ')');
+  }
+  return "In " + unit + ", the " + count + " cells " + Joined(cells) + " have no candidates but " + digits +
+         ". " + Text(1, static_cast<char>(count[0] - 'a' + 'A')) + count.substr(1) + " cells take " + count +
+         " digits, so " + digits + " are used up in these cells and cannot stand elsewhere in " + unit +
+         ". " + Removals(f);
+}
+
+Text HiddenSubset(const Finding& f) {
+  const Text unit = UnitName(f.units[0]);
+  const Text digits = DigitNames(f.digits);
+  const Text cells = Cells(f, 0, f.pattern.size());
+  const Text count = NumberWord(static_cast<int>(f.pattern.size()));
+  return "In " + unit + ", " + digits + " can only go into " + cells + ". " +
+         Text(1, static_cast<char>(count[0] - 'a' + 'A')) + count.substr(1) + " digits fill " + count +
+         " cells, so nothing else fits there. " + Removals(f);
+}
+
+Text Fish(const Finding& f) {
+  const Text digit = DigitNames(f.digits);
+  Text places;
+  for (const Unit& unit : f.units) {
+    places += (places.empty() ? "in " : "; in ") + UnitName(unit) + " only into " + CellsIn(f, unit, "or");
+  }
+  const Text count = NumberWord(static_cast<int>(f.units.size()));
+  const Text bases = f.form == 1 ? "rows" : "columns";
+  const Text covers = UnitNames(f.covers);
+  return "Look where the digit " + digit + " can go: " + places + ". All these places lie in " + covers +
+         ". The " + count + ' ' + bases + " need " + WithArticle(f.digits) + " each, and " + covers +
+         " have room for just " + count + ", so those " + bases + " take them all. " + Removals(f);
+}
+
+Text XYWing(const Finding& f) {
+  const Text pivot = Name(f, 0);
+  const CandidateMask z = Common(f, 1, 2);
+  const CandidateMask x = f.pattern[1].digits & ~z;
+  const CandidateMask y = f.pattern[2].digits & ~z;
+  return "The pivot " + pivot + " is " + DigitNames(x) + " or " + DigitNames(y) + ". If it is " +
+         DigitNames(x) + ", then " + Name(f, 1) + " (" + DigitNames(f.pattern[1].digits, "or") +
+         ") must be " + DigitNames(z) + "; if it is " + DigitNames(y) + ", then " + Name(f, 2) + " (" +
+         DigitNames(f.pattern[2].digits, "or") + ") must be " + DigitNames(z) + ". Either way one of " +
+         Cells(f, 1, 2) + " is " + DigitNames(z) + ", so no cell that sees both can be. " + Removals(f);
+}
+
+Text XYZWing(const Finding& f) {
+  const Text pivot = Name(f, 0);
+  const CandidateMask z = Common(f, 1, 2);
+  const CandidateMask x = f.pattern[1].digits & ~z;
+  const CandidateMask y = f.pattern[2].digits & ~z;
+  return "The pivot " + pivot + " is " + DigitNames(f.pattern[0].digits, "or") + ". If it is " +
+         DigitNames(x) + ", " + Name(f, 1) + " must be " + DigitNames(z) + "; if it is " + DigitNames(y) +
+         ", " + Name(f, 2) + " must be " + DigitNames(z) + "; and otherwise the pivot is " + DigitNames(z) +
+         " itself. So one of the three is " + DigitNames(z) +
+         " in any case, and a cell that sees all three cannot be. " + Removals(f);
+}
+
+// Kite and skyscraper: end, link, link, end.
+Text TwoPairs(const Finding& f) {
+  const Text digit = DigitNames(f.digits);
+  return "In " + UnitName(f.units[0]) + " the digit " + digit + " can only go into " + Cells(f, 0, 2, "or") +
+         ", in " + UnitName(f.units[1]) + " only into " + Cells(f, 2, 2, "or") + ". " + Cells(f, 1, 2) +
+         " lie in " + UnitName(f.covers[0]) + ", so they cannot both be " + digit +
+         ". Then at least one of the ends, " + Name(f, 0) + " and " + Name(f, 3) + ", is " + digit +
+         ", and no cell that sees both ends can be. " + Removals(f);
+}
+
+Text MultiXWing(const Finding& f) {
+  const Text d1 = DigitNames(Common(f, 0, 1));
+  const Text d2 = DigitNames(Common(f, 2, 3));
+  const Text e1 = DigitNames(Common(f, 0, 2));
+  const Text e2 = DigitNames(Common(f, 1, 3));
+  const Text p0 = Name(f, 0);
+  const Text p1 = Name(f, 1);
+  const Text p2 = Name(f, 2);
+  const Text p3 = Name(f, 3);
+  return "In " + UnitName(f.units[0]) + " the " + d1 + " is in " + p0 + " or " + p1 + "; in " +
+         UnitName(f.units[1]) + " the " + d2 + " is in " + p2 + " or " + p3 +
+         ". Each of the four cells has just two candidates. If " + p0 + " is " + d1 + ", then " + p1 +
+         " is " + e2 + ", " + p3 + " is " + d2 + " and " + p2 + " is " + e1 + ". If " + p1 + " is " + d1 +
+         ", then " + p0 + " is " + e1 + ", " + p2 + " is " + d2 + " and " + p3 + " is " + e2 +
+         ". Either way " + e1 + " is in " + p0 + " or " + p2 + " and " + e2 + " is in " + p1 + " or " + p3 +
+         ", so " + UnitName(f.covers[0]) + " has no other place for " + e1 + " and " + UnitName(f.covers[1]) +
+         " none for " + e2 + ". " + Removals(f);
+}
+
+Text FinnedXWing(const Finding& f) {
+  const Text digit = DigitNames(f.digits);
+  const std::size_t fins = f.pattern.size() - 4;
+  const Text fin_names = Cells(f, 4, fins);
+  std::vector<int> targets;
+  for (const Removal& removal : f.removals) targets.push_back(removal.cell);
+  return "In " + UnitName(f.units[0]) + " the " + digit + " can only go into " + Cells(f, 0, 2, "or") +
+         ". In " + UnitName(f.units[1]) + " it could go into " + Cells(f, 2, 2, "or") +
+         ", but also into the fin" + (fins == 1 ? " " : "s ") + fin_names + ". If " +
+         (fins == 1 ? "the fin is not " : "no fin is ") + digit + ", this is an X-Wing, and " +
+         UnitName(f.covers[0]) + " loses its other " + digit + "s. If " +
+         (fins == 1 ? "the fin is " : "one of the fins is ") + digit + ", the rest of its box loses " +
+         digit + ". " + CellNames(targets) + (targets.size() == 1 ? " loses" : " lose") +
+         " it in both cases. " + Removals(f);
+}
+
+Text UniqueRectangle(const Finding& f) {
+  if (f.form == 1) {
+    const Text pair = DigitNames(f.digits);
+    return Cells(f, 0, 3) + " hold only " + pair + ". If " + Name(f, 3) + " were " +
+           DigitNames(f.digits, "or") + " too, the four corners would hold nothing but " + pair +
+           ", and the two digits could change places: the puzzle would have two solutions. It has one, so " +
+           Name(f, 3) + " is neither. " + Removals(f);
+  }
+  const CandidateMask pair = f.pattern[0].digits;
+  const Text x = DigitNames(f.digits & ~pair);
+  return "The floor, " + Cells(f, 0, 2) + ", holds only " + DigitNames(pair) + ". The roof, " +
+         Cells(f, 2, 2) + ", has " + DigitNames(pair) + " and " + x + ". If neither roof cell were " + x +
+         ", all four corners would hold only " + DigitNames(pair) +
+         " and the puzzle would have two solutions. So one of the roof cells is " + x +
+         ", and no cell that sees both can be. " + Removals(f);
+}
+
+Text AvoidableRectangle(const Finding& f) {
+  if (f.form == 1) {
+    const Text d = DigitNames(f.pattern[0].digits);
+    const Text e = DigitNames(f.pattern[2].digits);
+    return Cells(f, 0, 2) + " were solved as " + d + " and " + Name(f, 2) + " as " + e +
+           ". None of the four corners is a given. If " + Name(f, 3) + " were " + e +
+           ", the corners would hold " + d + " and " + e +
+           " crosswise, and changing them round would give a second solution. So " + Name(f, 3) + " is not " +
+           e + ". " + Removals(f);
+  }
+  const Text d = DigitNames(f.pattern[0].digits);
+  const Text e = DigitNames(f.pattern[1].digits);
+  const CandidateMask third = Common(f, 2, 3);
+  return Name(f, 0) + " was solved as " + d + " and " + Name(f, 1) + " as " + e +
+         "; the other two corners of the rectangle, " + Cells(f, 2, 2) +
+         ", are still open, and none of the four is a given. If " + Name(f, 2) + " were " + e + " and " +
+         Name(f, 3) + " were " + d +
+         ", the two digits could change places and the puzzle would have two solutions. So one of " +
+         Cells(f, 2, 2) + " is " + DigitNames(third) + ", and no cell that sees both can be. " + Removals(f);
+}
+
+Text EmptyRectangle(const Finding& f) {
+  const Text digit = DigitNames(f.digits);
+  const std::size_t n = f.pattern.size();
+  const Text near = Name(f, n - 2);
+  const Text far = Name(f, n - 1);
+  const Text box = UnitName(f.units[0]);
+  const Text arm = UnitName(f.covers[f.form == 1 ? 0 : 1]);
+  const Text other_arm = UnitName(f.covers[f.form == 1 ? 1 : 0]);
+  const Text target = CellName(f.removals[0].cell);
+  return "In " + box + " every " + digit + " lies in " + UnitName(f.covers[0]) + " or in " +
+         UnitName(f.covers[1]) + ". In " + UnitName(f.units[1]) + " the " + digit + " is in " + near +
+         " or " + far + ". If it is in " + near + ", " + arm + " is taken, so " + box + " has its " + digit +
+         " in " + other_arm + ". So either " + far + " is " + digit + " or the box has it in " + other_arm +
+         ", and " + target + " sees both. " + Removals(f);
+}
+
+}  // namespace
+
+std::string ExampleText(const Example& example) {
+  const Finding& f = example.finding;
+  switch (f.step) {
+    case 1:
+      return HiddenSingle(example);
+    case 2:
+      return NakedSingle(example);
+    case 3:
+    case 4:
+      return Intersection(f);
+    case 5:
+    case 6:
+    case 8:
+    case 10:
+      return NakedSubset(example);
+    case 7:
+    case 9:
+      return HiddenSubset(f);
+    case 11:
+    case 15:
+    case 22:
+      return Fish(f);
+    case 12:
+      return XYWing(f);
+    case 13:
+    case 14:
+      return TwoPairs(f);
+    case 16:
+      return MultiXWing(f);
+    case 17:
+      return FinnedXWing(f);
+    case 18:
+      return UniqueRectangle(f);
+    case 19:
+      return AvoidableRectangle(f);
+    case 20:
+      return XYZWing(f);
+    case 21:
+      return EmptyRectangle(f);
+    default:
+      return {};
+  }
+}
+
+}  // namespace kestrel::help

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "host/host_settings.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+namespace kestrel {
+
+namespace {
+
+constexpr std::string_view kSettingsFolder = "Grendale";  // the application's name in the settings store
+constexpr std::string_view kSettingsFile = "settings.ini";
+constexpr std::string_view kOptions = "Options";
+constexpr std::string_view kScale = "Scale";
+
+std::string ScaleText(double scale) {
+  std::string text = std::to_string(scale);  // "1.250000"
+  text.erase(text.find_last_not_of('0') + 1);
+  if (text.ends_with('.')) text.pop_back();
+  return text;
+}
+
+}  // namespace
+
+bool HomeFolders::Find(int folder_id, std::string& path) {
+  if (home_.empty()) return own_.Find(folder_id, path);
+  path = home_;
+  return folder_id == kLocalAppData;
+}
+
+std::string SettingsInMemory::Read(std::string_view section, std::string_view key,
+                                   std::string_view fallback) {
+  for (const Setting& each : written_) {
+    if (each.section == section && each.key == key) return each.value;
+  }
+  return inner_.Read(section, key, fallback);
+}
+
+bool SettingsInMemory::Write(std::string_view section, std::string_view key, std::string_view value) {
+  std::erase_if(written_, [&](const Setting& each) { return each.section == section && each.key == key; });
+  written_.push_back({std::string(section), std::string(key), std::string(value)});
+  return true;
+}
+
+std::string SettingsPath(const GameOptions& options, const std::string& home, HostFiles& files) {
+  // The game makes its own folder in this one, but not this one, which a new user may not have yet.
+  std::string data;
+  if (HomeFolders(home).Find(kLocalAppData, data)) (void)files.MakeFolders(data);
+  if (!options.settings.empty()) {
+    std::error_code error;
+    return std::filesystem::absolute(options.settings, error).lexically_normal().string();
+  }
+  if (!home.empty()) return home + '\\' + std::string(kSettingsFile);
+  const std::string folder = HostFolders::Settings() + '\\' + std::string(kSettingsFolder);
+  // Where it cannot be made, the settings last for this run.
+  (void)files.MakeFolders(folder);
+  return folder + '\\' + std::string(kSettingsFile);
+}
+
+double ChooseScale(const GameOptions& options, Settings& settings) {
+  if (options.scale) {
+    (void)settings.Write(kOptions, kScale, ScaleText(*options.scale));
+    return *options.scale;
+  }
+  return ParseScale(settings.Read(kOptions, kScale, "1")).value_or(1);
+}
+
+}  // namespace kestrel
