@@ -17,12 +17,12 @@ inline constexpr int kPictureHeight = 562;
 //
 //   filled disc    a candidate of the pattern          hollow disc  one that links two others
 //   ringed disc    a candidate of the pivot            diamond      a fin
-//   struck square  a candidate that goes               large ring   a digit in place that belongs to the
+//   struck square  a removed candidate               large ring   a digit in place that belongs to the
 //   pattern dark header    a line in which the pattern lies    framed header  a line that it covers
 std::string BoardPicture(const Example& example);
 
-// True when candidates go from the lines and boxes that the technique (1..22) covers; these get a ground of
-// their own in its pictures. Otherwise the covers only connect parts of the pattern.
+// True when candidates are removed from the lines and boxes that the technique (1..22) covers; these get a
+// background of their own in its pictures. Otherwise the covers only connect parts of the pattern.
 bool CoversLose(int step);
 
 // The same in words, for readers who do not see it: "Board with ... marked".

@@ -2,6 +2,8 @@
 // What a worked example shows, in plain sentences.
 #include "explain/example_text.h"
 
+#include <algorithm>
+
 #include "explain/blockers.h"
 #include "explain/cell_names.h"
 #include "solver/technique_table.h"
@@ -11,9 +13,11 @@ namespace {
 
 using Text = std::string;
 
+// Cells of the pattern, ascending.
 Text Cells(const Finding& finding, std::size_t first, std::size_t count, const char* joint = "and") {
   std::vector<int> cells;
   for (std::size_t i = first; i < first + count; ++i) cells.push_back(finding.pattern[i].cell);
+  std::sort(cells.begin(), cells.end());
   return CellNames(cells, joint);
 }
 
@@ -26,7 +30,7 @@ Text WithArticle(CandidateMask digit) {
   return (digit == DigitBit(8) ? "an " : "a ") + DigitNames(digit);
 }
 
-// The cells of the pattern inside the unit.
+// The cells of the pattern inside the unit, ascending.
 Text CellsIn(const Finding& finding, Unit unit, const char* joint) {
   std::vector<int> cells;
   for (const PatternCell& part : finding.pattern) {
@@ -35,6 +39,7 @@ Text CellsIn(const Finding& finding, Unit unit, const char* joint) {
                                                       : CellBox[part.cell];
     if (index == unit.index) cells.push_back(part.cell);
   }
+  std::sort(cells.begin(), cells.end());
   return CellNames(cells, joint);
 }
 
@@ -113,15 +118,9 @@ Text Intersection(const Finding& f) {
   const Text digit = DigitNames(f.digits);
   const Text from = UnitName(f.units[0]);
   const Text to = UnitName(f.covers[0]);
-  const Text cells = CellNames(
-      [&] {
-        std::vector<int> list;
-        for (const PatternCell& part : f.pattern) list.push_back(part.cell);
-        return list;
-      }(),
-      "or");
-  return "The " + digit + " of " + from + " can only go into " + cells + ", and they all lie in " + to +
-         ". Whichever of them it is, " + to + " has its " + digit + " there and nowhere else. " + Removals(f);
+  return "In " + from + ", " + digit + " can only go into " + Cells(f, 0, f.pattern.size(), "or") +
+         (f.pattern.size() == 2 ? ". Both lie in " : ". All three lie in ") + to + ", so " + to +
+         " has its " + digit + " there and nowhere else. " + Removals(f);
 }
 
 Text NakedSubset(const Example& example) {
@@ -153,48 +152,67 @@ Text Fish(const Finding& f) {
   const Text digit = DigitNames(f.digits);
   Text places;
   for (const Unit& unit : f.units) {
-    places += (places.empty() ? "in " : "; in ") + UnitName(unit) + " only into " + CellsIn(f, unit, "or");
+    places += (places.empty() ? "In " : "; in ") + UnitName(unit) + " only in " + CellsIn(f, unit, "or");
   }
   const Text count = NumberWord(static_cast<int>(f.units.size()));
   const Text bases = f.form == 1 ? "rows" : "columns";
   const Text covers = UnitNames(f.covers);
-  return "Look where the digit " + digit + " can go: " + places + ". All these places lie in " + covers +
-         ". The " + count + ' ' + bases + " need " + WithArticle(f.digits) + " each, and " + covers +
-         " have room for just " + count + ", so those " + bases + " take them all. " + Removals(f);
+  return "Where can " + digit + " go? " + places + ". All these places lie in " + covers + ". The " + count +
+         ' ' + bases + " need " + WithArticle(f.digits) + " each, and " + covers + " have room for just " +
+         count + ", so these " + count + ' ' + bases +
+         (f.units.size() == 2 ? " take both. " : " take them all. ") + Removals(f);
+}
+
+// The wings of a pivot in the order of the pivot's digits: the first is the one that the lower of x and y
+// decides.
+struct WingWords {
+  CandidateMask x;
+  CandidateMask y;
+  CandidateMask z;
+  std::size_t first;   // the wing with x and z, by place in the pattern
+  std::size_t second;  // the wing with y and z
+};
+
+WingWords WingsInOrder(const Finding& f) {
+  const CandidateMask z = Common(f, 1, 2);
+  const CandidateMask one = f.pattern[1].digits & ~z;
+  const CandidateMask other = f.pattern[2].digits & ~z;
+  if (one < other) return {one, other, z, 1, 2};
+  return {other, one, z, 2, 1};
 }
 
 Text XYWing(const Finding& f) {
-  const Text pivot = Name(f, 0);
-  const CandidateMask z = Common(f, 1, 2);
-  const CandidateMask x = f.pattern[1].digits & ~z;
-  const CandidateMask y = f.pattern[2].digits & ~z;
-  return "The pivot " + pivot + " is " + DigitNames(x) + " or " + DigitNames(y) + ". If it is " +
-         DigitNames(x) + ", then " + Name(f, 1) + " (" + DigitNames(f.pattern[1].digits, "or") +
-         ") must be " + DigitNames(z) + "; if it is " + DigitNames(y) + ", then " + Name(f, 2) + " (" +
-         DigitNames(f.pattern[2].digits, "or") + ") must be " + DigitNames(z) + ". Either way one of " +
-         Cells(f, 1, 2) + " is " + DigitNames(z) + ", so no cell that sees both can be. " + Removals(f);
+  const WingWords w = WingsInOrder(f);
+  const Text z = DigitNames(w.z);
+  const auto wing = [&](std::size_t i) {
+    return Name(f, i) + " (" + DigitNames(f.pattern[i].digits, "or") + ") must be " + z;
+  };
+  return "The pivot " + Name(f, 0) + " is " + DigitNames(w.x | w.y, "or") + ". If it is " + DigitNames(w.x) +
+         ", then " + wing(w.first) + "; if it is " + DigitNames(w.y) + ", then " + wing(w.second) +
+         ". Either way one of " + Cells(f, 1, 2) + " is " + z + ", so no cell that sees both can be " + z +
+         ". " + Removals(f);
 }
 
 Text XYZWing(const Finding& f) {
-  const Text pivot = Name(f, 0);
-  const CandidateMask z = Common(f, 1, 2);
-  const CandidateMask x = f.pattern[1].digits & ~z;
-  const CandidateMask y = f.pattern[2].digits & ~z;
-  return "The pivot " + pivot + " is " + DigitNames(f.pattern[0].digits, "or") + ". If it is " +
-         DigitNames(x) + ", " + Name(f, 1) + " must be " + DigitNames(z) + "; if it is " + DigitNames(y) +
-         ", " + Name(f, 2) + " must be " + DigitNames(z) + "; and otherwise the pivot is " + DigitNames(z) +
-         " itself. So one of the three is " + DigitNames(z) +
-         " in any case, and a cell that sees all three cannot be. " + Removals(f);
+  const WingWords w = WingsInOrder(f);
+  const Text z = DigitNames(w.z);
+  return "The pivot " + Name(f, 0) + " is " + DigitNames(f.pattern[0].digits, "or") + ". If it is " +
+         DigitNames(w.x) + ", then " + Name(f, w.first) + " must be " + z + "; if it is " + DigitNames(w.y) +
+         ", then " + Name(f, w.second) + " must be " + z + "; otherwise the pivot is " + z +
+         " itself. In any case one of the three is " + z + ", so no cell that sees all three can be " + z +
+         ". " + Removals(f);
 }
 
 // Kite and skyscraper: end, link, link, end.
 Text TwoPairs(const Finding& f) {
   const Text digit = DigitNames(f.digits);
-  return "In " + UnitName(f.units[0]) + " the digit " + digit + " can only go into " + Cells(f, 0, 2, "or") +
-         ", in " + UnitName(f.units[1]) + " only into " + Cells(f, 2, 2, "or") + ". " + Cells(f, 1, 2) +
-         " lie in " + UnitName(f.covers[0]) + ", so they cannot both be " + digit +
-         ". Then at least one of the ends, " + Name(f, 0) + " and " + Name(f, 3) + ", is " + digit +
-         ", and no cell that sees both ends can be. " + Removals(f);
+  std::vector<int> ends{f.pattern[0].cell, f.pattern[3].cell};
+  std::sort(ends.begin(), ends.end());
+  return "In " + UnitName(f.units[0]) + ", " + digit + " can only go into " + Cells(f, 0, 2, "or") + "; in " +
+         UnitName(f.units[1]) + " only into " + Cells(f, 2, 2, "or") + ". " + Cells(f, 1, 2) +
+         " both lie in " + UnitName(f.covers[0]) + ", so they cannot both be " + digit +
+         ". Then at least one of the other two, " + CellNames(ends) + ", is " + digit +
+         ", and no cell that sees both of these can be " + digit + ". " + Removals(f);
 }
 
 Text MultiXWing(const Finding& f) {
@@ -206,30 +224,55 @@ Text MultiXWing(const Finding& f) {
   const Text p1 = Name(f, 1);
   const Text p2 = Name(f, 2);
   const Text p3 = Name(f, 3);
-  return "In " + UnitName(f.units[0]) + " the " + d1 + " is in " + p0 + " or " + p1 + "; in " +
-         UnitName(f.units[1]) + " the " + d2 + " is in " + p2 + " or " + p3 +
-         ". Each of the four cells has just two candidates. If " + p0 + " is " + d1 + ", then " + p1 +
-         " is " + e2 + ", " + p3 + " is " + d2 + " and " + p2 + " is " + e1 + ". If " + p1 + " is " + d1 +
-         ", then " + p0 + " is " + e1 + ", " + p2 + " is " + d2 + " and " + p3 + " is " + e2 +
-         ". Either way " + e1 + " is in " + p0 + " or " + p2 + " and " + e2 + " is in " + p1 + " or " + p3 +
-         ", so " + UnitName(f.covers[0]) + " has no other place for " + e1 + " and " + UnitName(f.covers[1]) +
-         " none for " + e2 + ". " + Removals(f);
+  const auto either = [&](std::size_t a, std::size_t b) {
+    std::vector<int> cells{f.pattern[a].cell, f.pattern[b].cell};
+    std::sort(cells.begin(), cells.end());
+    return CellNames(cells, "or");
+  };
+  return "Each of the four cells has just two candidates. In " + UnitName(f.units[0]) + ", " + d1 +
+         " is in " + either(0, 1) + "; in " + UnitName(f.units[1]) + ", " + d2 + " is in " + either(2, 3) +
+         ". If " + p0 + " is " + d1 + ", then " + p1 + " is " + e2 + ", " + p3 + " is " + d2 + " and " + p2 +
+         " is " + e1 + ". If " + p1 + " is " + d1 + ", then " + p0 + " is " + e1 + ", " + p2 + " is " + d2 +
+         " and " + p3 + " is " + e2 + ". Either way " + e1 + " is in " + either(0, 2) + " and " + e2 +
+         " is in " + either(1, 3) + ", so " + UnitName(f.covers[0]) + " has no other place for " + e1 +
+         " and " + UnitName(f.covers[1]) + " none for " + e2 + ". " + Removals(f);
 }
 
-Text FinnedXWing(const Finding& f) {
+// True when the digit of a Finned X-Wing has candidates in the cover lines that the finding leaves alone.
+bool OthersStay(const Example& example) {
+  const Finding& f = example.finding;
+  for (int cell = 0; cell < kCells; ++cell) {
+    if ((example.marks[cell] & f.digits) == 0) continue;
+    const auto same = [cell](const auto& part) { return part.cell == cell; };
+    if (std::any_of(f.pattern.begin(), f.pattern.end(), same)) continue;
+    if (std::any_of(f.removals.begin(), f.removals.end(), same)) continue;
+    for (const Unit& cover : f.covers) {
+      if ((cover.kind == UnitKind::Row ? CellRow[cell] : CellCol[cell]) == cover.index) return true;
+    }
+  }
+  return false;
+}
+
+Text FinnedXWing(const Example& example) {
+  const Finding& f = example.finding;
   const Text digit = DigitNames(f.digits);
   const std::size_t fins = f.pattern.size() - 4;
-  const Text fin_names = Cells(f, 4, fins);
   std::vector<int> targets;
   for (const Removal& removal : f.removals) targets.push_back(removal.cell);
-  return "In " + UnitName(f.units[0]) + " the " + digit + " can only go into " + Cells(f, 0, 2, "or") +
-         ". In " + UnitName(f.units[1]) + " it could go into " + Cells(f, 2, 2, "or") +
-         ", but also into the fin" + (fins == 1 ? " " : "s ") + fin_names + ". If " +
-         (fins == 1 ? "the fin is not " : "no fin is ") + digit + ", this is an X-Wing, and " +
-         UnitName(f.covers[0]) + " loses its other " + digit + "s. If " +
-         (fins == 1 ? "the fin is " : "one of the fins is ") + digit + ", the rest of its box loses " +
-         digit + ". " + CellNames(targets) + (targets.size() == 1 ? " loses" : " lose") +
-         " it in both cases. " + Removals(f);
+  std::vector<Unit> covers = f.covers;
+  std::sort(covers.begin(), covers.end(), [](Unit a, Unit b) { return a.index < b.index; });
+  const Text box = UnitName({UnitKind::Box, CellBox[f.pattern[4].cell]});
+  const Text cover = UnitName(f.covers[0]);
+  const bool one = fins == 1;
+  return "In " + UnitName(f.units[0]) + ", " + digit + " can only go into " + Cells(f, 0, 2, "or") + ". In " +
+         UnitName(f.units[1]) + " it can go into " + Cells(f, 2, 2, "or") + ", but also into the fin" +
+         (one ? " " : "s ") + Cells(f, 4, fins) + ". If " + (one ? "the fin is not " : "no fin is ") + digit +
+         ", this is an X-Wing, and " + cover + " loses its other " + digit + "s. If " +
+         (one ? "the fin is " : "one of the fins is ") + digit + ", the rest of " + box + " loses " + digit +
+         ". Either way " + CellNames(targets) + ", where " + cover + " meets that box, cannot be " + digit +
+         (OthersStay(example) ? ". The other " + digit + "s in " + UnitNames(covers) + " stay. "
+                              : Text(". ")) +
+         Removals(f);
 }
 
 Text UniqueRectangle(const Finding& f) {
@@ -237,16 +280,16 @@ Text UniqueRectangle(const Finding& f) {
     const Text pair = DigitNames(f.digits);
     return Cells(f, 0, 3) + " hold only " + pair + ". If " + Name(f, 3) + " were " +
            DigitNames(f.digits, "or") + " too, the four corners would hold nothing but " + pair +
-           ", and the two digits could change places: the puzzle would have two solutions. It has one, so " +
+           ", and swapping the two digits would give a second solution. Every puzzle here has just one, so " +
            Name(f, 3) + " is neither. " + Removals(f);
   }
   const CandidateMask pair = f.pattern[0].digits;
   const Text x = DigitNames(f.digits & ~pair);
   return "The floor, " + Cells(f, 0, 2) + ", holds only " + DigitNames(pair) + ". The roof, " +
-         Cells(f, 2, 2) + ", has " + DigitNames(pair) + " and " + x + ". If neither roof cell were " + x +
+         Cells(f, 2, 2) + ", has " + DigitNames(f.digits) + ". If neither roof cell were " + x +
          ", all four corners would hold only " + DigitNames(pair) +
-         " and the puzzle would have two solutions. So one of the roof cells is " + x +
-         ", and no cell that sees both can be. " + Removals(f);
+         ", and swapping these would give a second solution. So one of the roof cells is " + x +
+         ", and no cell that sees both can be " + x + ". " + Removals(f);
 }
 
 Text AvoidableRectangle(const Finding& f) {
@@ -256,8 +299,8 @@ Text AvoidableRectangle(const Finding& f) {
     return Cells(f, 0, 2) + " were solved as " + d + " and " + Name(f, 2) + " as " + e +
            ". None of the four corners is a given. If " + Name(f, 3) + " were " + e +
            ", the corners would hold " + d + " and " + e +
-           " crosswise, and changing them round would give a second solution. So " + Name(f, 3) + " is not " +
-           e + ". " + Removals(f);
+           " diagonally, and swapping them would give a second solution. So " + Name(f, 3) + " is not " + e +
+           ". " + Removals(f);
   }
   const Text d = DigitNames(f.pattern[0].digits);
   const Text e = DigitNames(f.pattern[1].digits);
@@ -265,9 +308,9 @@ Text AvoidableRectangle(const Finding& f) {
   return Name(f, 0) + " was solved as " + d + " and " + Name(f, 1) + " as " + e +
          "; the other two corners of the rectangle, " + Cells(f, 2, 2) +
          ", are still open, and none of the four is a given. If " + Name(f, 2) + " were " + e + " and " +
-         Name(f, 3) + " were " + d +
-         ", the two digits could change places and the puzzle would have two solutions. So one of " +
-         Cells(f, 2, 2) + " is " + DigitNames(third) + ", and no cell that sees both can be. " + Removals(f);
+         Name(f, 3) + " were " + d + ", swapping the two digits would give a second solution. So one of " +
+         Cells(f, 2, 2) + " is " + DigitNames(third) + ", and no cell that sees both can be " +
+         DigitNames(third) + ". " + Removals(f);
 }
 
 Text EmptyRectangle(const Finding& f) {
@@ -279,11 +322,12 @@ Text EmptyRectangle(const Finding& f) {
   const Text arm = UnitName(f.covers[f.form == 1 ? 0 : 1]);
   const Text other_arm = UnitName(f.covers[f.form == 1 ? 1 : 0]);
   const Text target = CellName(f.removals[0].cell);
-  return "In " + box + " every " + digit + " lies in " + UnitName(f.covers[0]) + " or in " +
-         UnitName(f.covers[1]) + ". In " + UnitName(f.units[1]) + " the " + digit + " is in " + near +
-         " or " + far + ". If it is in " + near + ", " + arm + " is taken, so " + box + " has its " + digit +
-         " in " + other_arm + ". So either " + far + " is " + digit + " or the box has it in " + other_arm +
-         ", and " + target + " sees both. " + Removals(f);
+  return "In " + box + ", every " + digit + " lies in " + UnitName(f.covers[0]) + " or in " +
+         UnitName(f.covers[1]) + ". In " + UnitName(f.units[1]) + ", " + digit + " is in " +
+         Cells(f, n - 2, 2, "or") + ". If it is in " + near + ", " + arm + " is taken, so " + box +
+         " has its " + digit + " in " + other_arm + ". So either " + far + " is " + digit +
+         " or the box has its " + digit + " in " + other_arm + ". " + target +
+         " sees both, so it cannot be " + digit + ". " + Removals(f);
 }
 
 }  // namespace
@@ -318,7 +362,7 @@ std::string ExampleText(const Example& example) {
     case 16:
       return MultiXWing(f);
     case 17:
-      return FinnedXWing(f);
+      return FinnedXWing(example);
     case 18:
       return UniqueRectangle(f);
     case 19:

@@ -129,7 +129,7 @@ class Builder {
     out_ << "<p class=\"navigation\"><a href=\"index.html\">Contents</a>";
     if (index > 1) {
       out_ << " &nbsp; ";
-      link(index - 1, "Back");
+      link(index - 1, "Previous");
     }
     if (index + 1 < pages_.size()) {
       out_ << " &nbsp; ";
@@ -177,7 +177,7 @@ class Builder {
         return in >> name >> other && name == "@example" && input_.examples.Find(other) != nullptr;
       });
       out_ << (more > 1 ? "<h2>Worked examples</h2>\n" : "<h2>Worked example</h2>\n");
-      Legend(page);
+      Legend(page, more > 1);
     }
     shown_.push_back(example);
     Picture(*example, heading);
@@ -194,7 +194,8 @@ class Builder {
   }
 
   // What the signs in the page's pictures mean; only those that occur.
-  void Legend(const PageText& page) {
+  void Legend(const PageText& page, bool several) {
+    const char* const in = several ? "In the pictures, " : "In the picture, ";
     bool fin = false;
     bool link = false;
     bool pivot = false;
@@ -214,7 +215,7 @@ class Builder {
     }
     out_ << "<p class=\"legend\">";
     if (single) {
-      out_ << "In the pictures, the disc stands for the digit that goes in"
+      out_ << in << "the disc stands for the digit that goes in"
            << (page.file == TechniqueOfStep(1).help_page
                    ? ", a large ring for a digit that rules out other places."
                    : ".");
@@ -225,10 +226,10 @@ class Builder {
       if (pivot) signs.emplace_back("a disc with a ring for one of the pivot");
       if (link) signs.emplace_back("a hollow disc for one that connects two others");
       if (fin) signs.emplace_back("a diamond for a fin");
-      signs.emplace_back("a struck square for a candidate that goes");
-      out_ << "In the pictures, " << Joined(signs) << '.';
+      signs.emplace_back("a struck square for a candidate that is removed");
+      out_ << in << Joined(signs) << '.';
       if (cover)
-        out_ << " Lines and boxes that lose candidates have a sand-coloured ground, a framed header or a "
+        out_ << " Lines and boxes that lose candidates have a sand-coloured background, a framed header or a "
                 "dashed border.";
     }
     out_ << "</p>\n";
