@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
 
 namespace kestrel {
 
@@ -17,45 +16,6 @@ double Luminance(const QColor& colour) {
     return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
   };
   return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
-std::vector<TextOnGround> CollectTextPairs() {
-  const QColor text(kText);
-  const QColor disabled(kDisabledText);
-  std::vector<TextOnGround> pairs = {
-      {"window", text, kWindow},
-      {"list or text box", text, kPaper},
-      {"disabled on the window", disabled, kWindow},
-      {"disabled list or text box", disabled, kWindow},
-      {"own digit", text, kPaper},
-      {"given digit", ToQColor(kDarkBlue, kText), kGivenCell},
-      {"mark", QColor(kMark), kPaper},
-      {"mark of a disabled board", QColor(kDeafMark), kPaper},
-      {"mark under the pointer", QColor(kMark), kHover},
-      {"pressed mark", QColor(kMark), kPressed},
-      {"header", ToQColor(kBlack, kText), kWindow},
-      {"header under the pointer", ToQColor(kBlack, kText), kHover},
-      {"selected header", ToQColor(kRed, kText), kSelectedHeader},
-      {"link", QColor(kLink), kWindow},
-      {"selected line", QColor(kAccentText), kAccent},
-      {"tooltip", text, kTooltip},
-      {"sign of a warning", QColor(kAccentText), kWarning},
-      {"sign of an error", QColor(kAccentText), kTargetCell},
-      {"progress, empty part", text, kTrack},
-      {"progress, filled part", QColor(kAccentText), kAccent},
-      {"button", text, kButton},
-      {"button under the pointer", text, kHover},
-      {"pressed button", text, kPressed},
-      {"disabled button", disabled, kDisabledButton},
-  };
-  for (const Colour face : {kWhite, kLightYellow, kLightGreen, kLightCyan, kLightBlue}) {
-    pairs.push_back({"technique or clock", text, ToQColor(face, kWindow)});
-  }
-  for (const Colour face : {kLightGreen, kLightRed}) {
-    pairs.push_back({"coloured button", text, ToQColor(face, kWindow)});
-    pairs.push_back({"disabled coloured button", disabled, DisabledFace(ToQColor(face, kWindow))});
-  }
-  return pairs;
 }
 
 void SetDisabled(QPalette& palette) {
@@ -103,11 +63,6 @@ double ContrastRatio(const QColor& one, const QColor& other) {
   const double a = Luminance(one) + 0.05;
   const double b = Luminance(other) + 0.05;
   return std::max(a, b) / std::min(a, b);
-}
-
-std::span<const TextOnGround> AllTextPairs() {
-  static const std::vector<TextOnGround> kPairs = CollectTextPairs();
-  return kPairs;
 }
 
 }  // namespace kestrel

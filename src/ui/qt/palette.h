@@ -4,7 +4,6 @@
 
 #include <QColor>
 #include <QPalette>
-#include <span>
 
 #include "forms/control.h"
 
@@ -49,15 +48,5 @@ QPalette CalmPalette();
 
 // Contrast of two colours after WCAG 2.1, from 1 (none) to 21 (black on white).
 double ContrastRatio(const QColor& one, const QColor& other);
-
-// A text colour and a ground that it is painted on somewhere.
-struct TextOnGround {
-  const char* where;
-  QColor text;
-  QColor ground;
-};
-
-// Every pair that the windows use, for the test that all of them can be read.
-std::span<const TextOnGround> AllTextPairs();
 
 }  // namespace kestrel
