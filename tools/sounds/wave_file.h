@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Sounds as 16-bit PCM wave files (RIFF). Used by the program that makes the sounds and by the test that
-// reads them back.
+// Sounds as 16-bit PCM wave files (RIFF). Used by the program that makes the sounds and by its test.
 #pragma once
 
 #include <cstdint>
-#include <optional>
-#include <span>
 #include <vector>
 
 namespace kestrel::sounds {
@@ -24,9 +21,5 @@ struct Wave {
 
 // The bytes of a wave file: a 44-byte header and the samples, all little-endian.
 std::vector<std::uint8_t> EncodeWave(const Wave& wave);
-
-// Reads what EncodeWave writes. Nothing for any other layout, for sizes that do not agree with the length and
-// for anything that is not 16-bit PCM with one or two channels.
-std::optional<Wave> DecodeWave(std::span<const std::uint8_t> bytes);
 
 }  // namespace kestrel::sounds
