@@ -103,6 +103,7 @@ TEST(Damage, MissingRightsAreReported) {
     const Played played{home.program.Get("output"), "", status};
     EXPECT_EQ(played.status, rights == 0 ? 1 : 0) << played.output;
     EXPECT_EQ(played.Count("message \"File Error\""), 1);
+    chmod(home.home.Path(kStock).c_str(), 0600);
     EXPECT_EQ(home.StockBytes(), before);
   }
 }
