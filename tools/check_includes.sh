@@ -13,7 +13,7 @@ allowed() {
     host | forms | solver) echo core ;;
     hint | generator | explain) echo core solver ;;
     media) echo core forms ;;
-    stock) echo core solver generator explain ;;
+    stock) echo core solver generator ;;
     players) echo core forms media ;;
     print) echo core forms solver ;;
     game) echo "$logic" explain players print ;;

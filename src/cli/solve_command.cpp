@@ -11,6 +11,7 @@
 #include "cli/rating_text.h"
 #include "core/text.h"
 #include "explain/explain.h"
+#include "explain/names.h"
 #include "solver/solver.h"
 
 namespace kestrel {
@@ -57,8 +58,8 @@ std::string StepJson(int number, const Finding& finding) {
   }
   JsonObject object;
   object.Add("number", number)
-      .Add("step", finding.step)
-      .Add("technique", TechniqueOfStep(finding.step).caption)
+      .Add("step", StepOf(finding.technique))
+      .Add("technique", RowOf(finding.technique).caption)
       .Add("form", finding.form)
       .AddRaw("digits", DigitsJson(finding.digits).Text())
       .AddRaw("pattern", pattern.Text())
@@ -86,9 +87,9 @@ class StepWriter final : public StepObserver {
   void OnStep(const Finding& finding, const SolverState& /*after*/) override {
     ++count_;
     if (detail_ == Detail::kTrace && json_) {
-      array_.Add(finding.step);
+      array_.Add(StepOf(finding.technique));
     } else if (detail_ == Detail::kTrace) {
-      text_ += (count_ == 1 ? "" : " ") + std::to_string(finding.step);
+      text_ += (count_ == 1 ? "" : " ") + std::to_string(StepOf(finding.technique));
     } else if (json_) {
       array_.AddRaw(StepJson(count_, finding));
     } else {

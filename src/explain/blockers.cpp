@@ -6,7 +6,7 @@
 
 #include "solver/unit_table.h"
 
-namespace kestrel::help {
+namespace kestrel {
 
 Blockers FindBlockers(const DigitGrid& digits, Unit unit, int cell, int digit) {
   CellSet open;  // the cells that still need an explanation
@@ -31,4 +31,4 @@ Blockers FindBlockers(const DigitGrid& digits, Unit unit, int cell, int digit) {
   return blockers;
 }
 
-}  // namespace kestrel::help
+}  // namespace kestrel

@@ -8,7 +8,7 @@
 #include "core/grid.h"
 #include "solver/finding.h"
 
-namespace kestrel::help {
+namespace kestrel {
 
 struct Blockers {
   std::vector<int> cells;     // ascending; as few as a greedy choice finds
@@ -19,4 +19,4 @@ struct Blockers {
 // unit.
 Blockers FindBlockers(const DigitGrid& digits, Unit unit, int cell, int digit);
 
-}  // namespace kestrel::help
+}  // namespace kestrel

@@ -9,10 +9,11 @@
 #include <vector>
 
 #include "explain/blockers.h"
-#include "explain/cell_names.h"
+#include "explain/names.h"
+#include "explain/technique_words.h"
 #include "solver/technique_table.h"
 
-namespace kestrel::help {
+namespace kestrel {
 namespace {
 
 // The window's geometry, in pixels (15 twips each); only the headers stand closer to the board.
@@ -95,8 +96,8 @@ class Drawing {
     out_ << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << kPictureWidth << "\" height=\""
          << kPictureHeight << "\" viewBox=\"0 0 " << kPictureWidth << ' ' << kPictureHeight
          << "\" font-family=\"'Liberation Sans',Arial,Helvetica,sans-serif\" text-anchor=\"middle\">\n<title>"
-         << TechniqueOfStep(finding_.step).caption << "</title>\n<rect width=\"" << kPictureWidth
-         << "\" height=\"" << kPictureHeight << "\" fill=\"#fff\"/>\n";
+         << RowOf(finding_.technique).caption << "</title>\n<rect width=\"" << kPictureWidth << "\" height=\""
+         << kPictureHeight << "\" fill=\"#fff\"/>\n";
   }
 
   void Rect(double x, double y, double width, double height, const std::string& style) {
@@ -133,7 +134,7 @@ class Drawing {
 
   void Washes() {
     const auto fill = [](const char* colour) { return std::string("fill=\"") + colour + '"'; };
-    if (CoversLose(finding_.step)) {
+    if (CoversLose(finding_.technique)) {
       for (const Unit& unit : finding_.covers) Fill(unit, fill(kCoverWash));
     }
     for (const Unit& unit : finding_.units) Fill(unit, fill(kUnitWash));
@@ -195,31 +196,24 @@ class Drawing {
     std::vector<int> cells;
     for (const PatternCell& part : finding_.pattern) cells.push_back(part.cell);
     closed = false;
-    switch (finding_.step) {
-      case 12:
-      case 20:
+    switch (WordsOf(finding_.technique).links) {
+      case Links::Wings:
         return {cells[1], cells[0], cells[2]};
-      case 13:
-      case 14:
+      case Links::Chain:
         return cells;
-      case 16:
+      case Links::Corners:
         closed = true;
         return {cells[0], cells[1], cells[3], cells[2]};
-      case 11:
-        closed = true;
-        return {cells[0], cells[1], cells[3], cells[2]};
-      case 17:
-        closed = true;
-        return {cells[0], cells[1], cells[3], cells[2]};
-      case 18:
-      case 19:
+      case Links::Around:
         closed = true;
         return Around(cells);
-      case 21:
+      case Links::Pair:
         return {cells[cells.size() - 2], cells[cells.size() - 1]};
-      default:
-        return {};
+      case Links::Nothing:
+      case Links::Unset:
+        break;
     }
+    return {};
   }
 
   // The four corners of a rectangle so that neighbours in the list share a row or a column.
@@ -267,7 +261,7 @@ class Drawing {
   }
 
   void Signs() {
-    if (finding_.step == 1) {
+    if (finding_.technique == Technique::HiddenSingle) {
       const Blockers blockers =
           FindBlockers(example_.digits, finding_.units[0], finding_.placed_cell, finding_.placed_digit);
       for (const int cell : blockers.cells) Disc(CellMiddle(cell), 22, "fill=\"none\"", 3);
@@ -339,8 +333,8 @@ class Drawing {
 
 }  // namespace
 
-bool CoversLose(int step) {
-  return step != 13 && step != 14 && step != 21;
+bool CoversLose(Technique technique) {
+  return WordsOf(technique).covers == Covers::Lose;
 }
 
 std::string BoardPicture(const Example& example) {
@@ -362,4 +356,4 @@ std::string PictureInWords(const Example& example) {
   return text + "Struck out: " + Joined(removals) + '.';
 }
 
-}  // namespace kestrel::help
+}  // namespace kestrel

@@ -7,7 +7,7 @@
 
 #include "explain/example.h"
 
-namespace kestrel::help {
+namespace kestrel {
 
 // Width and height of every picture, in pixels at scale 1.
 inline constexpr int kPictureWidth = 564;
@@ -21,11 +21,11 @@ inline constexpr int kPictureHeight = 562;
 //   pattern dark header    a line in which the pattern lies    framed header  a line that it covers
 std::string BoardPicture(const Example& example);
 
-// True when candidates are removed from the lines and boxes that the technique (1..22) covers; these get a
-// background of their own in its pictures. Otherwise the covers only connect parts of the pattern.
-bool CoversLose(int step);
+// True when candidates are removed from the lines and boxes that the technique covers; these get a background of
+// their own in its pictures. Otherwise the covers only connect parts of the pattern.
+bool CoversLose(Technique technique);
 
 // The same in words, for readers who do not see it: "Board with ... marked".
 std::string PictureInWords(const Example& example);
 
-}  // namespace kestrel::help
+}  // namespace kestrel

@@ -8,10 +8,11 @@
 #include <sstream>
 #include <tuple>
 
-#include "explain/cell_names.h"
+#include "core/cell_names.h"
+#include "explain/technique_words.h"
 #include "solver/technique_table.h"
 
-namespace kestrel::help {
+namespace kestrel {
 namespace {
 
 constexpr std::array<std::pair<Role, std::string_view>, 7> kRoles{{{Role::Base, ""},
@@ -126,7 +127,7 @@ class Reader {
     if (!current_) return false;
     if (name == "row") return Row(words);
     if (name == "givens") return words.size() == 2 && Givens(words[1]);
-    if (name == "technique") return Technique(words);
+    if (name == "technique") return TechniqueLine(words);
     return FindingLine(words);
   }
 
@@ -163,7 +164,10 @@ class Reader {
       const std::string_view part = slash < word.size() ? word.substr(slash + 1) : std::string_view{};
       const auto role =
           std::find_if(kRoles.begin(), kRoles.end(), [&](const auto& r) { return r.second == part; });
-      if (role == kRoles.end()) return false;
+      if (role == kRoles.end() || finding.technique == Technique::None ||
+          !WordsOf(finding.technique).roles.Has(role->first)) {
+        return false;
+      }
       finding.pattern.push_back({cell, digits, role->first});
       return true;
     }
@@ -205,20 +209,21 @@ class Reader {
     return true;
   }
 
-  bool Technique(const Words& words) {
+  bool TechniqueLine(const Words& words) {
     std::string caption;
     for (std::size_t i = 1; i < words.size(); ++i) caption += (i > 1 ? " " : "") + words[i];
-    for (int step = 1; step <= kTechniques; ++step) {
-      if (TechniqueOfStep(step).caption == caption) current_->finding.step = step;
+    for (const Technique technique : kAllTechniques) {
+      if (RowOf(technique).caption == caption) current_->finding.technique = technique;
     }
-    return current_->finding.step != 0;
+    return current_->finding.technique != Technique::None;
   }
 
   void Close() {
     if (!current_ || !file_.error.empty()) return;
     const Finding& finding = current_->finding;
     const bool single = finding.placed_cell >= 0;
-    if (rows_ != 9 || finding.step == 0 || finding.pattern.empty() || single == !finding.removals.empty()) {
+    if (rows_ != 9 || finding.technique == Technique::None || finding.pattern.empty() ||
+        single == !finding.removals.empty()) {
       Fail("the example before this line is not complete");
       return;
     }
@@ -242,8 +247,8 @@ class Reader {
 
 bool SameFinding(const Finding& a, const Finding& b) {
   const auto parts = [](const Finding& f) {
-    return std::tie(f.step, f.digits, f.pattern, f.units, f.covers, f.form, f.placed_cell, f.placed_digit,
-                    f.removals);
+    return std::tie(f.technique, f.digits, f.pattern, f.units, f.covers, f.form, f.placed_cell,
+                    f.placed_digit, f.removals);
   };
   return parts(a) == parts(b);
 }
@@ -267,7 +272,7 @@ std::string WriteExample(const Example& example) {
     }
     out << '\n';
   }
-  out << "technique " << TechniqueOfStep(finding.step).caption << "\nform " << finding.form << "\ndigits "
+  out << "technique " << RowOf(finding.technique).caption << "\nform " << finding.form << "\ndigits "
       << DigitsText(finding.digits) << "\npattern";
   for (const PatternCell& part : finding.pattern) {
     out << ' ' << CellName(part.cell) << ':' << DigitsText(part.digits);
@@ -300,4 +305,4 @@ ExampleFile ReadExamples(std::string_view text) {
   return Reader().Read(text);
 }
 
-}  // namespace kestrel::help
+}  // namespace kestrel

@@ -26,7 +26,7 @@
 #include "solver/finding.h"
 #include "solver/solver_state.h"
 
-namespace kestrel::help {
+namespace kestrel {
 
 struct Example {
   std::string key;
@@ -56,4 +56,4 @@ struct ExampleFile {
 // keys that occur twice, anything out of range.
 ExampleFile ReadExamples(std::string_view text);
 
-}  // namespace kestrel::help
+}  // namespace kestrel

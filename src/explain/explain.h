@@ -1,23 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Steps of the solver in words. Knows nothing of the command line, so that hints and help can use it too.
+// A step of the solver in one line: what the command line writes, and what a page can put over a picture.
 #pragma once
 
-#include <span>
 #include <string>
 
-#include "core/grid.h"
 #include "solver/finding.h"
 
 namespace kestrel {
-
-// The name that the game gives a cell (0..80): row A to H or J, column 1 to 9. Cell 24 is "C7".
-std::string CellName(int cell);
-// "row C", "column 7", "box 3".
-std::string UnitName(const Unit& unit);
-// "rows C and G", "columns 2, 5 and 8", "row C and column 5".
-std::string UnitNames(std::span<const Unit> units);
-// "4", "3 and 7", "2, 5 and 8".
-std::string DigitNames(CandidateMask digits);
 
 // The parts of a sentence about a step, to be put together or shown apart.
 struct StepWords {

@@ -2,6 +2,7 @@
 // The design of the main window. All numbers are twips.
 #include "forms/main_window.h"
 
+#include "core/cell_names.h"
 #include "forms/texts.h"
 
 namespace kestrel {
@@ -43,11 +44,10 @@ void DesignBoard(MainWindow& main) {
 
 void DesignHeaders(MainWindow& main) {
   constexpr Font kHeaderFont{"Arial", 20.25, true};
-  constexpr std::string_view kRowNames = "ABCDEFGHJ";
   for (int line = 0; line < kUnitSize; ++line) {
     const int edge = CellEdge(line) + 120;
     Place(main.LabelRow(line), 120, edge, kHeaderSize, kHeaderSize);
-    main.LabelRow(line).caption = kRowNames[static_cast<std::size_t>(line)];
+    main.LabelRow(line).caption = RowLetter(line);
     Place(main.LabelColumn(line), edge, 120, kHeaderSize, kHeaderSize);
     main.LabelColumn(line).caption = std::to_string(line + 1);
     for (Label* header : {&main.LabelRow(line), &main.LabelColumn(line)}) {
@@ -60,11 +60,11 @@ void DesignHeaders(MainWindow& main) {
 
 // Captions and colours of the rows come from the technique table and are set by the game.
 void DesignTechniqueList(MainWindow& main) {
-  for (int slot = 0; slot < 22; ++slot) {
+  for (int slot = 0; slot < kTechniques; ++slot) {
     const int top = kListTop + kListPitch * slot;
     Place(main.LabelCount(slot), 9120, top, 1785, kListPitch);
-    Place(main.LabelCount(22 + slot), 10905, top, 495, kListPitch);
-    main.LabelCount(22 + slot).align = Align::Right;
+    Place(main.LabelCount(kTechniques + slot), 10905, top, 495, kListPitch);
+    main.LabelCount(kTechniques + slot).align = Align::Right;
   }
   Place(main.LabelHint, 8760, kListTop, 345, kListPitch);
   main.LabelHint.caption = ">";

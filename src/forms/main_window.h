@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "core/grid.h"
+#include "core/technique.h"
 #include "forms/control.h"
 #include "forms/event.h"
 
@@ -33,11 +34,12 @@ using MarkArray = ControlArray<Label, 0, kCells>;
 struct MainWindow {
   Window window;
 
-  ControlArray<Label, 0, kCells> Grid;          // the cells' digits, "" or "1".."9"
-  ControlArray<MarkArray, 1, 9> Mark;           // pencil marks by digit and cell
-  ControlArray<Label, 0, 9> LabelRow;           // "A".."H", "J"
-  ControlArray<Label, 0, 9> LabelColumn;        // "1".."9"
-  ControlArray<Label, 0, 44> LabelCount;        // s: technique of slot s; 22 + s: its count
+  ControlArray<Label, 0, kCells> Grid;    // the cells' digits, "" or "1".."9"
+  ControlArray<MarkArray, 1, 9> Mark;     // pencil marks by digit and cell
+  ControlArray<Label, 0, 9> LabelRow;     // "A".."H", "J"
+  ControlArray<Label, 0, 9> LabelColumn;  // "1".."9"
+  // s: technique of slot s; kTechniques + s: its count
+  ControlArray<Label, 0, 2 * kTechniques> LabelCount;
   Label LabelHint;                              // marks a row of the technique list; tag: step 1..22
   Label LabelTijd;                              // the clock, "MM:SS"
   Label LabelStap;                              // the step counter

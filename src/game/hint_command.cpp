@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "core/cell_names.h"
 #include "core/global.h"
 #include "core/text.h"
 #include "game/texts.h"
@@ -14,21 +15,14 @@ namespace kestrel {
 
 namespace {
 
-// "C7" of row C and column 7, by the captions of the headers.
-std::string CellName(const MainWindow& main, int cell) {
-  std::string row = main.LabelRow(CellRow[cell]).caption;
-  std::string column = main.LabelColumn(CellCol[cell]).caption;
-  return StripTrailingBlanks(row) + StripTrailingBlanks(column);
-}
-
-void MarkTechnique(Session& session, int step) {
+void MarkTechnique(Session& session, Technique technique) {
   session.sounds.Speel(Sound::Hint);
   Label& marker = session.forms.main.LabelHint;
-  marker.top = kListTop + kListPitch * (step - 1);
-  marker.tag = std::to_string(step);
-  marker.spoken = texts::HelpOn(TechniqueOfStep(step).caption);
+  marker.top = kListTop + kListPitch * SlotOf(technique);
+  marker.tag = std::to_string(StepOf(technique));
+  marker.spoken = texts::HelpOn(RowOf(technique).caption);
   marker.visible = true;
-  session.clock.AddPenalty(step);
+  session.clock.AddPenalty(StepOf(technique));
 }
 
 void ReportMistake(Session& session, const std::string& text) {
@@ -41,23 +35,21 @@ void ReportMistake(Session& session, const std::string& text) {
 }  // namespace
 
 void Hint(Session& session) {
-  const MainWindow& main = session.forms.main;
   session.forms.main.LabelHint.visible = false;
   const std::optional<HintCode> found = FindHint(session.puzzle, session.yield);
   if (!found || *found == kNoHint || *found == kNoHintsAtThisLevel) return;
   if (*found < kFirstWrongDigit) {
-    MarkTechnique(session, *found);
+    MarkTechnique(session, TechniqueOfStep(*found));
   } else if (*found < kFirstErasedMark) {
-    ReportMistake(session, texts::WrongDigit(CellName(main, *found - kFirstWrongDigit)));
+    ReportMistake(session, texts::WrongDigit(CellName(*found - kFirstWrongDigit)));
   } else {
-    ReportMistake(session, texts::ErasedMark(CellName(main, *found - kFirstErasedMark)));
+    ReportMistake(session, texts::ErasedMark(CellName(*found - kFirstErasedMark)));
   }
 }
 
 void OpenHintPage(Session& session) {
-  const int step = WholeNumber(session.forms.main.LabelHint.tag).value_or(0);
-  if (step < 1 || step > kTechniques) return;
-  session.help.ShowPage(TechniqueOfStep(step).help_page);
+  const Technique technique = TechniqueOfStep(WholeNumber(session.forms.main.LabelHint.tag).value_or(0));
+  if (technique != Technique::None) session.help.ShowPage(RowOf(technique).help_page);
 }
 
 }  // namespace kestrel

@@ -33,7 +33,7 @@ std::optional<HintCode> FindHint(const OpenPuzzle& puzzle, Yield& yield) {
   SolverState state(puzzle.CurrentDigits, puzzle.PencilMask);
   const DigitGrid givens = puzzle.GivenDigits;
   if (!yield.KeepGoing()) return std::nullopt;
-  return static_cast<HintCode>(FirstTechnique(state, givens));
+  return static_cast<HintCode>(StepOf(FirstTechnique(state, givens)));
 }
 
 }  // namespace kestrel

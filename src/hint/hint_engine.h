@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "core/open_puzzle.h"
+#include "core/technique.h"
 #include "core/yield.h"
 
 namespace kestrel {
@@ -19,9 +20,9 @@ namespace kestrel {
 //   185        the board is sound, but puzzles of this level get no hints
 using HintCode = std::int16_t;
 inline constexpr HintCode kNoHint = 0;
-inline constexpr HintCode kFirstWrongDigit = 23;
-inline constexpr HintCode kFirstErasedMark = 104;
-inline constexpr HintCode kNoHintsAtThisLevel = 185;
+inline constexpr HintCode kFirstWrongDigit = kTechniques + 1;
+inline constexpr HintCode kFirstErasedMark = kFirstWrongDigit + kCells;
+inline constexpr HintCode kNoHintsAtThisLevel = kFirstErasedMark + kCells;
 
 // The first mistake in cell order counts. The technique is looked for on a state of the engine's own: board
 // and marks are only read, and both as they are at the call. Asks `yield` once, before the search; nothing is

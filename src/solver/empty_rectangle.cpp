@@ -2,12 +2,12 @@
 // Empty Rectangle: a box in which a digit lies on a cross of one row and one column, and a pair of the digit
 // outside it.
 //
-//             C                          if Y is not 4, X is, and row R holds no 4 in the box: then the box's
-//    R    . . 4 4 | . . X | . . .        4 lies in column C. Either way t, which sees Y and column C, is
-//    not 4.
-//         . . . 4 | . . . | . . .        (Or the same with X on column C.)
-//         --------+-------+------
-//         . . . t | . . Y | . . .        X and Y are the only 4s of their column
+//             C
+//    R    4 4 . | . . X | . . .      X and Y are the only 4s of their column. If Y is not 4, X is; then row R
+//         . . 4 | . . . | . . .      has no 4 in the box, and the box's 4 lies in column C. So Y or the 4 in
+//         . . 4 | . . . | . . .      column C takes the 4 from t, which sees both.
+//         ------+-------+------
+//         . . t | . . Y | . . .      Or the same turned over, with X on column C.
 #include <array>
 #include <bit>
 #include <cstdint>

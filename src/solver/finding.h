@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/grid.h"
+#include "core/technique.h"
 
 namespace kestrel {
 
@@ -44,57 +45,57 @@ struct Removal {
   friend bool operator==(const Removal&, const Removal&) = default;
 };
 
-// What the parts of a Finding hold for each technique, by step; a part not named is empty or 0, and cells
+// What the parts of a Finding hold for each technique; a part not named is empty or 0, and cells
 // stand in the order given. A cell's digits are all its candidates where this says "full", else those of the
 // pattern that it has (for a solved rectangle corner: its value).
 //
-//  1  Hidden Single: digits d; pattern the cell; units the unit; form 1 box, 2 row, 3 column.
+//  Hidden Single: digits d; pattern the cell; units the unit; form 1 box, 2 row, 3 column.
 //
-//  2  Naked Single: digits d; pattern the cell.
+//  Naked Single: digits d; pattern the cell.
 //
-//  3  Pointing Pair: digits d; pattern d's cells in the box; units the box; covers the line that loses;
+//  Pointing Pair: digits d; pattern d's cells in the box; units the box; covers the line that loses;
 //     form 1 row, 2 column.
 //
-//  4  Box Line: digits d; pattern d's cells in the line; units the line; covers the box that loses;
+//  Box Line: digits d; pattern d's cells in the line; units the line; covers the box that loses;
 //     form 1 row, 2 column.
 //
-//  5, 6, 8, 10  Naked subsets: digits the subset; pattern its cells; units the unit;
+//  Naked subsets: digits the subset; pattern its cells; units the unit;
 //     form 1 row, 2 column, 3 box.
 //
-//  7, 9  Hidden subsets: the same.
+//  Hidden subsets: the same.
 //
-//  11, 15, 22  X-Wing, Swordfish, Jellyfish: digits d; pattern d's cells in the base lines, line by line;
+//  X-Wing, Swordfish, Jellyfish: digits d; pattern d's cells in the base lines, line by line;
 //     units the base lines; covers the cover lines; form 1 rows, 2 columns.
 //
-//  12, 20  XY-Wing, XYZ-Wing: digits x, y, z; pattern Pivot, Wing, Wing, all full; units the two units in
+//  XY-Wing, XYZ-Wing: digits x, y, z; pattern Pivot, Wing, Wing, all full; units the two units in
 //     which the pivot meets them.
 //
-//  13 2 String Kite: digits d; pattern the row's end, its Link, the column's Link, its end; units the row and
+//  2 String Kite: digits d; pattern the row's end, its Link, the column's Link, its end; units the row and
 //     the column; covers the box of the links.
 //
-//  14 Skyscraper: digits d; pattern the first end, its Link, the second Link, its end; units the two
+//  Skyscraper: digits d; pattern the first end, its Link, the second Link, its end; units the two
 //     lines; covers the line of the links; form 1 rows, 2 columns.
 //
-//  16 Multi X-Wing: digits d1, d2, e1, e2; pattern the four cells; units where d1 and d2 are pairs; covers
+//  Multi X-Wing: digits d1, d2, e1, e2; pattern the four cells; units where d1 and d2 are pairs; covers
 //     where e1 and e2 go; form 1 rows A, 2 rows B, 3 columns A, 4 columns B, 5 boxes A, 6 boxes B
 //     (A: the four cells form a rectangle, in the boxes pass by rows; B: two boxes, in the boxes pass by
 //     columns).
 //
-//  17 Finned X-Wing: digits d; pattern two corners in the base line, two in the finned line, the Fins; units
+//  Finned X-Wing: digits d; pattern two corners in the base line, two in the finned line, the Fins; units
 //     base line, finned line; covers the line that loses, the other; form 1 rows, 2 columns.
 //
-//  18 Unique Rectangle: form 1 (type 1): digits d1, d2; pattern three Floors, the Roof that loses them.
+//  Unique Rectangle: form 1 (type 1): digits d1, d2; pattern three Floors, the Roof that loses them.
 //     Form 2 (type 2): digits d1, d2, x; pattern two Floors, two Roofs. Units the line of the first two.
 //
-//  19 Avoidable Rectangle: form 1 (one corner open): digits d, e; pattern two corners solved with d, the one
+//  Avoidable Rectangle: form 1 (one corner open): digits d, e; pattern two corners solved with d, the one
 //     solved with e, the open Roof that loses e. Form 2 (two corners open): digits d, e, f; pattern the
 //     corners solved with d and e, two Roofs; units the line of the solved two.
 //
-//  21 Empty Rectangle: digits d; pattern d's cells in the box, then two Links: the pair, first the one on the
+//  Empty Rectangle: digits d; pattern d's cells in the box, then two Links: the pair, first the one on the
 //     cross; units the box and the line of the pair; covers the row and the column of the cross; form 1 pair
 //     met from the row, 2 from the column.
 struct Finding {
-  int step = 0;              // 1..22, the technique's row in the technique table plus one
+  Technique technique = Technique::None;
   CandidateMask digits = 0;  // the digits that the pattern is about
   std::vector<PatternCell> pattern;
   std::vector<Unit> units;   // the units in which the pattern lies (a fish: its base lines)

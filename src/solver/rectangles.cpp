@@ -2,13 +2,15 @@
 // Unique Rectangle and Avoidable Rectangle. In a proper puzzle the four corners of a rectangle in two boxes
 // cannot end up holding just two digits crosswise: swapping them would give a second solution.
 //
-//    Unique Rectangle                            Avoidable Rectangle (none of the corners a given)
-//    floor  {1,2}  {1,2}    type 1: third        one corner open:  1  2     the open corner X cannot be 2
-//    roof   {1,2}  {1,2,x}  corner too, 1 and 2                    X  1
-//                           go from the fourth   two open:         1  2     X is 2 or f, Y is 1 or f, and not
-//    roof  {1,2,x} {1,2,x}  type 2: one roof                       X  Y     2 and 1: f goes from what sees
-//    both
-//                           is x
+//    Unique Rectangle, type 1                type 2
+//      floor   {1,2}   {1,2}                   floor   {1,2}    {1,2}
+//      roof    {1,2}   {1,2,x}                 roof   {1,2,x}  {1,2,x}
+//      1 and 2 go from the fourth corner       one of the roof cells is x: x goes from what sees both
+//
+//    Avoidable Rectangle (none of the corners a given), one corner open      two corners open
+//      1  2                                                                    1  2
+//      X  1                                                                    X  Y
+//      the open corner X cannot be 2           X is 2 or f, Y is 1 or f, not 2 and 1: f goes from what sees both
 #include <algorithm>
 #include <array>
 #include <bit>

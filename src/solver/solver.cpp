@@ -4,20 +4,26 @@
 
 #include <algorithm>
 
+#include "core/check.h"
+
 namespace kestrel {
 namespace {
 
-// Tries the first `rows` techniques of the table in order; the step of the one that made progress, or 0.
-int TryTechniques(SolverState& state, const SolverInput& input, int rows) {
+// Every step places a digit or takes a candidate away, and neither ever comes back.
+constexpr int kMostSteps = kCells + 9 * kCells;
+
+// Tries the first `rows` techniques of the table in order; the one that made progress, or None.
+Technique TryTechniques(SolverState& state, const SolverInput& input, int rows) {
   for (int row = 0; row < rows; ++row) {
-    if (kTechniqueTable[row].routine(state, input)) return row + 1;
+    if (kTechniqueTable[row].routine(state, input)) return kTechniqueTable[row].technique;
   }
-  return 0;
+  return Technique::None;
 }
 
-// What the technique left to its caller: step and removals.
-void CompleteFinding(Finding& finding, int step, const SolverState& before, const SolverState& after) {
-  finding.step = step;
+// What the technique left to its caller: its name and the removals.
+void CompleteFinding(Finding& finding, Technique technique, const SolverState& before,
+                     const SolverState& after) {
+  finding.technique = technique;
   if (finding.placed_digit != 0) return;
   for (int cell = 0; cell < kCells; ++cell) {
     const CandidateMask gone = before.CellMask(cell) & ~after.CellMask(cell);
@@ -26,12 +32,12 @@ void CompleteFinding(Finding& finding, int step, const SolverState& before, cons
 }
 
 // The same with a description of what was found.
-int TryAndDescribe(SolverState& state, const DigitGrid& givens, int rows, Finding& finding) {
+Technique TryAndDescribe(SolverState& state, const DigitGrid& givens, int rows, Finding& finding) {
   const SolverState before = state;
   finding = {};
-  const int step = TryTechniques(state, {givens, &finding}, rows);
-  if (step != 0) CompleteFinding(finding, step, before, state);
-  return step;
+  const Technique technique = TryTechniques(state, {givens, &finding}, rows);
+  if (technique != Technique::None) CompleteFinding(finding, technique, before, state);
+  return technique;
 }
 
 }  // namespace
@@ -40,25 +46,27 @@ Rating SolveAndRate(const DigitGrid& givens, Yield& yield, const RateOptions& op
   Rating rating{.state = SolverState(givens)};
   const int rows = TechniquesUpTo(options.highest_level);
   int level = 1;
-  while (!rating.state.Solved()) {
+  for (int steps = 0; !rating.state.Solved(); ++steps) {
+    // A technique that says it made progress and did not would go on for ever.
+    Require(steps <= kMostSteps);
     if (!yield.KeepGoing()) {
       rating.outcome = RateOutcome::Stopped;
       return rating;
     }
-    int step = 0;
+    Technique found = Technique::None;
     if (options.observer == nullptr) {
-      step = TryTechniques(rating.state, {givens}, rows);
+      found = TryTechniques(rating.state, {givens}, rows);
     } else {
       Finding finding;
-      step = TryAndDescribe(rating.state, givens, rows, finding);
-      if (step != 0) options.observer->OnStep(finding, rating.state);
+      found = TryAndDescribe(rating.state, givens, rows, finding);
+      if (found != Technique::None) options.observer->OnStep(finding, rating.state);
     }
-    if (step == 0) {
+    if (found == Technique::None) {
       rating.outcome = rows == kTechniques ? RateOutcome::Rated : RateOutcome::Above;
       rating.level = rows == kTechniques ? kBeyondTechniques : 0;
       return rating;
     }
-    const TechniqueRow& technique = TechniqueOfStep(step);
+    const TechniqueRow& technique = RowOf(found);
     ++rating.counters[technique.counter];
     // A technique is tried only when all lower tiers have failed in this round.
     level = std::max(level, technique.tier);
@@ -67,7 +75,7 @@ Rating SolveAndRate(const DigitGrid& givens, Yield& yield, const RateOptions& op
   return rating;
 }
 
-int FirstTechnique(SolverState& state, const DigitGrid& givens, Finding* finding) {
+Technique FirstTechnique(SolverState& state, const DigitGrid& givens, Finding* finding) {
   if (finding == nullptr) return TryTechniques(state, {givens}, kTechniques);
   return TryAndDescribe(state, givens, kTechniques, *finding);
 }

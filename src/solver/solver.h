@@ -54,9 +54,9 @@ struct Rating {
 // before every step, not at all when the givens fill the grid. Givens are 0..9; they are not checked.
 Rating SolveAndRate(const DigitGrid& givens, Yield& yield, const RateOptions& options = {});
 
-// Tries the 22 techniques once each, in order, on `state`. Returns the step (1..22) of the first that made
-// progress, with the state changed and `finding`, if not null, filled; 0 and nothing changed when none did.
+// Tries the techniques once each, in order, on `state`. Returns the first that made progress, with the state
+// changed and `finding`, if not null, filled; None and nothing changed when none did.
 // `givens` tells the Avoidable Rectangle which digits were given.
-int FirstTechnique(SolverState& state, const DigitGrid& givens, Finding* finding = nullptr);
+Technique FirstTechnique(SolverState& state, const DigitGrid& givens, Finding* finding = nullptr);
 
 }  // namespace kestrel

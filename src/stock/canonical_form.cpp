@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The search for the least disguise. In the least grid the first row reads 123456789, because any row can be
 // renamed so; that leaves 2 (turned over or not) x 18 (first and second row, in one band) x 1,296 (columns)
-// = 46,656 openings. Nearly all of them lose to the best so far in the first
-// cells of the second row. What
-// an opening leaves free is decided by its first column: rows and bands must ascend there.
+// = 46,656 openings. Nearly all of them lose to the best so far in the first cells of the second row. What an
+// opening leaves free is decided by its first column: rows and bands must ascend there.
 #include "stock/canonical_form.h"
 
 #include <algorithm>

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "explain/explain.h"
+#include "core/cell_names.h"
 #include "solver/solver.h"
 #include "stock/canonical_form.h"
 #include "stock/ordered_work.h"

@@ -142,7 +142,9 @@ TEST(RateAndSolve, AgreeWithThePlainSolver) {
     levels.insert(std::to_string(level) + "/" + std::to_string(solutions));
 
     std::string trace;
-    for (const int step : solver.Steps) trace += (trace.empty() ? "" : " ") + std::to_string(step);
+    for (const Technique technique : solver.Steps) {
+      trace += (trace.empty() ? "" : " ") + std::to_string(StepOf(technique));
+    }
     EXPECT_EQ(traces[i], trace);
     EXPECT_EQ(steps[next], "Puzzle " + puzzle);
     next += 1 + solver.Steps.size();
@@ -175,10 +177,11 @@ TEST(Solve, GridAndJson) {
   EXPECT_EQ(RunWith({"solve"}, input).out, std::string(kEasySolved) + "\n");
   const CliResult json = RunWith({"solve", "--steps", "--format", "json"}, input);
   EXPECT_NE(
-      json.out.find(R"("steps":[{"number":1,"step":1,"technique":"Hidden Single","form":1,"digits":[3],)"
-                    R"("pattern":[{"cell":"C5","digits":[3],"role":"base"}],"units":["box 2"],"covers":[],)"
-                    R"("place":{"cell":"C5","digit":3},"text":"Hidden Single on 3: no other place in box )"
-                    R"(2: places 3 in C5"},{"number":2,)"),
+      json.out.find(
+          R"("steps":[{"number":1,"step":1,"technique":"Hidden Single","form":1,"digits":[3],)"
+          R"("pattern":[{"cell":"C5","digits":[3],"role":"base"}],"units":["top middle box"],"covers":[],)"
+          R"("place":{"cell":"C5","digit":3},"text":"Hidden Single on 3: no other place in )"
+          R"(the top middle box: places 3 in C5"},{"number":2,)"),
       std::string::npos)
       << json.out;
   const CliResult trace = RunWith({"solve", "--trace", "--format", "json"}, input);

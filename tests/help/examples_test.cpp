@@ -8,9 +8,9 @@
 #include <string>
 
 #include "explain/board_picture.h"
-#include "explain/cell_names.h"
-#include "explain/example_text.h"
-#include "explain/forms.h"
+#include "explain/names.h"
+#include "explain/reasons.h"
+#include "explain/technique_words.h"
 #include "help/site_files.h"
 #include "solver/solver.h"
 #include "solver/technique_table.h"
@@ -46,11 +46,13 @@ TEST(Examples, TheSolverFindsWhatEachExampleSays) {
     SCOPED_TRACE(example.key);
     // The plain second solver, which shares no code with the first: none of the simpler techniques works.
     plain::PlainSolver plain = PlainPosition(example);
-    for (int step = 1; step < example.finding.step; ++step) EXPECT_FALSE(plain.Try(step)) << step;
-    EXPECT_TRUE(plain.Try(example.finding.step));
+    const Technique technique = example.finding.technique;
+    for (int step = 1; step < StepOf(technique); ++step)
+      EXPECT_FALSE(plain.Try(TechniqueOfStep(step))) << step;
+    EXPECT_TRUE(plain.Try(technique));
     SolverState state = example.Position();
     Finding finding;
-    ASSERT_EQ(FirstTechnique(state, example.givens, &finding), example.finding.step);
+    ASSERT_EQ(FirstTechnique(state, example.givens, &finding), technique);
     EXPECT_TRUE(SameFinding(finding, example.finding));
     // The state afterwards differs by the removals and the placement, and by nothing else.
     SolverState expected = example.Position();
@@ -89,15 +91,15 @@ TEST(Examples, PositionsAreTrueToTheirPuzzles) {
 }
 
 TEST(Examples, EveryTechniqueAndEveryKeyHasItsForm) {
-  std::set<int> steps;
+  std::set<Technique> techniques;
   for (const Example& example : Shipped().examples) {
-    steps.insert(example.finding.step);
+    techniques.insert(example.finding.technique);
     const auto form = std::find_if(AllForms().begin(), AllForms().end(),
                                    [&](const Form& f) { return f.key == example.key; });
     ASSERT_NE(form, AllForms().end()) << example.key;
     EXPECT_TRUE(IsOfForm(example.finding, *form)) << example.key;
   }
-  EXPECT_EQ(steps.size(), 22U);
+  EXPECT_EQ(techniques.size(), kAllTechniques.size());
 }
 
 // Text and picture of an example name every cell that matters, and the picture has a sign for each.
@@ -115,7 +117,7 @@ TEST(Examples, TextAndPictureShowEveryCell) {
     for (const PatternCell& part : example.finding.pattern) {
       EXPECT_NE(words.find(CellName(part.cell)), std::string::npos);
       // The cells of a box in an Empty Rectangle are named by their lines.
-      if (example.finding.step != 21) {
+      if (example.finding.technique != Technique::EmptyRectangle) {
         EXPECT_NE(text.find(CellName(part.cell)), std::string::npos);
       }
     }
@@ -170,10 +172,12 @@ TEST(Names, CellsUnitsAndLists) {
   EXPECT_EQ(CellName(24), "C7");
   EXPECT_EQ(CellName(80), "J9");
   for (const char* bad : {"", "A", "I1", "a1", "A0", "A:", "A10"}) EXPECT_EQ(CellOfName(bad), -1) << bad;
-  EXPECT_EQ(UnitNames({{UnitKind::Row, 2}, {UnitKind::Row, 8}}), "rows C and J");
-  EXPECT_EQ(UnitNames({{UnitKind::Column, 0}, {UnitKind::Column, 1}, {UnitKind::Column, 8}}),
-            "columns 1, 2 and 9");
-  EXPECT_EQ(UnitNames({{UnitKind::Box, 4}}), "the centre box");
+  const std::vector<Unit> rows{{UnitKind::Row, 2}, {UnitKind::Row, 8}};
+  EXPECT_EQ(TheUnits(rows), "rows C and J");
+  const std::vector<Unit> boxes{{UnitKind::Box, 0}, {UnitKind::Box, 1}, {UnitKind::Box, 4}};
+  EXPECT_EQ(TheUnits(boxes), "the top left, the top middle and the centre box");
+  const std::vector<Unit> mixed{{UnitKind::Column, 8}, {UnitKind::Box, 8}};
+  EXPECT_EQ(TheUnits(mixed), "column 9 and the bottom right box");
   EXPECT_EQ(DigitNames(0b100000101, "or"), "1, 3 or 9");
 }
 

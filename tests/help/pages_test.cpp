@@ -177,7 +177,7 @@ TEST(Stock, NumbersAreListedShortly) {
   std::vector<std::uint8_t> bytes(kStockBytes);
   // Very Hard 100 is the last record; its slot 21, the Jellyfish, stands six bytes before its end.
   bytes[kStockBytes - 6] = 3;
-  const TechniqueUse use = UseOf(*StockOfBytes(bytes), 22);
+  const TechniqueUse use = UseOf(*StockOfBytes(bytes), Technique::Jellyfish);
   EXPECT_EQ(use.puzzles[4], std::vector<int>{100});
   EXPECT_EQ(use.times[4], 3);
   EXPECT_TRUE(use.puzzles[3].empty());

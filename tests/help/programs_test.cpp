@@ -8,7 +8,8 @@
 #include <map>
 #include <string>
 
-#include "explain/forms.h"
+#include "explain/clarity.h"
+#include "explain/technique_words.h"
 #include "help/site_files.h"
 
 namespace kestrel::help {

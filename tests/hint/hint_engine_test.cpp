@@ -84,7 +84,7 @@ TEST(FindHint, AgreesWithTheRatingStepByStep) {
       const OpenPuzzle before = puzzle;
       const HintCode hint = Find(puzzle);
       ASSERT_EQ(puzzle, before);
-      step = FirstTechnique(state, givens);
+      step = StepOf(FirstTechnique(state, givens));
       ASSERT_EQ(hint, step) << TextFromGrid(givens);
       seen.insert(hint);
       for (int cell = 0; cell < kCells; ++cell) {

@@ -18,10 +18,10 @@ int Rounds(int usual) {
   return factor == nullptr ? usual : usual * std::atoi(factor);
 }
 
-class StepNumbers final : public StepObserver {
+class StepNames final : public StepObserver {
  public:
-  void OnStep(const Finding& finding, const SolverState&) override { steps.push_back(finding.step); }
-  std::vector<int> steps;
+  void OnStep(const Finding& finding, const SolverState&) override { steps.push_back(finding.technique); }
+  std::vector<Technique> steps;
 };
 
 template <class Grid>
@@ -69,7 +69,7 @@ TEST_P(Comparison, RatesLikeThePlainSolver) {
     SCOPED_TRACE(TextFromGrid(givens));
     plain::PlainSolver plain;
     const int level = plain.SolveAndRate(Plain(givens));
-    StepNumbers observer;
+    StepNames observer;
     const Rating rating = SolveAndRate(givens, yield, {.observer = &observer});
     ASSERT_EQ(rating.outcome, RateOutcome::Rated);
     ASSERT_EQ(rating.level, level);
@@ -151,8 +151,8 @@ TEST_P(Comparison, EveryTechniqueDoesTheSameOnAnyState) {
   std::array<int, kTechniques + 1> hits{};
   for (int i = 0; i < Rounds(100); ++i) {
     const Position position = RandomPosition(random_);
-    for (int step = 1; step <= kTechniques; ++step) {
-      SCOPED_TRACE(TextFromGrid(position.digits) + " step " + std::to_string(step));
+    for (const Technique technique : kAllTechniques) {
+      SCOPED_TRACE(TextFromGrid(position.digits) + " step " + std::to_string(StepOf(technique)));
       SolverState state = position.State();
       plain::PlainSolver plain;
       plain.Givens = Plain(position.givens);
@@ -160,10 +160,10 @@ TEST_P(Comparison, EveryTechniqueDoesTheSameOnAnyState) {
       // Several calls in a row, so that what is remembered between them matters.
       bool found = true;
       for (int call = 0; call < 4 && found; ++call) {
-        found = TechniqueOfStep(step).routine(state, {position.givens});
-        ASSERT_EQ(found, plain.Try(step));
+        found = RowOf(technique).routine(state, {position.givens});
+        ASSERT_EQ(found, plain.Try(technique));
         ASSERT_EQ(Difference(state, plain), "");
-        hits[step] += found ? 1 : 0;
+        hits[StepOf(technique)] += found ? 1 : 0;
       }
     }
     SolverState state = position.State();
@@ -171,10 +171,10 @@ TEST_P(Comparison, EveryTechniqueDoesTheSameOnAnyState) {
     plain.Givens = Plain(position.givens);
     plain.Load(Plain(position.digits), Plain(position.marks));
     for (int call = 0; call < 40; ++call) {
-      const int step = FirstTechnique(state, position.givens);
-      ASSERT_EQ(step, plain.FirstTechnique());
+      const Technique technique = FirstTechnique(state, position.givens);
+      ASSERT_EQ(technique, plain.FirstTechnique());
       ASSERT_EQ(Difference(state, plain), "");
-      if (step == 0) break;
+      if (technique == Technique::None) break;
     }
   }
   for (int step = 1; step <= kTechniques; ++step) EXPECT_GT(hits[step], 0) << step;

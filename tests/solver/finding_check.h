@@ -64,36 +64,36 @@ class FindingCheck {
   }
 
   [[nodiscard]] bool Explains() const {
-    switch (f_.step) {
-      case 1:
+    switch (f_.technique) {
+      case Technique::HiddenSingle:
         return Holders(f_.units[0]) == pattern_ && f_.placed_cell == P(0).cell && !Full(0);
-      case 2:
+      case Technique::NakedSingle:
         return Full(0) && P(0).digits == DigitBit(f_.placed_digit);
-      case 3:
-      case 4:
-      case 11:
-      case 15:
-      case 22:
+      case Technique::PointingPair:
+      case Technique::BoxLine:
+      case Technique::XWing:
+      case Technique::Swordfish:
+      case Technique::Jellyfish:
         return (before_.Cells(digit_) & In(f_.units)) == pattern_ && (pattern_ - In(f_.covers)).Empty() &&
                f_.units.size() == f_.covers.size() && Lose(In(f_.covers) - In(f_.units), f_.digits);
-      case 7:
-      case 9:
+      case Technique::HiddenPair:
+      case Technique::HiddenTriple:
         return Hidden();
-      case 12:
-      case 20:
+      case Technique::XYWing:
+      case Technique::XYZWing:
         return Wings();
-      case 13:
-      case 14:
+      case Technique::TwoStringKite:
+      case Technique::Skyscraper:
         return Holders(f_.units[0]) == Pair(0, 1) && Holders(f_.units[1]) == Pair(2, 3) &&
                (Pair(1, 2) - In(f_.covers)).Empty() && Lose(SeenBy(0) & SeenBy(3), f_.digits);
-      case 16:
+      case Technique::MultiXWing:
         return Multi();
-      case 17:
+      case Technique::FinnedXWing:
         return Finned();
-      case 18:
-      case 19:
+      case Technique::UniqueRectangle:
+      case Technique::AvoidableRectangle:
         return Rectangle();
-      case 21:
+      case Technique::EmptyRectangle:
         return EmptyBox();
       default:
         return Naked();
@@ -115,7 +115,7 @@ class FindingCheck {
     return pattern_.Size() == BitCount[f_.digits] && Lose(pattern_, Without(kAllDigits, f_.digits));
   }
   [[nodiscard]] bool Wings() const {
-    const bool xyz = f_.step == 20;
+    const bool xyz = f_.technique == Technique::XYZWing;
     const CandidateMask both = P(1).digits & P(2).digits;
     const CellSet seen = SeenBy(1) & SeenBy(2);
     return Full(0) && Full(1) && Full(2) && P(0).role == Role::Pivot && P(1).role == Role::Wing &&
@@ -155,8 +155,11 @@ class FindingCheck {
     if (pattern_.Size() != 4 || count(0) != 2 || count(9) != 2 || count(18) > 2 || P(3).role != Role::Roof) {
       return false;
     }
-    if (f_.step == 19 && (given || before_.CellValue(P(1).cell) == 0)) return false;
-    if (f_.form == 1) return Lose(CellSet::Of(P(3).cell), f_.step == 18 ? f_.digits : P(2).digits);
+    if (f_.technique == Technique::AvoidableRectangle && (given || before_.CellValue(P(1).cell) == 0))
+      return false;
+    if (f_.form == 1)
+      return Lose(CellSet::Of(P(3).cell),
+                  f_.technique == Technique::UniqueRectangle ? f_.digits : P(2).digits);
     const CandidateMask extra = P(2).digits & P(3).digits & Without(f_.digits, P(0).digits | P(1).digits);
     return Full(2) && Full(3) && BitCount[f_.digits] == 3 && Lose(SeenBy(2) & SeenBy(3), extra);
   }

@@ -10,24 +10,19 @@
 #include <string_view>
 #include <vector>
 
+#include "core/cell_names.h"
 #include "solver/solver.h"
 
 namespace kestrel::testing {
-
-inline constexpr std::string_view kRowNames = "ABCDEFGHJ";
-
-inline std::string CellName(int cell) {
-  return {kRowNames[CellRow[cell]], static_cast<char>('1' + CellCol[cell])};
-}
 
 // The cells of "AB12": every row named with every column named.
 inline std::vector<int> CellsOf(std::string_view word) {
   std::vector<int> cells;
   for (const char row : word) {
-    if (kRowNames.find(row) == std::string_view::npos) continue;
+    if (kRowLetters.find(row) == std::string_view::npos) continue;
     for (const char column : word) {
       if (column >= '1' && column <= '9') {
-        cells.push_back(9 * static_cast<int>(kRowNames.find(row)) + column - '1');
+        cells.push_back(9 * static_cast<int>(kRowLetters.find(row)) + column - '1');
       }
     }
   }
@@ -82,11 +77,11 @@ inline std::string Changes(const SolverState& before, const SolverState& after) 
   return placed.empty() ? removed : placed;
 }
 
-// Applies the technique of step 1..22; what changed, or "nothing".
-inline std::string Apply(SolverState& state, int step, const DigitGrid& givens = {},
+// Applies the technique; what changed, or "nothing".
+inline std::string Apply(SolverState& state, Technique technique, const DigitGrid& givens = {},
                          Finding* finding = nullptr) {
   const SolverState before = state;
-  const bool found = TechniqueOfStep(step).routine(state, {givens, finding});
+  const bool found = RowOf(technique).routine(state, {givens, finding});
   const std::string changes = Changes(before, state);
   if (found != (before != state)) return "result and state disagree: " + changes;
   return found ? changes : "nothing";

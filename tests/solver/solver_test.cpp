@@ -141,16 +141,16 @@ class Referee final : public StepObserver {
     EXPECT_EQ(CountSolutions(givens, 2, &solution_), 1);
   }
   void OnStep(const Finding& finding, const SolverState& after) override {
-    ++found[finding.step];
+    ++found[StepOf(finding.technique)];
     EXPECT_NE(before_, after);
     EXPECT_TRUE(FindingCheck(finding, before_, givens_).Holds(after))
-        << TextFromGrid(givens_) << " " << TechniqueOfStep(finding.step).caption << " "
-        << Changes(before_, after);
+        << TextFromGrid(givens_) << " " << RowOf(finding.technique).caption << " " << Changes(before_, after);
     for (int cell = 0; cell < kCells; ++cell) {
       const int value = after.CellValue(cell);
       const bool right =
           value == solution_[cell] || (value == 0 && after.CandidateFlag(solution_[cell] - 1, cell));
-      EXPECT_TRUE(right) << TextFromGrid(givens_) << " step " << finding.step << " " << CellName(cell);
+      EXPECT_TRUE(right) << TextFromGrid(givens_) << " step " << StepOf(finding.technique) << " "
+                         << CellName(cell);
     }
     before_ = after;
   }
@@ -168,12 +168,12 @@ void Watch(const DigitGrid& puzzle, std::array<int, kTechniques + 1>& found) {
   const Rating rating = SolveAndRate(puzzle, yield, {.observer = &referee});
   EXPECT_EQ(rating.state.Solved(), rating.level <= kLevels);
   for (int step = 1; step <= kTechniques; ++step) {
-    EXPECT_EQ(referee.found[step], rating.counters[TechniqueOfStep(step).counter]);
+    EXPECT_EQ(referee.found[step], rating.counters[RowOf(TechniqueOfStep(step)).counter]);
     found[step] += referee.found[step];
   }
   if (rating.level == kBeyondTechniques) {
     SolverState stuck = rating.state;
-    EXPECT_EQ(FirstTechnique(stuck, puzzle), 0);
+    EXPECT_EQ(FirstTechnique(stuck, puzzle), Technique::None);
     EXPECT_EQ(stuck, rating.state);
   }
 }
@@ -194,7 +194,9 @@ TEST(Driver, KeepsItsSignature) {
     hash = (hash ^ static_cast<std::uint64_t>(value)) * 1099511628211ULL;
   };
   struct Steps final : StepObserver {
-    void OnStep(const Finding& finding, const SolverState&) override { list.push_back(finding.step); }
+    void OnStep(const Finding& finding, const SolverState&) override {
+      list.push_back(StepOf(finding.technique));
+    }
     std::vector<int> list;
   };
   const std::vector<DigitGrid> puzzles = SignaturePuzzles();

@@ -77,62 +77,62 @@ void PlainSolver::Load(const std::array<int, 81>& digits, const std::array<int, 
   }
 }
 
-bool PlainSolver::Try(int step) {
-  switch (step) {
-    case 1:
+bool PlainSolver::Try(Technique technique) {
+  switch (technique) {
+    case Technique::HiddenSingle:
       return FindHiddenSingle();
-    case 2:
+    case Technique::NakedSingle:
       return FindNakedSingle();
-    case 3:
+    case Technique::PointingPair:
       return FindPointing();
-    case 4:
+    case Technique::BoxLine:
       return FindBoxLine();
-    case 5:
+    case Technique::NakedPair:
       return FindSubset(true, 2);
-    case 6:
+    case Technique::NakedTriple:
       return FindSubset(true, 3);
-    case 7:
+    case Technique::HiddenPair:
       return FindSubset(false, 2);
-    case 8:
+    case Technique::NakedQuad:
       return FindSubset(true, 4);
-    case 9:
+    case Technique::HiddenTriple:
       return FindSubset(false, 3);
-    case 10:
+    case Technique::NakedQuint:
       return FindSubset(true, 5);
-    case 11:
+    case Technique::XWing:
       return FindFish(2, true);
-    case 12:
+    case Technique::XYWing:
       return FindXYWing();
-    case 13:
+    case Technique::TwoStringKite:
       return FindTwoStringKite();
-    case 14:
+    case Technique::Skyscraper:
       return FindSkyscraper();
-    case 15:
+    case Technique::Swordfish:
       return FindFish(3, false);
-    case 16:
+    case Technique::MultiXWing:
       return FindMultiXWing();
-    case 17:
+    case Technique::FinnedXWing:
       return FindFinnedXWing();
-    case 18:
+    case Technique::UniqueRectangle:
       return FindUniqueRectangle();
-    case 19:
+    case Technique::AvoidableRectangle:
       return FindAvoidableRectangle();
-    case 20:
+    case Technique::XYZWing:
       return FindXYZWing();
-    case 21:
+    case Technique::EmptyRectangle:
       return FindEmptyRectangle();
-    case 22:
+    case Technique::Jellyfish:
       return FindFish(4, false);
     default:
       return false;
   }
 }
 
-int PlainSolver::FirstTechnique() {
-  for (int step = 1; step <= 22; ++step) {
-    if (Try(step)) return step;
+Technique PlainSolver::FirstTechnique() {
+  for (const Technique technique : kAllTechniques) {
+    if (Try(technique)) return technique;
   }
-  return 0;
+  return Technique::None;
 }
 
 int PlainSolver::SolveAndRate(const std::array<int, 81>& givens) {
@@ -148,14 +148,14 @@ int PlainSolver::SolveAndRate(const std::array<int, 81>& givens) {
   }
   int level = 1;
   while (std::find(CellValue.begin(), CellValue.end(), 0) != CellValue.end()) {
-    const int step = FirstTechnique();
-    if (step == 0) return 6;
-    ++TechniqueCounters[kCounterOfStep[step]];
-    Steps.push_back(step);
-    if (step > 2) level = std::max(level, 2);
-    if (step > 4) level = std::max(level, 3);
-    if (step > 10) level = std::max(level, 4);
-    if (step > 16) level = std::max(level, 5);
+    const Technique technique = FirstTechnique();
+    if (technique == Technique::None) return 6;
+    ++TechniqueCounters[kCounterOfStep[StepOf(technique)]];
+    Steps.push_back(technique);
+    if (technique >= Technique::PointingPair) level = std::max(level, 2);
+    if (technique >= Technique::NakedPair) level = std::max(level, 3);
+    if (technique >= Technique::XWing) level = std::max(level, 4);
+    if (technique >= Technique::FinnedXWing) level = std::max(level, 5);
   }
   return level;
 }

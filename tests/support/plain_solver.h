@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// A second solver for the tests: every technique in its most literal form, on plain arrays, sharing no code
-// with the product's solver. Slow and easy to check by eye; the product's solver must agree with it always.
+// A second solver for the tests: every technique in its most literal form, on plain arrays, sharing nothing but the names of the
+// techniques with the product's solver. Slow and easy to check by eye; the product's solver must agree with it always.
 #pragma once
 
 #include <array>
 #include <vector>
+
+#include "core/technique.h"
 
 namespace kestrel::plain {
 
@@ -14,17 +16,17 @@ class PlainSolver {
   std::array<int, 81> CellValue{};
   std::array<std::array<bool, 81>, 9> CandidateFlag{};  // [digit - 1][cell]
   std::array<int, 22> TechniqueCounters{};              // in counter order
-  std::vector<int> Steps;                               // the steps (1..22) that succeeded, in order
+  std::vector<Technique> Steps;                         // that succeeded, in order
 
   // Rates `givens`: 1..6. Leaves the final state, the counters and the steps.
   int SolveAndRate(const std::array<int, 81>& givens);
 
   // Loads digits and candidate masks as they are, for FirstTechnique.
   void Load(const std::array<int, 81>& digits, const std::array<int, 81>& masks);
-  // Applies the first technique that makes progress; its step 1..22, or 0.
-  int FirstTechnique();
-  // Applies one technique, step 1..22; whether it changed the state.
-  bool Try(int step);
+  // Applies the first technique that makes progress; which one, or None.
+  Technique FirstTechnique();
+  // Applies one technique; whether it changed the state.
+  bool Try(Technique technique);
 
   [[nodiscard]] int Mask(int cell) const;
   static int Score(int level, const std::array<int, 22>& counters);

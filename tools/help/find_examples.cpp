@@ -11,15 +11,15 @@
 #include <string>
 
 #include "core/yield.h"
+#include "explain/clarity.h"
 #include "explain/example.h"
-#include "explain/forms.h"
+#include "explain/technique_words.h"
 #include "generator/generator.h"
 #include "solver/solver.h"
 
 namespace {
 
 using namespace kestrel;
-using namespace kestrel::help;
 
 constexpr const char* kHeading =
     "# Worked examples of the help pages: positions from generated puzzles and what the solver finds there.\n"

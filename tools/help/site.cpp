@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "explain/board_picture.h"
-#include "explain/cell_names.h"
-#include "explain/example_text.h"
+#include "explain/names.h"
+#include "explain/reasons.h"
 #include "help/stock_use.h"
 #include "solver/technique_table.h"
 
@@ -62,8 +62,9 @@ class Builder {
         Fail(entry.first, "is no page of the help");
       }
     }
-    for (int step = 1; step <= kTechniques; ++step) {
-      if (summaries_[Slot(step)].empty()) Fail("summary " + std::to_string(step), "is missing");
+    for (const Technique technique : kAllTechniques) {
+      if (summaries_[Slot(technique)].empty())
+        Fail("summary " + std::to_string(StepOf(technique)), "is missing");
     }
     for (std::size_t i = 0; i < pages_.size(); ++i) Write(i);
     for (const Example& example : input_.examples.examples) {
@@ -74,7 +75,10 @@ class Builder {
   }
 
  private:
-  static std::size_t Slot(int step) { return static_cast<std::size_t>(step - 1); }
+  static std::size_t Slot(Technique technique) { return static_cast<std::size_t>(SlotOf(technique)); }
+  static bool IsOn(const std::string& file, Technique technique) {
+    return technique != Technique::None && RowOf(technique).help_page == file;
+  }
   static std::string PictureFile(const Example& example) { return "pictures/" + example.key + ".svg"; }
 
   void Fail(const std::string& where, const std::string& reason) {
@@ -92,9 +96,8 @@ class Builder {
       words >> word;
       if (word == "title") {
         std::getline(words >> std::ws, page.title);
-      } else if (int step = 0; word == "summary" && words >> step && step >= 1 && step <= kTechniques &&
-                               TechniqueOfStep(step).help_page == file) {
-        std::getline(words >> std::ws, summaries_[Slot(step)]);
+      } else if (int step = 0; word == "summary" && words >> step && IsOn(file, TechniqueOfStep(step))) {
+        std::getline(words >> std::ws, summaries_[Slot(TechniqueOfStep(step))]);
       } else {
         break;
       }
@@ -166,7 +169,7 @@ class Builder {
     if (bar != "|" || heading.empty()) return Fail(page.file, "example without heading");
     const Example* example = input_.examples.Find(key);
     if (example == nullptr) return;
-    if (TechniqueOfStep(example->finding.step).help_page != page.file) {
+    if (RowOf(example->finding.technique).help_page != page.file) {
       return Fail(page.file, "example of another page: " + key);
     }
     if (shown_.empty()) {
@@ -203,9 +206,9 @@ class Builder {
     bool single = false;
     bool cover = false;
     for (const Example& example : input_.examples.examples) {
-      if (TechniqueOfStep(example.finding.step).help_page != page.file) continue;
+      if (RowOf(example.finding.technique).help_page != page.file) continue;
       single = single || example.finding.placed_cell >= 0;
-      cover = cover || (!example.finding.covers.empty() && CoversLose(example.finding.step));
+      cover = cover || (!example.finding.covers.empty() && CoversLose(example.finding.technique));
       for (const PatternCell& part : example.finding.pattern) {
         fin = fin || part.role == Role::Fin;
         link = link || part.role == Role::Link;
@@ -216,7 +219,7 @@ class Builder {
     out_ << "<p class=\"legend\">";
     if (single) {
       out_ << in << "the disc stands for the digit that goes in"
-           << (page.file == TechniqueOfStep(1).help_page
+           << (page.file == RowOf(Technique::HiddenSingle).help_page
                    ? ", a large ring for a digit that rules out other places."
                    : ".");
     } else {
@@ -236,30 +239,30 @@ class Builder {
   }
 
   void Occurrence(const PageText& page, std::istringstream& words) {
-    std::vector<int> steps;
-    for (int step = 0; words >> step;) steps.push_back(step);
-    for (const int step : steps) {
-      if (step < 1 || step > kTechniques || TechniqueOfStep(step).help_page != page.file) {
+    std::vector<Technique> techniques;
+    for (int step = 0; words >> step;) techniques.push_back(TechniqueOfStep(step));
+    for (const Technique technique : techniques) {
+      if (!IsOn(page.file, technique)) {
         return Fail(page.file, "occurrence of another page's technique");
       }
     }
     if (input_.stock == nullptr) return;
     out_ << "<h2>How often</h2>\n";
-    for (const int step : steps) OccurrenceOf(step);
+    for (const Technique technique : techniques) OccurrenceOf(technique);
     out_ << "<p class=\"note\">These are the puzzles that come with the game; a level that you have renewed "
             "holds "
             "others. Within a level, the lower the number, the easier the puzzle.</p>\n";
   }
 
-  void OccurrenceOf(int step) {
-    const TechniqueUse use = UseOf(*input_.stock, step);
+  void OccurrenceOf(Technique technique) {
+    const TechniqueUse use = UseOf(*input_.stock, technique);
     std::size_t puzzles = 0;
     int times = 0;
     for (int level = 0; level < kLevels; ++level) {
       puzzles += use.puzzles[level].size();
       times += use.times[level];
     }
-    const std::string name = Escaped(TechniqueOfStep(step).caption);
+    const std::string name = Escaped(RowOf(technique).caption);
     out_ << "<p><b>" << name << ":</b> ";
     if (puzzles == 0) {
       out_ << "none of the 500 puzzles needs it.</p>\n";
@@ -280,15 +283,14 @@ class Builder {
   void Techniques() {
     int tier = 0;
     out_ << "<table class=\"techniques\">\n";
-    for (int step = 1; step <= kTechniques; ++step) {
-      const TechniqueRow& row = TechniqueOfStep(step);
+    for (const TechniqueRow& row : kTechniqueTable) {
       if (row.tier != tier) {
         tier = row.tier;
         out_ << "<tr><th colspan=\"3\" class=\"tier" << tier << "\">" << LevelName(tier) << "</th></tr>\n";
       }
       out_ << "<tr><td><a href=\"" << row.help_page << "\">" << Escaped(row.caption)
            << "</a></td><td class=\"letters\">" << row.abbreviation << "</td><td>"
-           << Escaped(summaries_[Slot(step)]) << "</td></tr>\n";
+           << Escaped(summaries_[Slot(row.technique)]) << "</td></tr>\n";
     }
     out_ << "</table>\n";
   }

@@ -2,7 +2,7 @@
 // Which puzzles of a stock need which technique.
 #include "help/stock_use.h"
 
-#include "explain/cell_names.h"
+#include "explain/names.h"
 
 namespace kestrel::help {
 namespace {
@@ -36,11 +36,11 @@ std::optional<StockTable> StockOfBytes(std::span<const std::uint8_t> bytes) {
   return stock;
 }
 
-TechniqueUse UseOf(const StockTable& stock, int step) {
+TechniqueUse UseOf(const StockTable& stock, Technique technique) {
   TechniqueUse use;
   for (int level = 1; level <= kLevels; ++level) {
     for (int number = 1; number <= kPuzzlesPerLevel; ++number) {
-      const int times = stock(level, number).TechniqueCount[static_cast<std::size_t>(step - 1)];
+      const int times = stock(level, number).TechniqueCount[static_cast<std::size_t>(SlotOf(technique))];
       if (times <= 0) continue;
       use.puzzles[level - 1].push_back(number);
       use.times[level - 1] += times;

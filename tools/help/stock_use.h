@@ -20,8 +20,8 @@ struct TechniqueUse {
 // The stock of a file's bytes; nothing when it is not the length of a stock.
 std::optional<StockTable> StockOfBytes(std::span<const std::uint8_t> bytes);
 
-// Where the technique of the step (1..22) is needed.
-TechniqueUse UseOf(const StockTable& stock, int step);
+// Where the technique is needed.
+TechniqueUse UseOf(const StockTable& stock, Technique technique);
 
 // "3, 7 to 9 and 12"; of a level's 100 numbers "all", or "all but 5 and 77" when few are missing.
 // Neighbours are joined from three on.

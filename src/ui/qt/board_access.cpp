@@ -6,7 +6,7 @@
 #include <QAccessibleWidget>
 #include <QStringList>
 
-#include "core/grid.h"
+#include "core/cell_names.h"
 #include "ui/qt/board_widget.h"
 #include "ui/qt/texts.h"
 
@@ -237,10 +237,9 @@ BoardSpot BoardItem::Spot() const {
 }
 
 QString BoardItem::CellName() const {
-  const MainWindow& main = board_.Main();
   return QStringLiteral("%1 %2 %3 %4")
-      .arg(QLatin1String(texts::kRow), QString::fromStdString(main.LabelRow(CellRow[index_]).caption),
-           QLatin1String(texts::kColumn), QString::fromStdString(main.LabelColumn(CellCol[index_]).caption));
+      .arg(QLatin1String(texts::kRow), QString(QLatin1Char(RowLetter(CellRow[index_]))),
+           QLatin1String(texts::kColumn), QString::number(CellCol[index_] + 1));
 }
 
 QString BoardItem::CellState() const {

@@ -35,7 +35,7 @@ void PaintListFrame(QPainter& painter, const MainWindow& main) {
   UseDevicePixels(painter);
   const PixelGrid grid(painter.device()->devicePixelRatioF());
   const Label& first = main.LabelCount(0);
-  const Label& last = main.LabelCount(2 * kTechniqueRows - 1);
+  const Label& last = main.LabelCount(2 * kTechniques - 1);
   const QRect list = grid.Rect(first.left, first.top, last.left + last.width - first.left,
                                last.top + last.height - first.top);
   const int line = grid.Pixels(1);
@@ -123,7 +123,7 @@ void Mirror::BuildMain(View& view) {
   board_ = new BoardWidget(forms_->main, sink_, surroundings_.marks_are_candidates, view.window.get());
   board_->lower();
   view.window->on_paint = [this](QPainter& painter) { PaintListFrame(painter, forms_->main); };
-  for (int i = 0; i < 2 * kTechniqueRows; ++i) {
+  for (int i = 0; i < 2 * kTechniques; ++i) {
     list_[static_cast<std::size_t>(i)] = dynamic_cast<TextLabel*>(WidgetOf(FormId::Main, {"LabelCount", i}));
   }
   SyncList();
@@ -205,12 +205,12 @@ void Mirror::SyncWindow(View& view) {
 // The technique list as a whole: a hairline where the tier changes, and counts that are read with their
 // names.
 void Mirror::SyncList() {
-  for (int slot = 0; slot < kTechniqueRows; ++slot) {
+  for (int slot = 0; slot < kTechniques; ++slot) {
     const Label& name = forms_->main.LabelCount(slot);
-    const Label& count = forms_->main.LabelCount(kTechniqueRows + slot);
+    const Label& count = forms_->main.LabelCount(kTechniques + slot);
     const bool rule = slot > 0 && name.back != forms_->main.LabelCount(slot - 1).back;
     list_[static_cast<std::size_t>(slot)]->SetRule(rule);
-    TextLabel* number = list_[static_cast<std::size_t>(kTechniqueRows + slot)];
+    TextLabel* number = list_[static_cast<std::size_t>(kTechniques + slot)];
     number->SetRule(rule);
     const QString spoken = ToQString(name.caption) + QStringLiteral(": ") + ToQString(count.caption);
     if (number->accessibleName() != spoken) number->setAccessibleName(spoken);

@@ -16,8 +16,6 @@ class QWidget;
 
 namespace kestrel {
 
-inline constexpr int kTechniqueRows = 22;
-
 class BoardWidget;
 class FormWindow;
 class HelpView;
@@ -83,7 +81,7 @@ class Mirror {
   std::array<std::unique_ptr<View>, 4> views_;
   BoardWidget* board_ = nullptr;
   HelpView* help_ = nullptr;
-  std::array<TextLabel*, 2 * kTechniqueRows> list_{};  // the technique list: names, then counts
+  std::array<TextLabel*, 2 * kTechniques> list_{};  // the technique list: names, then counts
 };
 
 }  // namespace kestrel

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 // What a worked example shows, in plain sentences.
-#include "explain/example_text.h"
+#include "explain/reasons.h"
 
 #include <algorithm>
 
 #include "explain/blockers.h"
-#include "explain/cell_names.h"
-#include "solver/technique_table.h"
+#include "explain/names.h"
+#include "explain/technique_words.h"
 
-namespace kestrel::help {
+namespace kestrel {
 namespace {
 
 using Text = std::string;
@@ -67,102 +67,6 @@ CandidateMask Common(const Finding& finding, std::size_t a, std::size_t b) {
   return finding.pattern[a].digits & finding.pattern[b].digits;
 }
 
-Text HiddenSingle(const Example& example) {
-  const Finding& f = example.finding;
-  const Text unit = UnitName(f.units[0]);
-  const Text cell = Name(f, 0);
-  const Text digit = DigitNames(f.digits);
-  const CandidateMask others = example.marks[f.placed_cell] & ~f.digits;
-  const Blockers blockers = FindBlockers(example.digits, f.units[0], f.placed_cell, f.placed_digit);
-  Text why;
-  if (blockers.all_explained && !blockers.cells.empty()) {
-    const bool one = blockers.cells.size() == 1;
-    why = "The " + digit + (one ? " in " : "s in ") + CellNames(blockers.cells) + (one ? " rules" : " rule") +
-          " out its other empty cells. ";
-  }
-  return "Look at " + unit + ": of its empty cells, only " + cell + " can still hold " + digit + ". " + why +
-         cell +
-         (BitCount[others] == 1 ? " has another candidate as well (" : " has other candidates as well (") +
-         DigitNames(others) + "), but " + unit + " needs " + WithArticle(f.digits) +
-         " and has no other place for it. So " + digit + " goes into " + cell + '.';
-}
-
-Text NakedSingle(const Example& example) {
-  const Finding& f = example.finding;
-  const int cell = f.placed_cell;
-  CandidateMask seen[3] = {0, 0, 0};
-  for (int other = 0; other < kCells; ++other) {
-    if (other == cell || example.digits[other] == 0) continue;
-    const CandidateMask bit = DigitBit(example.digits[other]);
-    if (CellRow[other] == CellRow[cell]) seen[0] |= bit;
-    if (CellCol[other] == CellCol[cell]) seen[1] |= bit;
-    if (CellBox[other] == CellBox[cell]) seen[2] |= bit;
-  }
-  seen[1] &= ~seen[0];
-  seen[2] &= ~(seen[0] | seen[1]);
-  const CandidateMask gone = kAllDigits & ~(seen[0] | seen[1] | seen[2] | f.digits);
-  std::vector<Text> parts;
-  const Unit units[3] = {
-      {UnitKind::Row, CellRow[cell]}, {UnitKind::Column, CellCol[cell]}, {UnitKind::Box, CellBox[cell]}};
-  for (int i = 0; i < 3; ++i) {
-    if (seen[i] != 0) parts.push_back(DigitNames(seen[i]) + " in " + UnitName(units[i]));
-  }
-  Text text = CellName(cell) + " can only be " + DigitNames(f.digits) +
-              ". The other digits are taken: " + Joined(parts);
-  if (gone != 0)
-    text += "; " + DigitNames(gone) + (BitCount[gone] == 1 ? " was" : " were") + " ruled out before";
-  return text + ". So " + DigitNames(f.digits) + " goes into " + CellName(cell) + '.';
-}
-
-Text Intersection(const Finding& f) {
-  const Text digit = DigitNames(f.digits);
-  const Text from = UnitName(f.units[0]);
-  const Text to = UnitName(f.covers[0]);
-  return "In " + from + ", " + digit + " can only go into " + Cells(f, 0, f.pattern.size(), "or") +
-         (f.pattern.size() == 2 ? ". Both lie in " : ". All three lie in ") + to + ", so " + to +
-         " has its " + digit + " there and nowhere else. " + Removals(f);
-}
-
-Text NakedSubset(const Example& example) {
-  const Finding& f = example.finding;
-  const Text unit = UnitName(f.units[0]);
-  const Text digits = DigitNames(f.digits);
-  const Text count = NumberWord(static_cast<int>(f.pattern.size()));
-  std::vector<Text> cells;
-  for (const PatternCell& part : f.pattern) {
-    cells.push_back(CellName(part.cell) + " (" + DigitNames(part.digits, "or") + ')');
-  }
-  return "In " + unit + ", the " + count + " cells " + Joined(cells) + " have no candidates but " + digits +
-         ". " + Text(1, static_cast<char>(count[0] - 'a' + 'A')) + count.substr(1) + " cells take " + count +
-         " digits, so " + digits + " are used up in these cells and cannot stand elsewhere in " + unit +
-         ". " + Removals(f);
-}
-
-Text HiddenSubset(const Finding& f) {
-  const Text unit = UnitName(f.units[0]);
-  const Text digits = DigitNames(f.digits);
-  const Text cells = Cells(f, 0, f.pattern.size());
-  const Text count = NumberWord(static_cast<int>(f.pattern.size()));
-  return "In " + unit + ", " + digits + " can only go into " + cells + ". " +
-         Text(1, static_cast<char>(count[0] - 'a' + 'A')) + count.substr(1) + " digits fill " + count +
-         " cells, so nothing else fits there. " + Removals(f);
-}
-
-Text Fish(const Finding& f) {
-  const Text digit = DigitNames(f.digits);
-  Text places;
-  for (const Unit& unit : f.units) {
-    places += (places.empty() ? "In " : "; in ") + UnitName(unit) + " only in " + CellsIn(f, unit, "or");
-  }
-  const Text count = NumberWord(static_cast<int>(f.units.size()));
-  const Text bases = f.form == 1 ? "rows" : "columns";
-  const Text covers = UnitNames(f.covers);
-  return "Where can " + digit + " go? " + places + ". All these places lie in " + covers + ". The " + count +
-         ' ' + bases + " need " + WithArticle(f.digits) + " each, and " + covers + " have room for just " +
-         count + ", so these " + count + ' ' + bases +
-         (f.units.size() == 2 ? " take both. " : " take them all. ") + Removals(f);
-}
-
 // The wings of a pivot in the order of the pivot's digits: the first is the one that the lower of x and y
 // decides.
 struct WingWords {
@@ -181,63 +85,6 @@ WingWords WingsInOrder(const Finding& f) {
   return {other, one, z, 2, 1};
 }
 
-Text XYWing(const Finding& f) {
-  const WingWords w = WingsInOrder(f);
-  const Text z = DigitNames(w.z);
-  const auto wing = [&](std::size_t i) {
-    return Name(f, i) + " (" + DigitNames(f.pattern[i].digits, "or") + ") must be " + z;
-  };
-  return "The pivot " + Name(f, 0) + " is " + DigitNames(w.x | w.y, "or") + ". If it is " + DigitNames(w.x) +
-         ", then " + wing(w.first) + "; if it is " + DigitNames(w.y) + ", then " + wing(w.second) +
-         ". Either way one of " + Cells(f, 1, 2) + " is " + z + ", so no cell that sees both can be " + z +
-         ". " + Removals(f);
-}
-
-Text XYZWing(const Finding& f) {
-  const WingWords w = WingsInOrder(f);
-  const Text z = DigitNames(w.z);
-  return "The pivot " + Name(f, 0) + " is " + DigitNames(f.pattern[0].digits, "or") + ". If it is " +
-         DigitNames(w.x) + ", then " + Name(f, w.first) + " must be " + z + "; if it is " + DigitNames(w.y) +
-         ", then " + Name(f, w.second) + " must be " + z + "; otherwise the pivot is " + z +
-         " itself. In any case one of the three is " + z + ", so no cell that sees all three can be " + z +
-         ". " + Removals(f);
-}
-
-// Kite and skyscraper: end, link, link, end.
-Text TwoPairs(const Finding& f) {
-  const Text digit = DigitNames(f.digits);
-  std::vector<int> ends{f.pattern[0].cell, f.pattern[3].cell};
-  std::sort(ends.begin(), ends.end());
-  return "In " + UnitName(f.units[0]) + ", " + digit + " can only go into " + Cells(f, 0, 2, "or") + "; in " +
-         UnitName(f.units[1]) + " only into " + Cells(f, 2, 2, "or") + ". " + Cells(f, 1, 2) +
-         " both lie in " + UnitName(f.covers[0]) + ", so they cannot both be " + digit +
-         ". Then at least one of the other two, " + CellNames(ends) + ", is " + digit +
-         ", and no cell that sees both of these can be " + digit + ". " + Removals(f);
-}
-
-Text MultiXWing(const Finding& f) {
-  const Text d1 = DigitNames(Common(f, 0, 1));
-  const Text d2 = DigitNames(Common(f, 2, 3));
-  const Text e1 = DigitNames(Common(f, 0, 2));
-  const Text e2 = DigitNames(Common(f, 1, 3));
-  const Text p0 = Name(f, 0);
-  const Text p1 = Name(f, 1);
-  const Text p2 = Name(f, 2);
-  const Text p3 = Name(f, 3);
-  const auto either = [&](std::size_t a, std::size_t b) {
-    std::vector<int> cells{f.pattern[a].cell, f.pattern[b].cell};
-    std::sort(cells.begin(), cells.end());
-    return CellNames(cells, "or");
-  };
-  return "Each of the four cells has just two candidates. In " + UnitName(f.units[0]) + ", " + d1 +
-         " is in " + either(0, 1) + "; in " + UnitName(f.units[1]) + ", " + d2 + " is in " + either(2, 3) +
-         ". If " + p0 + " is " + d1 + ", then " + p1 + " is " + e2 + ", " + p3 + " is " + d2 + " and " + p2 +
-         " is " + e1 + ". If " + p1 + " is " + d1 + ", then " + p0 + " is " + e1 + ", " + p2 + " is " + d2 +
-         " and " + p3 + " is " + e2 + ". Either way " + e1 + " is in " + either(0, 2) + " and " + e2 +
-         " is in " + either(1, 3) + ", so " + UnitName(f.covers[0]) + " has no other place for " + e1 +
-         " and " + UnitName(f.covers[1]) + " none for " + e2 + ". " + Removals(f);
-}
-
 // True when the digit of a Finned X-Wing has candidates in the cover lines that the finding leaves alone.
 bool OthersStay(const Example& example) {
   const Finding& f = example.finding;
@@ -253,7 +100,169 @@ bool OthersStay(const Example& example) {
   return false;
 }
 
-Text FinnedXWing(const Example& example) {
+}  // namespace
+
+std::string HiddenSingleReason(const Example& example) {
+  const Finding& f = example.finding;
+  const Text unit = TheUnit(f.units[0]);
+  const Text cell = Name(f, 0);
+  const Text digit = DigitNames(f.digits);
+  const CandidateMask others = example.marks[f.placed_cell] & ~f.digits;
+  const Blockers blockers = FindBlockers(example.digits, f.units[0], f.placed_cell, f.placed_digit);
+  Text why;
+  if (blockers.all_explained && !blockers.cells.empty()) {
+    const bool one = blockers.cells.size() == 1;
+    why = "The " + digit + (one ? " in " : "s in ") + CellNames(blockers.cells) + (one ? " rules" : " rule") +
+          " out its other empty cells. ";
+  }
+  return "Look at " + unit + ": of its empty cells, only " + cell + " can still hold " + digit + ". " + why +
+         cell +
+         (BitCount[others] == 1 ? " has another candidate as well (" : " has other candidates as well (") +
+         DigitNames(others) + "), but " + unit + " needs " + WithArticle(f.digits) +
+         " and has no other place for it. So " + digit + " goes into " + cell + '.';
+}
+
+std::string NakedSingleReason(const Example& example) {
+  const Finding& f = example.finding;
+  const int cell = f.placed_cell;
+  CandidateMask seen[3] = {0, 0, 0};
+  for (int other = 0; other < kCells; ++other) {
+    if (other == cell || example.digits[other] == 0) continue;
+    const CandidateMask bit = DigitBit(example.digits[other]);
+    if (CellRow[other] == CellRow[cell]) seen[0] |= bit;
+    if (CellCol[other] == CellCol[cell]) seen[1] |= bit;
+    if (CellBox[other] == CellBox[cell]) seen[2] |= bit;
+  }
+  seen[1] &= ~seen[0];
+  seen[2] &= ~(seen[0] | seen[1]);
+  const CandidateMask gone = kAllDigits & ~(seen[0] | seen[1] | seen[2] | f.digits);
+  std::vector<Text> parts;
+  const Unit units[3] = {
+      {UnitKind::Row, CellRow[cell]}, {UnitKind::Column, CellCol[cell]}, {UnitKind::Box, CellBox[cell]}};
+  for (int i = 0; i < 3; ++i) {
+    if (seen[i] != 0) parts.push_back(DigitNames(seen[i]) + " in " + TheUnit(units[i]));
+  }
+  Text text = CellName(cell) + " can only be " + DigitNames(f.digits) +
+              ". The other digits are taken: " + Joined(parts);
+  if (gone != 0)
+    text += "; " + DigitNames(gone) + (BitCount[gone] == 1 ? " was" : " were") + " ruled out before";
+  return text + ". So " + DigitNames(f.digits) + " goes into " + CellName(cell) + '.';
+}
+
+std::string IntersectionReason(const Example& example) {
+  const Finding& f = example.finding;
+  const Text digit = DigitNames(f.digits);
+  const Text from = TheUnit(f.units[0]);
+  const Text to = TheUnit(f.covers[0]);
+  return "In " + from + ", " + digit + " can only go into " + Cells(f, 0, f.pattern.size(), "or") +
+         (f.pattern.size() == 2 ? ". Both lie in " : ". All three lie in ") + to + ", so " + to +
+         " has its " + digit + " there and nowhere else. " + Removals(f);
+}
+
+std::string NakedSubsetReason(const Example& example) {
+  const Finding& f = example.finding;
+  const Text unit = TheUnit(f.units[0]);
+  const Text digits = DigitNames(f.digits);
+  const Text count = NumberWord(static_cast<int>(f.pattern.size()));
+  std::vector<Text> cells;
+  for (const PatternCell& part : f.pattern) {
+    cells.push_back(CellName(part.cell) + " (" + DigitNames(part.digits, "or") + ')');
+  }
+  return "In " + unit + ", the " + count + " cells " + Joined(cells) + " have no candidates but " + digits +
+         ". " + Text(1, static_cast<char>(count[0] - 'a' + 'A')) + count.substr(1) + " cells take " + count +
+         " digits, so " + digits + " are used up in these cells and cannot stand elsewhere in " + unit +
+         ". " + Removals(f);
+}
+
+std::string HiddenSubsetReason(const Example& example) {
+  const Finding& f = example.finding;
+  const Text unit = TheUnit(f.units[0]);
+  const Text digits = DigitNames(f.digits);
+  const Text cells = Cells(f, 0, f.pattern.size());
+  const Text count = NumberWord(static_cast<int>(f.pattern.size()));
+  return "In " + unit + ", " + digits + " can only go into " + cells + ". " +
+         Text(1, static_cast<char>(count[0] - 'a' + 'A')) + count.substr(1) + " digits fill " + count +
+         " cells, so nothing else fits there. " + Removals(f);
+}
+
+std::string FishReason(const Example& example) {
+  const Finding& f = example.finding;
+  const Text digit = DigitNames(f.digits);
+  Text places;
+  for (const Unit& unit : f.units) {
+    places += (places.empty() ? "In " : "; in ") + TheUnit(unit) + " only in " + CellsIn(f, unit, "or");
+  }
+  const Text count = NumberWord(static_cast<int>(f.units.size()));
+  const Text bases = f.form == 1 ? "rows" : "columns";
+  const Text covers = TheUnits(f.covers);
+  return "Where can " + digit + " go? " + places + ". All these places lie in " + covers + ". The " + count +
+         ' ' + bases + " need " + WithArticle(f.digits) + " each, and " + covers + " have room for just " +
+         count + ", so these " + count + ' ' + bases +
+         (f.units.size() == 2 ? " take both. " : " take them all. ") + Removals(f);
+}
+
+std::string XYWingReason(const Example& example) {
+  const Finding& f = example.finding;
+  const WingWords w = WingsInOrder(f);
+  const Text z = DigitNames(w.z);
+  const auto wing = [&](std::size_t i) {
+    return Name(f, i) + " (" + DigitNames(f.pattern[i].digits, "or") + ") must be " + z;
+  };
+  return "The pivot " + Name(f, 0) + " is " + DigitNames(w.x | w.y, "or") + ". If it is " + DigitNames(w.x) +
+         ", then " + wing(w.first) + "; if it is " + DigitNames(w.y) + ", then " + wing(w.second) +
+         ". Either way one of " + Cells(f, 1, 2) + " is " + z + ", so no cell that sees both can be " + z +
+         ". " + Removals(f);
+}
+
+std::string XYZWingReason(const Example& example) {
+  const Finding& f = example.finding;
+  const WingWords w = WingsInOrder(f);
+  const Text z = DigitNames(w.z);
+  return "The pivot " + Name(f, 0) + " is " + DigitNames(f.pattern[0].digits, "or") + ". If it is " +
+         DigitNames(w.x) + ", then " + Name(f, w.first) + " must be " + z + "; if it is " + DigitNames(w.y) +
+         ", then " + Name(f, w.second) + " must be " + z + "; otherwise the pivot is " + z +
+         " itself. In any case one of the three is " + z + ", so no cell that sees all three can be " + z +
+         ". " + Removals(f);
+}
+
+// Kite and skyscraper: end, link, link, end.
+std::string TwoPairsReason(const Example& example) {
+  const Finding& f = example.finding;
+  const Text digit = DigitNames(f.digits);
+  std::vector<int> ends{f.pattern[0].cell, f.pattern[3].cell};
+  std::sort(ends.begin(), ends.end());
+  return "In " + TheUnit(f.units[0]) + ", " + digit + " can only go into " + Cells(f, 0, 2, "or") + "; in " +
+         TheUnit(f.units[1]) + " only into " + Cells(f, 2, 2, "or") + ". " + Cells(f, 1, 2) +
+         " both lie in " + TheUnit(f.covers[0]) + ", so they cannot both be " + digit +
+         ". Then at least one of the other two, " + CellNames(ends) + ", is " + digit +
+         ", and no cell that sees both of these can be " + digit + ". " + Removals(f);
+}
+
+std::string MultiXWingReason(const Example& example) {
+  const Finding& f = example.finding;
+  const Text d1 = DigitNames(Common(f, 0, 1));
+  const Text d2 = DigitNames(Common(f, 2, 3));
+  const Text e1 = DigitNames(Common(f, 0, 2));
+  const Text e2 = DigitNames(Common(f, 1, 3));
+  const Text p0 = Name(f, 0);
+  const Text p1 = Name(f, 1);
+  const Text p2 = Name(f, 2);
+  const Text p3 = Name(f, 3);
+  const auto either = [&](std::size_t a, std::size_t b) {
+    std::vector<int> cells{f.pattern[a].cell, f.pattern[b].cell};
+    std::sort(cells.begin(), cells.end());
+    return CellNames(cells, "or");
+  };
+  return "Each of the four cells has just two candidates. In " + TheUnit(f.units[0]) + ", " + d1 + " is in " +
+         either(0, 1) + "; in " + TheUnit(f.units[1]) + ", " + d2 + " is in " + either(2, 3) + ". If " + p0 +
+         " is " + d1 + ", then " + p1 + " is " + e2 + ", " + p3 + " is " + d2 + " and " + p2 + " is " + e1 +
+         ". If " + p1 + " is " + d1 + ", then " + p0 + " is " + e1 + ", " + p2 + " is " + d2 + " and " + p3 +
+         " is " + e2 + ". Either way " + e1 + " is in " + either(0, 2) + " and " + e2 + " is in " +
+         either(1, 3) + ", so " + TheUnit(f.covers[0]) + " has no other place for " + e1 + " and " +
+         TheUnit(f.covers[1]) + " none for " + e2 + ". " + Removals(f);
+}
+
+std::string FinnedXWingReason(const Example& example) {
   const Finding& f = example.finding;
   const Text digit = DigitNames(f.digits);
   const std::size_t fins = f.pattern.size() - 4;
@@ -261,21 +270,22 @@ Text FinnedXWing(const Example& example) {
   for (const Removal& removal : f.removals) targets.push_back(removal.cell);
   std::vector<Unit> covers = f.covers;
   std::sort(covers.begin(), covers.end(), [](Unit a, Unit b) { return a.index < b.index; });
-  const Text box = UnitName({UnitKind::Box, CellBox[f.pattern[4].cell]});
-  const Text cover = UnitName(f.covers[0]);
+  const Text box = TheUnit({UnitKind::Box, CellBox[f.pattern[4].cell]});
+  const Text cover = TheUnit(f.covers[0]);
   const bool one = fins == 1;
-  return "In " + UnitName(f.units[0]) + ", " + digit + " can only go into " + Cells(f, 0, 2, "or") + ". In " +
-         UnitName(f.units[1]) + " it can go into " + Cells(f, 2, 2, "or") + ", but also into the fin" +
+  return "In " + TheUnit(f.units[0]) + ", " + digit + " can only go into " + Cells(f, 0, 2, "or") + ". In " +
+         TheUnit(f.units[1]) + " it can go into " + Cells(f, 2, 2, "or") + ", but also into the fin" +
          (one ? " " : "s ") + Cells(f, 4, fins) + ". If " + (one ? "the fin is not " : "no fin is ") + digit +
          ", this is an X-Wing, and " + cover + " loses its other " + digit + "s. If " +
          (one ? "the fin is " : "one of the fins is ") + digit + ", the rest of " + box + " loses " + digit +
          ". Either way " + CellNames(targets) + ", where " + cover + " meets that box, cannot be " + digit +
-         (OthersStay(example) ? ". The other " + digit + "s in " + UnitNames(covers) + " stay. "
+         (OthersStay(example) ? ". The other " + digit + "s in " + TheUnits(covers) + " stay. "
                               : Text(". ")) +
          Removals(f);
 }
 
-Text UniqueRectangle(const Finding& f) {
+std::string UniqueRectangleReason(const Example& example) {
+  const Finding& f = example.finding;
   if (f.form == 1) {
     const Text pair = DigitNames(f.digits);
     return Cells(f, 0, 3) + " hold only " + pair + ". If " + Name(f, 3) + " were " +
@@ -292,7 +302,8 @@ Text UniqueRectangle(const Finding& f) {
          ", and no cell that sees both can be " + x + ". " + Removals(f);
 }
 
-Text AvoidableRectangle(const Finding& f) {
+std::string AvoidableRectangleReason(const Example& example) {
+  const Finding& f = example.finding;
   if (f.form == 1) {
     const Text d = DigitNames(f.pattern[0].digits);
     const Text e = DigitNames(f.pattern[2].digits);
@@ -313,67 +324,26 @@ Text AvoidableRectangle(const Finding& f) {
          DigitNames(third) + ". " + Removals(f);
 }
 
-Text EmptyRectangle(const Finding& f) {
+std::string EmptyRectangleReason(const Example& example) {
+  const Finding& f = example.finding;
   const Text digit = DigitNames(f.digits);
   const std::size_t n = f.pattern.size();
   const Text near = Name(f, n - 2);
   const Text far = Name(f, n - 1);
-  const Text box = UnitName(f.units[0]);
-  const Text arm = UnitName(f.covers[f.form == 1 ? 0 : 1]);
-  const Text other_arm = UnitName(f.covers[f.form == 1 ? 1 : 0]);
+  const Text box = TheUnit(f.units[0]);
+  const Text arm = TheUnit(f.covers[f.form == 1 ? 0 : 1]);
+  const Text other_arm = TheUnit(f.covers[f.form == 1 ? 1 : 0]);
   const Text target = CellName(f.removals[0].cell);
-  return "In " + box + ", every " + digit + " lies in " + UnitName(f.covers[0]) + " or in " +
-         UnitName(f.covers[1]) + ". In " + UnitName(f.units[1]) + ", " + digit + " is in " +
+  return "In " + box + ", every " + digit + " lies in " + TheUnit(f.covers[0]) + " or in " +
+         TheUnit(f.covers[1]) + ". In " + TheUnit(f.units[1]) + ", " + digit + " is in " +
          Cells(f, n - 2, 2, "or") + ". If it is in " + near + ", " + arm + " is taken, so " + box +
          " has its " + digit + " in " + other_arm + ". So either " + far + " is " + digit +
          " or the box has its " + digit + " in " + other_arm + ". " + target +
          " sees both, so it cannot be " + digit + ". " + Removals(f);
 }
 
-}  // namespace
-
 std::string ExampleText(const Example& example) {
-  const Finding& f = example.finding;
-  switch (f.step) {
-    case 1:
-      return HiddenSingle(example);
-    case 2:
-      return NakedSingle(example);
-    case 3:
-    case 4:
-      return Intersection(f);
-    case 5:
-    case 6:
-    case 8:
-    case 10:
-      return NakedSubset(example);
-    case 7:
-    case 9:
-      return HiddenSubset(f);
-    case 11:
-    case 15:
-    case 22:
-      return Fish(f);
-    case 12:
-      return XYWing(f);
-    case 13:
-    case 14:
-      return TwoPairs(f);
-    case 16:
-      return MultiXWing(f);
-    case 17:
-      return FinnedXWing(example);
-    case 18:
-      return UniqueRectangle(f);
-    case 19:
-      return AvoidableRectangle(f);
-    case 20:
-      return XYZWing(f);
-    case 21:
-      return EmptyRectangle(f);
-    default:
-      return {};
-  }
+  return WordsOf(example.finding.technique).reason(example);
 }
 
-}  // namespace kestrel::help
+}  // namespace kestrel
