@@ -5,6 +5,7 @@
 
 #include "cli/command.h"
 #include "cli/stock_path.h"
+#include "forms/texts.h"
 #include "print/print_job.h"
 
 namespace kestrel {
@@ -57,7 +58,16 @@ ExitStatus PrintCommand(Arguments& arguments, CliPorts& ports) {
   StockTable stock;
   if (!arguments.Error().empty() || !ReadStockOf(path, ports, stock)) return ExitStatus::kFailure;
   const std::string output = arguments.Text("output", "");
-  const FileResult result = ports.files.Replace(output, PrintJob(stock, settings));
+  const std::unique_ptr<FilePage> page = MakeFilePage();
+  if (!page) {
+    PrintError(ports, "this program was built without the library that draws PDF files");
+    return ExitStatus::kFailure;
+  }
+  PrintPages(
+      {PuzzlesOfStock(stock, settings.level_index + 1, settings.first_number, PuzzlesPrinted(settings)),
+       std::string(texts::kLevelNames[static_cast<std::size_t>(settings.level_index)]), settings},
+      *page);
+  const FileResult result = ports.files.Replace(output, page->Finish(texts::kProductName).front());
   if (result) return ExitStatus::kGood;
   PrintError(ports, output + ": " + result.Reason());
   return ExitStatus::kFailure;

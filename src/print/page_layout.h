@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
-// Lays the printed pages out on an abstract page. Used by the print dialog and by the PDF writer of the
-// command line.
+// Lays the printed pages out on an abstract page, puzzles with their solutions beside them. Used by the print
+// dialog and by the command line.
 #pragma once
 
 #include <array>
-#include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/stock_table.h"
 #include "forms/page.h"
 #include "print/page_metrics.h"
 #include "print/print_settings.h"
+#include "print/printed_puzzle.h"
 
 namespace kestrel {
 
@@ -19,15 +21,26 @@ using CandidateTable = std::array<std::array<bool, kCells>, kUnitSize>;
 
 class PageLayout {
  public:
-  // All but `metrics` must outlive this object. The settings must be in range.
-  PageLayout(Page& page, const PageMetrics& metrics, const StockTable& stock, const PrintSettings& settings)
-      : page_(page), metrics_(metrics), stock_(stock), settings_(settings) {}
+  // Puzzles of a stock, those of the settings, which must be in range. All but `metrics` must outlive this
+  // object.
+  PageLayout(Page& page, const PageMetrics& metrics, const StockTable& stock, const PrintSettings& settings);
+
+  // Any puzzles, on as many pages as they take; they are numbered in order, from the settings' first number
+  // on. The settings' pages and level do not matter. `heading` stands at the right end of the title line.
+  // `page` must outlive this object.
+  PageLayout(Page& page, const PageMetrics& metrics, std::vector<PrintedPuzzle> puzzles, std::string heading,
+             const PrintSettings& settings)
+      : page_(page),
+        metrics_(metrics),
+        puzzles_(std::move(puzzles)),
+        heading_(std::move(heading)),
+        settings_(settings) {}
 
   // Prints all pages of the settings, each ended by a new page. False: stopped, by the user or because the
   // program is ending.
   [[nodiscard]] bool PrintPages();
 
-  // The page number, 1..10, in the bottom right corner.
+  // The page number in the bottom right corner.
   void PrintPaginanummer(int page_number);
 
   // The solution of the puzzle opened last, at position 1..per page.
@@ -40,27 +53,24 @@ class PageLayout {
   // The title line.
   void PrintTitel();
 
-  // Takes a puzzle, 1..100 of the chosen level, from the stock.
+  // Takes the puzzle of that number from those to be printed.
   void OpenSudoku(int number);
 
   // Derives the candidates of the puzzle opened last from its givens.
   void SetupCandidates();
 
  private:
-  void PrintGrid(const GridSquare& square);
-  void PrintInCell(const GridSquare& square, int cell, const TextStyle& style, int digit);
   void PrintCandidates(const GridSquare& square, int cell);
   void PrintNumber(const GridSquare& square, int number);
   void PrintSummary(const GridSquare& square);
 
   Page& page_;
   PageMetrics metrics_;
-  const StockTable& stock_;
-  const PrintSettings& settings_;
+  std::vector<PrintedPuzzle> puzzles_;
+  std::string heading_;
+  PrintSettings settings_;
 
-  DigitGrid givens_{};
-  DigitGrid solution_{};
-  std::array<std::int16_t, kTechniques> counts_{};  // by display slot
+  PrintedPuzzle puzzle_;  // the one opened last
   CandidateTable candidates_{};
 };
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The PDF file of the command line, and the check of what it is asked for.
 #include "print/print_job.h"
 
-#include "forms/texts.h"
+#include "print/collection_pages.h"
 #include "print/page_layout.h"
-#include "print/pdf_page.h"
 #include "print/texts.h"
 
 namespace kestrel {
@@ -14,11 +12,21 @@ std::string CheckPrintRange(const PrintSettings& settings) {
   return in_range ? std::string() : texts::BadRange(settings);
 }
 
-Bytes PrintJob(const StockTable& stock, const PrintSettings& settings) {
-  PdfPage page;
-  // A PDF page is never stopped.
-  (void)PageLayout(page, MeasurePage(page.Width(), page.Height()), stock, settings).PrintPages();
-  return page.Finish(texts::kProductName);
+void PrintPages(const PrintJob& job, FilePage& page) {
+  const int puzzles = static_cast<int>(job.puzzles.size());
+  int pages = (puzzles + job.settings.per_page - 1) / job.settings.per_page;
+  if (job.kind == PageKind::Large) {
+    pages = PrintLargePages(page, job.puzzles, job.heading);
+  } else {
+    PrintSettings settings = job.settings;
+    settings.with_solutions = settings.with_solutions && job.kind == PageKind::Game;
+    const PageMetrics metrics = MeasurePage(page.Width(), page.Height());
+    // A file is never stopped.
+    (void)PageLayout(page, metrics, job.puzzles, job.heading, settings).PrintPages();
+  }
+  if (job.kind == PageKind::Game || !job.settings.with_solutions) return;
+  const SolutionSize size = job.kind == PageKind::Large ? SolutionSize::Large : SolutionSize::Small;
+  PrintSolutionPages(page, job.puzzles, size, job.solutions_upside_down, pages + 1);
 }
 
 }  // namespace kestrel

@@ -4,6 +4,10 @@
 
 namespace kestrel::texts {
 
+std::string NumberText(std::string_view label, int number) {
+  return std::string(label) + (label.empty() ? "" : "  ") + std::string(kNumber) + std::to_string(number);
+}
+
 std::string BadRange(const PrintSettings& settings) {
   return "a level ends at puzzle " + std::to_string(kPuzzlesPerLevel) + ": the first of " +
          std::to_string(PuzzlesPrinted(settings)) + " puzzles is from 1 to " +

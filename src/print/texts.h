@@ -13,6 +13,10 @@ namespace kestrel::texts {
 inline constexpr std::string_view kPage = "Page ";
 inline constexpr std::string_view kNumber = "# ";
 inline constexpr std::string_view kTo = "to ";
+inline constexpr std::string_view kSolutions = "Solutions";
+
+// "# 7", behind the puzzle's label where it has one.
+std::string NumberText(std::string_view label, int number);
 
 inline constexpr std::string_view kPrinterError =
     "An error occured while attempting to communicate with the standard printer, please check the "

@@ -8,36 +8,13 @@
 
 #include "cli/cli_run.h"
 #include "core/stock_file.h"
+#include "print/file_page.h"
 #include "print/page_metrics.h"
-#include "print/pdf_page.h"
 #include "recording_page.h"
 #include "support/temp_folder.h"
 
 namespace kestrel {
 namespace {
-
-TEST(PdfPage, WritesAFileThatIsWellFormed) {
-  PdfPage page;
-  const TextStyle bold{.font = {"Courier New", 10.5, true}, .colour = 0xA00000};
-  page.Text(1000, 1000, bold, "a (b) \\ \xE9");
-  EXPECT_TRUE(page.NewPage());
-  page.Text(1, 1, bold, "never printed");
-  const Bytes bytes = page.Finish("Title");
-  const std::string file(bytes.begin(), bytes.end());
-  EXPECT_NE(file.find("/F6 10.5 Tf\n0 0 0.627 rg\nBT 28.346 804.796 Td (a \\(b\\) \\\\ ?) Tj ET\n"),
-            std::string::npos);
-  EXPECT_EQ(file.find("never printed"), std::string::npos);
-  // The table at the end says where each object begins.
-  const std::size_t table = std::stoul(file.substr(file.rfind("startxref") + 10));
-  ASSERT_EQ(file.substr(table, 10), "xref\n0 12\n");
-  for (std::size_t object = 1; object < 12; ++object) {
-    const std::string start = std::to_string(object) + " 0 obj\n";
-    EXPECT_EQ(file.substr(std::stoul(file.substr(table + 10 + 20 * object, 10)), start.size()), start);
-  }
-  // Half an inch of Times, and Helvetica's (556 + 278 + 3 x 556) thousandths of one.
-  EXPECT_EQ(page.Measure({.font = {"Times New Roman", 72, false}}, "8").width, 1270);
-  EXPECT_EQ(page.Measure({.font = {"Arial", 72, false}}, "# 100").width, 6355);
-}
 
 // The standard output of a program.
 std::string OutputOf(const std::string& command) {
@@ -64,7 +41,7 @@ class PrintedPdf : public testing::TestWithParam<int> {
   }
 
   StockTable stock_ = StockToPrint();
-  PageMetrics metrics_ = MeasurePage(PdfPage::kWidth, PdfPage::kHeight);
+  PageMetrics metrics_ = MeasurePage(FilePage::kWidth, FilePage::kHeight);
   TempFolder folder_;
   std::string file_ = folder_.Path("page.pdf").string();
 };

@@ -152,7 +152,9 @@ TEST_F(PrinterTest, WritesWhatTheCommandLineWrites) {
   settings.pages = 4;
   settings.per_page = 2;
   settings.level_index = 2;
-  const Bytes expected = PrintJob(MakeTestStock(), settings);
+  const auto page = MakeFilePage();
+  PrintPages({PuzzlesOfStock(MakeTestStock(), 3, 1, 8), "Medium", settings}, *page);
+  const Bytes expected = page->Finish("Kestrel Sudoku").front();
   const std::string written = game.home_folder.Get("pages.pdf");
   EXPECT_TRUE(std::equal(expected.begin(), expected.end(), written.begin(), written.end(),
                          [](std::uint8_t a, char b) { return a == static_cast<std::uint8_t>(b); }));

@@ -167,7 +167,8 @@ Page* QtPrinter::SetUp() {
   if (printer_page_) {
     page_ = std::make_unique<WatchedPage>(*printer_page_, *this);
   } else {
-    pdf_page_ = std::make_unique<PdfPage>();
+    pdf_page_ = MakeFilePage();
+    if (!pdf_page_) return nullptr;
     page_ = std::make_unique<WatchedPage>(*pdf_page_, *this);
   }
   return page_.get();
@@ -191,7 +192,7 @@ bool QtPrinter::BeginDocument() {
   if (printer_page_) {
     if (!printer_page_->Begin()) return false;
   } else {
-    auto fresh = std::make_unique<PdfPage>();
+    auto fresh = MakeFilePage();
     page_->TakeNew(*fresh);
     pdf_page_ = std::move(fresh);
     const std::optional<QString> file = AskForFile();
@@ -229,7 +230,7 @@ void QtPrinter::EndDocument() {
 }
 
 void QtPrinter::WritePdf() {
-  const Bytes bytes = pdf_page_->Finish(texts::kProductName);
+  const Bytes bytes = pdf_page_->Finish(texts::kProductName).front();
   const FileResult result = files_.Replace(file_.toStdString(), bytes);
   if (result) return;
   // Whatever the answer, there is nothing left to do.

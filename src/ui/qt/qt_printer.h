@@ -11,7 +11,7 @@
 #include "core/files.h"
 #include "forms/asker.h"
 #include "forms/page.h"
-#include "print/pdf_page.h"
+#include "print/file_page.h"
 #include "ui/qt/dispatcher.h"
 #include "ui/qt/mirror.h"
 
@@ -69,7 +69,7 @@ class QtPrinter final : public Printer {
   Asker& asker_;
 
   std::unique_ptr<QtPage> printer_page_;  // null: the standard printer is a PDF file
-  std::unique_ptr<PdfPage> pdf_page_;
+  std::unique_ptr<FilePage> pdf_page_;
   std::unique_ptr<WatchedPage> page_;  // one of the two, with progress
   std::unique_ptr<QProgressDialog> progress_;
   QString file_;
