@@ -29,6 +29,7 @@ class PrintedPdf : public testing::TestWithParam<int> {
  protected:
   void SetUp() override {
     if (OutputOf("pdftotext -v 2>&1").find("version") == std::string::npos) GTEST_SKIP() << "no poppler";
+    if (!MakeFilePage()) GTEST_SKIP() << "no cairo";
     ASSERT_EQ(Print({"--per-page", std::to_string(GetParam()), "--pages=2"}), 0);
   }
   // Prints puzzles from the command line; its exit status.
