@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "print/grid_drawing.h"
 
+#include <cstdint>
 #include <string>
 
 #include "print/names.h"
