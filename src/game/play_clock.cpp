@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "game/play_clock.h"
 
+#include <cstdint>
+
 #include "game/texts.h"
 
 namespace kestrel {
