@@ -107,7 +107,8 @@ TEST(Examples, TextAndPictureShowEveryCell) {
   for (const Example& example : Shipped().examples) {
     SCOPED_TRACE(example.key);
     const std::string text = ExampleText(example);
-    const std::string words = PictureInWords(example);
+    const Picture drawn = DrawBoard(example);
+    const std::string& words = drawn.words;
     std::size_t struck = 0;
     for (const Removal& removal : example.finding.removals) {
       EXPECT_NE(text.find(CellName(removal.cell)), std::string::npos);
@@ -121,7 +122,7 @@ TEST(Examples, TextAndPictureShowEveryCell) {
         EXPECT_NE(text.find(CellName(part.cell)), std::string::npos);
       }
     }
-    const std::string picture = BoardPicture(example);
+    const std::string& picture = drawn.svg;
     const auto count = [&](std::string_view part) {
       std::size_t times = 0;
       for (std::size_t at = picture.find(part); at != std::string::npos; at = picture.find(part, at + 1))
@@ -129,7 +130,7 @@ TEST(Examples, TextAndPictureShowEveryCell) {
       return times;
     };
     EXPECT_EQ(count("l16 -16"), struck);  // the strokes
-    EXPECT_EQ(count("font-size=\"38\""), 2U);
+    EXPECT_EQ(drawn.signs.contains(Sign::Removed), struck > 0);
   }
 }
 

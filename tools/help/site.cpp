@@ -188,53 +188,23 @@ class Builder {
 
   void Picture(const Example& example, const std::string& heading) {
     const std::string base = "pictures/" + example.key;
-    site_.files[PictureFile(example)] = BoardPicture(example);
+    const ::kestrel::Picture picture = DrawBoard(example);
+    site_.files[PictureFile(example)] = picture.svg;
     out_ << "<h3>" << Escaped(heading) << "</h3>\n<p class=\"board\"><picture><source srcset=\"" << base
          << ".svg\" type=\"image/svg+xml\"><img src=\"" << base << ".png\" srcset=\"" << base
          << "@2x.png 2x\" width=\"" << kPictureWidth << "\" height=\"" << kPictureHeight << "\" alt=\""
-         << Escaped(PictureInWords(example)) << "\"></picture></p>\n<p class=\"example\">"
+         << Escaped(picture.words) << "\"></picture></p>\n<p class=\"example\">"
          << Escaped(ExampleText(example)) << "</p>\n";
   }
 
   // What the signs in the page's pictures mean; only those that occur.
   void Legend(const PageText& page, bool several) {
     const char* const in = several ? "In the pictures, " : "In the picture, ";
-    bool fin = false;
-    bool link = false;
-    bool pivot = false;
-    bool solved = false;
-    bool single = false;
-    bool cover = false;
+    SignSet signs;
     for (const Example& example : input_.examples.examples) {
-      if (RowOf(example.finding.technique).help_page != page.file) continue;
-      single = single || example.finding.placed_cell >= 0;
-      cover = cover || (!example.finding.covers.empty() && CoversLose(example.finding.technique));
-      for (const PatternCell& part : example.finding.pattern) {
-        fin = fin || part.role == Role::Fin;
-        link = link || part.role == Role::Link;
-        pivot = pivot || part.role == Role::Pivot;
-        solved = solved || example.digits[part.cell] != 0;
-      }
+      if (RowOf(example.finding.technique).help_page == page.file) signs.merge(DrawBoard(example).signs);
     }
-    out_ << "<p class=\"legend\">";
-    if (single) {
-      out_ << in << "the disc stands for the digit that goes in"
-           << (page.file == RowOf(Technique::HiddenSingle).help_page
-                   ? ", a large ring for a digit that rules out other places."
-                   : ".");
-    } else {
-      std::vector<std::string> signs;
-      if (solved) signs.emplace_back("a large ring stands for a solved corner");
-      signs.emplace_back("a disc stands for a candidate of the pattern");
-      if (pivot) signs.emplace_back("a disc with a ring for one of the pivot");
-      if (link) signs.emplace_back("a hollow disc for one that connects two others");
-      if (fin) signs.emplace_back("a diamond for a fin");
-      signs.emplace_back("a struck square for a candidate that is removed");
-      out_ << in << Joined(signs) << '.';
-      if (cover)
-        out_ << " Lines and boxes that lose candidates have a sand-coloured background, a framed header or a "
-                "dashed border.";
-    }
+    out_ << "<p class=\"legend\">" << in << "the signs mean: " << Escaped(LegendText(signs));
     out_ << "</p>\n";
   }
 
