@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "game/play_clock.h"
 
-#include <cstdint>
-
 #include "game/texts.h"
 
 namespace kestrel {
@@ -13,20 +11,11 @@ constexpr int kSecondsPerDay = 86400;
 
 }  // namespace
 
-void PlayClock::Show(std::int32_t seconds) {
-  ElapsedSeconds = seconds;
-  main_.LabelTijd.caption = texts::Time(seconds / 60, seconds % 60);
-}
-
-void PlayClock::Reset() {
-  Show(0);
-}
-
 void PlayClock::Start() {
   StartSecond = clock_.SecondsOfDay();
   ClockStopped = false;
   main_.Timer1.enabled = true;
-  Show(0);
+  main_.LabelTijd.caption = texts::Time(0, 0);
 }
 
 void PlayClock::Stop() {
@@ -37,7 +26,8 @@ void PlayClock::Stop() {
 void PlayClock::Tick() {
   int now = clock_.SecondsOfDay();
   if (now < StartSecond) now += kSecondsPerDay;  // the run crossed midnight
-  Show(now - StartSecond);
+  ElapsedSeconds = now - StartSecond;
+  main_.LabelTijd.caption = texts::Time(ElapsedSeconds / 60, ElapsedSeconds % 60);
 }
 
 void PlayClock::Pause() {
@@ -47,7 +37,7 @@ void PlayClock::Pause() {
 }
 
 void PlayClock::Resume() {
-  Show(PausedMinutes * 60 + PausedSeconds);
+  ElapsedSeconds = PausedMinutes * 60 + PausedSeconds;
   int now = clock_.SecondsOfDay();
   if (ElapsedSeconds > now) now += kSecondsPerDay;
   StartSecond = now - ElapsedSeconds;
@@ -56,11 +46,7 @@ void PlayClock::Resume() {
 
 void PlayClock::AddPenalty(int seconds) {
   StartSecond -= seconds;
-  Show(ElapsedSeconds + seconds);
-  if (!ClockPaused) return;
-  const std::int32_t saved = PausedMinutes * 60 + PausedSeconds + seconds;
-  PausedMinutes = saved / 60;
-  PausedSeconds = saved % 60;
+  ElapsedSeconds += seconds;
 }
 
 }  // namespace kestrel
