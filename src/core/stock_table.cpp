@@ -71,20 +71,44 @@ DigitGrid SafeDigits(const DigitGrid& grid) {
   return safe;
 }
 
-std::string_view CheckRecord(const SudokuRecord& record, int level) {
-  if (record.Level != level) return "its level is not the one that it is filed under";
-  if (!IsComplete(record.SolutionCells)) return "its solution is not a complete grid";
+std::vector<RecordFault> RecordFaults(const SudokuRecord& record, int level) {
+  std::vector<RecordFault> faults;
+  if (record.Level != level) faults.push_back(RecordFault::Level);
+  if (!IsComplete(record.SolutionCells)) faults.push_back(RecordFault::Solution);
   for (int cell = 0; cell < kCells; ++cell) {
     const int given = record.GivenCells[cell];
-    if (given != 0 && given != record.SolutionCells[cell]) return "a given differs from the solution";
+    if (given == 0 || given == record.SolutionCells[cell]) continue;
+    faults.push_back(RecordFault::Given);
+    break;
   }
   if (record.BestMinutes < 0 || record.BestSeconds < 0 || record.BestSeconds > 59 || record.BestPlayer < 0) {
-    return "its best time makes no sense";
+    faults.push_back(RecordFault::BestTime);
   }
   if (std::ranges::any_of(record.TechniqueCount, [](int count) { return count < 0; }) || record.Score < 0) {
-    return "a count or its score is negative";
+    faults.push_back(RecordFault::Counts);
+  }
+  return faults;
+}
+
+std::string_view Describe(RecordFault fault) {
+  switch (fault) {
+    case RecordFault::Level:
+      return "its level is not the one that it is filed under";
+    case RecordFault::Solution:
+      return "its solution is not a complete grid";
+    case RecordFault::Given:
+      return "a given differs from the solution";
+    case RecordFault::BestTime:
+      return "its best time makes no sense";
+    case RecordFault::Counts:
+      return "a count or its score is negative";
   }
   return {};
+}
+
+std::string_view CheckRecord(const SudokuRecord& record, int level) {
+  const std::vector<RecordFault> faults = RecordFaults(record, level);
+  return faults.empty() ? std::string_view() : Describe(faults.front());
 }
 
 }  // namespace kestrel

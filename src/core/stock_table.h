@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "core/check.h"
 #include "core/grid.h"
@@ -57,8 +58,22 @@ constexpr std::int32_t BestTime(const SudokuRecord& record) {
   return record.BestMinutes * 60 + record.BestSeconds;
 }
 
-// What is wrong with a record filed under `level`, in a few words; empty when nothing is. Looks at the ranges
-// of all fields, at the solution's rows, columns and boxes, and at givens that differ from the solution.
+// What can be wrong with a record by itself, without looking for other solutions or rating it.
+enum class RecordFault : std::uint8_t {
+  Level,     // not the one that it is filed under
+  Solution,  // not a complete grid
+  Given,     // differs from the solution
+  BestTime,  // makes no sense
+  Counts,    // one of them, or the score, is negative
+};
+
+// All faults of a record filed under `level`, in the order of their list.
+std::vector<RecordFault> RecordFaults(const SudokuRecord& record, int level);
+
+// A fault in a few words.
+std::string_view Describe(RecordFault fault);
+
+// The first fault of a record filed under `level` in words; empty when there is none.
 std::string_view CheckRecord(const SudokuRecord& record, int level);
 
 // The place of a puzzle in the stock file, 1..500.

@@ -9,10 +9,8 @@
 #include <utility>
 
 #include "core/cell_names.h"
-#include "solver/solver.h"
-#include "stock/canonical_form.h"
 #include "stock/ordered_work.h"
-#include "stock/solution_counter.h"
+#include "stock/puzzle_judge.h"
 
 namespace kestrel {
 namespace {
@@ -35,9 +33,16 @@ class RecordChecker {
   RecordResult operator()(const Place& place) {
     result_ = {place, {}, {}};
     const SudokuRecord& record = stock_(place.level, place.number);
-    if (CheckFields(record, place.level)) {
-      CheckSolution(record);
-      CheckRating(record, place.level);
+    for (const RecordFault fault : RecordFaults(record, place.level)) {
+      result_.faults.emplace_back(Describe(fault));
+    }
+    const Verdict verdict = judge_.Judge(record.GivenCells);
+    if (verdict.solutions == 1) {
+      CheckSolution(record, verdict);
+      CheckRating(record, verdict, place.level);
+      result_.canonical = verdict.form;
+    } else {
+      result_.faults.emplace_back(verdict.solutions == 0 ? "no solution" : "more than one solution");
     }
     return std::move(result_);
   }
@@ -49,50 +54,27 @@ class RecordChecker {
                              std::to_string(wanted));
   }
 
-  // False when the digits make no sense, so that there is nothing further to check.
-  bool CheckFields(const SudokuRecord& record, int level) {
-    Expect("level", record.Level, level);
-    if (record.BestMinutes < 0 || record.BestSeconds < 0 || record.BestSeconds > 59 ||
-        record.BestPlayer < 0) {
-      result_.faults.emplace_back("best time makes no sense");
-    }
-    const auto bad_given = std::ranges::find_if(record.GivenCells, [](int digit) { return digit > 9; });
-    if (bad_given == record.GivenCells.end()) return true;
-    const int cell = static_cast<int>(bad_given - record.GivenCells.begin());
-    result_.faults.push_back("given in " + CellName(cell) + " is no digit");
-    return false;
+  void CheckSolution(const SudokuRecord& record, const Verdict& verdict) {
+    if (verdict.solution == record.SolutionCells) return;
+    const auto [stored, right] = std::ranges::mismatch(record.SolutionCells, verdict.solution);
+    const int cell = static_cast<int>(stored - record.SolutionCells.begin());
+    Expect("solution in " + CellName(cell), *stored, *right);
   }
 
-  void CheckSolution(const SudokuRecord& record) {
-    const SolutionCount solutions = counter_.Count(record.GivenCells);
-    if (solutions.count == 0) result_.faults.emplace_back("no solution");
-    if (solutions.count > 1) result_.faults.emplace_back("more than one solution");
-    if (solutions.count != 1) return;
-    if (solutions.first != record.SolutionCells) {
-      const auto [stored, right] = std::ranges::mismatch(record.SolutionCells, solutions.first);
-      const int cell = static_cast<int>(stored - record.SolutionCells.begin());
-      Expect("solution in " + CellName(cell), *stored, *right);
-    }
-    result_.canonical = CanonicalForm(record.GivenCells, solutions.first);
-  }
-
-  void CheckRating(const SudokuRecord& record, int level) {
-    NeverStop yield;
-    const Rating rating = SolveAndRate(record.GivenCells, yield);
-    if (rating.level != level) {
-      result_.faults.push_back("is rated level " + std::to_string(rating.level));
+  void CheckRating(const SudokuRecord& record, const Verdict& verdict, int level) {
+    if (verdict.level != level) {
+      result_.faults.push_back("is rated level " + std::to_string(verdict.level));
       return;  // score and counts would only repeat it
     }
-    Expect("score", record.Score, rating.Score());
-    const SlotCounts counts = CountsBySlot(rating.counters);
+    Expect("score", record.Score, verdict.score);
     for (int slot = 0; slot < kTechniques; ++slot) {
       Expect("count " + std::string(kTechniqueTable[slot].abbreviation), record.TechniqueCount[slot],
-             counts[slot]);
+             verdict.counts[slot]);
     }
   }
 
   const StockTable& stock_;
-  SolutionCounter counter_;
+  PuzzleJudge judge_;
   RecordResult result_;
 };
 

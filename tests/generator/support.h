@@ -44,27 +44,4 @@ inline CandidateMask FreeDigits(const DigitGrid& grid, int cell) {
   return static_cast<CandidateMask>(~(taken >> 1U) & kAllDigits);
 }
 
-// How many ways there are to fill the empty cells without a clash that was not there before, at most 2: tries
-// everything, always in a cell with the fewest free digits. Shares nothing with the generator.
-inline int CountSolutions(DigitGrid& grid) {
-  int best = -1;
-  CandidateMask free = 0;
-  for (int cell = 0; cell < kCells; ++cell) {
-    if (grid[cell] != 0) continue;
-    const CandidateMask digits = FreeDigits(grid, cell);
-    if (best >= 0 && BitCount[digits] >= BitCount[free]) continue;
-    best = cell;
-    free = digits;
-  }
-  if (best < 0) return 1;
-  int count = 0;
-  for (int digit = 1; digit <= 9 && count < 2; ++digit) {
-    if (!HasDigit(free, digit)) continue;
-    grid[best] = static_cast<std::uint8_t>(digit);
-    count += CountSolutions(grid);
-  }
-  grid[best] = 0;
-  return count < 2 ? count : 2;
-}
-
 }  // namespace kestrel

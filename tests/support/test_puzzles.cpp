@@ -18,16 +18,17 @@ class BruteForce {
     for (int cell = 0; cell < kCells; ++cell) {
       if (givens[cell] == 0) {
         empty_[empty_count_++] = cell;
-      } else if (HasDigit(Allowed(cell), givens[cell])) {
-        Flip(cell, givens[cell]);
       } else {
-        contradiction_ = true;
+        contradiction_ = contradiction_ || !HasDigit(Allowed(cell), givens[cell]);
+        for (const int unit : UnitsOf(cell))
+          free_[unit] &= static_cast<CandidateMask>(~DigitBit(givens[cell]));
       }
     }
   }
 
-  int Count() {
-    if (!contradiction_) Search();
+  // The solutions found; clashes of the givens count, or are left aside.
+  int Count(bool clashes_count = true) {
+    if (!contradiction_ || !clashes_count) Search();
     return found_;
   }
   [[nodiscard]] const DigitGrid& first() const { return first_; }
@@ -36,10 +37,11 @@ class BruteForce {
   [[nodiscard]] CandidateMask Allowed(int cell) const {
     return free_[CellRow[cell]] & free_[9 + CellCol[cell]] & free_[18 + CellBox[cell]];
   }
+  static std::array<int, 3> UnitsOf(int cell) {
+    return {CellRow[cell], 9 + CellCol[cell], 18 + CellBox[cell]};
+  }
   void Flip(int cell, int digit) {
-    for (const int unit : {+CellRow[cell], 9 + CellCol[cell], 18 + CellBox[cell]}) {
-      free_[unit] ^= DigitBit(digit);
-    }
+    for (const int unit : UnitsOf(cell)) free_[unit] ^= DigitBit(digit);
   }
 
   void Search() {
@@ -104,6 +106,10 @@ int CountSolutions(const DigitGrid& givens, int limit, DigitGrid* solution) {
   const int count = search.Count();
   if (solution != nullptr && count > 0) *solution = search.first();
   return count;
+}
+
+int CountFillings(const DigitGrid& givens, int limit) {
+  return BruteForce(givens, limit).Count(false);
 }
 
 DigitGrid MakeTestGrid(RandomSource& random) {

@@ -21,6 +21,10 @@ std::string TextFromGrid(const DigitGrid& grid);
 // that contradict each other have none.
 int CountSolutions(const DigitGrid& givens, int limit, DigitGrid* solution = nullptr);
 
+// The same for givens that may contradict each other: how many ways there are to fill the empty cells without a
+// clash that was not there before.
+int CountFillings(const DigitGrid& givens, int limit);
+
 // A random complete grid.
 DigitGrid MakeTestGrid(RandomSource& random);
 

@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: MIT
+// Choosing, checking, repairing and filling stocks, and the stock that is shipped.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "core/stock_file.h"
+#include "host/host_files.h"
+#include "stock/stock_check.h"
+#include "stock/stock_doubt.h"
+#include "stock/stock_import.h"
+#include "stock/stock_maker.h"
+#include "stock/stock_repair.h"
+#include "support/test_puzzles.h"
+
+namespace kestrel {
+namespace {
+
+StockTable ReadShipped() {
+  SystemCalls calls;
+  HostFiles files(calls, PathForm::kHost);
+  StockTable stock;
+  EXPECT_TRUE(ReadStockFile(files, KESTREL_SOURCE_DIR "/data/sudstock.kpz", stock));
+  return stock;
+}
+
+bool IsSound(const StockTable& stock) {
+  return CheckStock(stock, 2, [](int) {}).empty();
+}
+
+// A pool whose scores crowd in the middle, as real ones do. Technique 0 is everywhere, 21 in three puzzles.
+Pool CrowdedPool() {
+  RandomSource random(9);
+  Pool pool;
+  std::uint64_t attempt = 0;
+  for (int level = 0; level < kLevels; ++level) {
+    for (int i = 0; i < 3000; ++i) {
+      std::int32_t score = 100 * level;
+      for (int k = 0; k < 4 + 4 * level; ++k) score += random.Below(20);
+      const std::uint32_t rare = level == 4 && i % 1000 == 500 ? 1U << 21U : 0U;
+      pool[level].push_back({attempt++, score, 1U | rare});
+    }
+  }
+  return pool;
+}
+
+TEST(ChooseStock, SpreadsTheScoresAndKeepsRareTechniques) {
+  Pool pool = CrowdedPool();
+  const Pool chosen = ChooseStock(pool);
+  EXPECT_EQ(CountWith(chosen, 21), 3);
+  EXPECT_EQ(CountWith(chosen, 0), 500);
+  std::set<std::uint64_t> attempts;
+  for (int level = 0; level < kLevels; ++level) {
+    ASSERT_EQ(chosen[level].size(), 100U);
+    std::set<std::int32_t> in_pool;
+    std::map<std::int32_t, int> taken;
+    for (const PoolPuzzle& puzzle : pool[level]) in_pool.insert(puzzle.score);
+    for (const PoolPuzzle& puzzle : chosen[level]) ++taken[puzzle.score], attempts.insert(puzzle.attempt);
+    EXPECT_TRUE(std::ranges::is_sorted(chosen[level], {}, &PoolPuzzle::score));
+    EXPECT_EQ(taken.begin()->first, *in_pool.begin());
+    EXPECT_EQ(taken.rbegin()->first, *in_pool.rbegin());
+    // All scores are taken where there are fewer than 100; else nearly 100 different ones.
+    EXPECT_GE(taken.size() + 3, std::min<std::size_t>(100, in_pool.size()));
+  }
+  EXPECT_EQ(attempts.size(), 500U);
+  for (auto& level : pool) std::ranges::reverse(level);
+  EXPECT_EQ(ChooseStock(pool), chosen);
+}
+
+// Everything that can be wrong with a stock, planted in one: just these faults are found.
+TEST(CheckStock, FindsEveryPlantedFault) {
+  StockTable stock = ReadShipped();
+  const auto first_given = [&](int level, int number) -> std::uint8_t& {
+    return *std::ranges::find_if(stock(level, number).GivenCells, [](int digit) { return digit != 0; });
+  };
+  stock(1, 20).TechniqueCount[0] = -1;
+  first_given(2, 2) = 200;
+  stock(2, 31) = stock(2, 30);
+  std::swap(stock(3, 10), stock(3, 90));
+  first_given(3, 50) = static_cast<std::uint8_t>(first_given(3, 50) % 9 + 1);
+  std::swap(stock(4, 9).SolutionCells[3], stock(4, 9).SolutionCells[4]);
+  stock(4, 60).BestSeconds = 60;
+  stock(4, 61) = stock(1, 61);
+  stock(4, 61).Level = 4;
+  stock(4, 61).Score = stock(4, 62).Score;
+  ++stock(5, 5).Score;
+  stock(5, 6).TechniqueCount[21] += 2;
+  stock(5, 99) = SudokuRecord{};
+  const std::multimap<int, std::string> expected{
+      {120, "count HS is -1 instead of"},
+      {120, "negative"},
+      {202, "a given differs"},
+      {202, "no solution"},
+      {231, "same puzzle as level 2 number 30"},
+      {311, "of the puzzle before"},
+      {350, "a given differs"},
+      {350, "solution"},
+      {390, "of the puzzle before"},
+      {409, "not a complete grid"},
+      {409, "a given differs"},
+      {409, "solution in A4 is"},
+      {460, "best time makes no sense"},
+      {461, "is rated level 1"},
+      {461, "same puzzle as level 1 number 61"},
+      {505, "score is"},
+      {506, "count JF is"},
+      {599, "level is not the one"},
+      {599, "not a complete grid"},
+      {599, "more than one solution"},
+      {599, "is below the"},
+  };
+  std::vector<StockFault> faults = CheckStock(stock, 2, [](int) {});
+  for (const auto& [place, text] : expected) {
+    const auto tells = [&, &place = place, &text = text](const StockFault& fault) {
+      return 100 * fault.level + fault.number == place && fault.text.find(text) != std::string::npos;
+    };
+    EXPECT_EQ(std::erase_if(faults, tells), 1U) << place << text;
+  }
+  for (const StockFault& fault : faults) ADD_FAILURE() << fault.level << ' ' << fault.number << fault.text;
+}
+
+// Damage of every kind, with and without an older copy: what is good stays in its place, byte by byte.
+TEST(RepairStock, KeepsWhatIsGoodAndReplacesTheRest) {
+  const StockTable whole = [] {
+    StockTable stock = ReadShipped();
+    for (int number = 1; number <= kPuzzlesPerLevel; ++number) {
+      stock(3, number).BestMinutes = static_cast<std::int16_t>(number);
+      stock(3, number).BestPlayer = 2;
+      stock(3, number).Reserved1 = 7;
+    }
+    return stock;
+  }();
+  StockTable hurt = whole;
+  hurt(3, 20).SolutionCells[80] ^= 8U;  // beyond repair
+  hurt(3, 40).GivenCells.fill(0);       // the same
+  hurt(3, 41) = hurt(3, 42);            // a double: the first one stays
+  hurt(3, 60).Score = -5;               // can be mended, and is in the wrong place until then
+  hurt(3, 61).TechniqueCount.fill(-1);  // can be mended
+  hurt(3, 62).BestSeconds = 99;         // loses its time
+  hurt(4, 50) = SudokuRecord{};
+  const FillRun run{.seed = 3, .jobs = 2};
+  const Repair repair = RepairStock(hurt, nullptr, run);
+  EXPECT_TRUE(IsSound(repair.stock));
+  EXPECT_TRUE(repair.Changes());
+  const LevelRepair& medium = repair.levels[2];
+  EXPECT_EQ((std::array{medium.good, medium.mended, medium.restored, medium.made}),
+            (std::array{94, 3, 0, 3}));
+  for (int level = 1; level <= kLevels; ++level) {
+    for (int number = 1; number <= kPuzzlesPerLevel; ++number) {
+      const bool is_new =
+          level == 3 ? number == 20 || number == 40 || number == 42 : level == 4 && number == 50;
+      SudokuRecord expected = whole(level, number == 41 && level == 3 ? 42 : number);
+      if (level == 3 && number == 62) expected.BestMinutes = expected.BestPlayer = 0;
+      EXPECT_EQ(repair.stock(level, number) == expected, !is_new) << level << ' ' << number;
+      EXPECT_TRUE(!is_new || BestTime(repair.stock(level, number)) == 0);
+    }
+  }
+  EXPECT_EQ(RepairStock(hurt, nullptr, {.seed = 3, .jobs = 1}).stock, repair.stock);
+  hurt(3, 62) = whole(3, 62);
+  const Repair restored = RepairStock(hurt, &whole, run);
+  EXPECT_EQ(restored.stock(3, 40), whole(3, 40));
+  EXPECT_EQ(restored.levels[2].restored + restored.levels[3].restored, 3);  // not the double
+  const Repair nothing = RepairStock(whole, nullptr, run);
+  EXPECT_TRUE(!nothing.Changes() && nothing.stock == whole);
+  EXPECT_TRUE(IsSound(RepairStock(StockTable(), nullptr, run).stock));
+}
+
+// Turned by a quarter and with other digits: the same puzzle in disguise.
+DigitGrid Turned(const DigitGrid& grid) {
+  DigitGrid turned{};
+  for (int cell = 0; cell < kCells; ++cell) {
+    const int digit = grid[cell];
+    turned[9 * (cell % 9) + 8 - cell / 9] = static_cast<std::uint8_t>(digit == 0 ? 0 : digit % 9 + 1);
+  }
+  return turned;
+}
+
+class ImportTest : public ::testing::Test {
+ protected:
+  ImportTest() {
+    for (int number = 10; number <= kPuzzlesPerLevel; number += 10) stock_(2, number).BestMinutes = 3;
+    while (others_.size() < 130) {
+      const DigitGrid givens = testing::MakeTestPuzzle(random_);
+      if (judge_.Judge(givens).level == 2) others_.push_back(givens);
+    }
+  }
+  void Take(StockImport& import, const DigitGrid& givens) {
+    import.Take("line " + std::to_string(++line_), givens, judge_.Judge(givens));
+  }
+  StockTable stock_ = ReadShipped();
+  RandomSource random_{4};
+  PuzzleJudge judge_;
+  std::vector<DigitGrid> others_;  // Easy puzzles that are not in the stock
+  int line_ = 0;
+};
+
+TEST_F(ImportTest, FilesNewPuzzlesAndKeepsBestTimes) {
+  StockImport import(stock_);
+  DigitGrid several = others_[0];
+  several.fill(0);
+  DigitGrid none = others_[0];
+  *std::ranges::find(none, 0) = 10;
+  Take(import, several);
+  Take(import, none);
+  for (int i = 0; i < 30; ++i) Take(import, others_[i]);
+  Take(import, Turned(others_[4]));
+  Take(import, stock_(2, 50).GivenCells);
+  std::vector<std::string> reasons;
+  for (const Refusal& refusal : import.Refused()) reasons.push_back(refusal.source + ": " + refusal.reason);
+  EXPECT_EQ(reasons,
+            (std::vector<std::string>{"line 1: it has more than one solution", "line 2: it has no solution",
+                                      "line 33: it is the puzzle of line 7 in disguise"}));
+  const ImportResult result = import.Finish(FillWith::Old, {});
+  EXPECT_TRUE(IsSound(result.stock));
+  const LevelImport& easy = result.levels[1];
+  EXPECT_EQ((std::array{easy.imported, easy.there, easy.kept, easy.made, easy.too_many, easy.times_lost}),
+            (std::array{30, 1, 69, 0, 0, 0}));
+  int times = 0;
+  for (int number = 1; number <= kPuzzlesPerLevel; ++number) times += result.stock(2, number).BestMinutes;
+  EXPECT_EQ(times, 30);
+  for (const int level : {1, 3, 4, 5}) EXPECT_EQ(result.stock(level, 7), stock_(level, 7));
+  const ImportResult fresh = import.Finish(FillWith::New, {.seed = 1, .jobs = 2});
+  EXPECT_TRUE(IsSound(fresh.stock));
+  EXPECT_EQ((std::array{fresh.levels[1].made, fresh.levels[1].times_lost}), (std::array{69, 9}));
+}
+
+TEST_F(ImportTest, SpreadsTooManyOverTheirScores) {
+  StockImport import(stock_, 2);
+  for (const DigitGrid& givens : others_) Take(import, givens);
+  Take(import, stock_(3, 1).GivenCells);
+  ASSERT_EQ(import.Refused().size(), 1U);
+  EXPECT_EQ(import.Refused()[0].reason, "it is of level 3");
+  const ImportResult result = import.Finish(FillWith::Old, {});
+  EXPECT_TRUE(IsSound(result.stock));
+  EXPECT_EQ((std::array{result.levels[1].imported, result.levels[1].too_many}), (std::array{100, 30}));
+  std::int32_t highest = 0;
+  for (const DigitGrid& givens : others_) highest = std::max(highest, judge_.Judge(givens).score);
+  EXPECT_EQ(result.stock(2, 100).Score, highest);
+}
+
+TEST(StockDoubt, TellsStocksFromOtherFiles) {
+  const Bytes whole = EncodeStock(ReadShipped());
+  Bytes cut(whole.begin(), whole.begin() + 300);
+  Bytes noise = whole;
+  for (std::size_t i = 0; i < noise.size(); i += 100) noise[i] = 0xEE;
+  EXPECT_TRUE(LooksLikeStock(whole) && LooksLikeStock(cut));
+  EXPECT_FALSE(LooksLikeStock({}) || LooksLikeStock(Bytes(1000, 'a')) || LooksLikeStock(noise));
+  StockTable stock = ReadShipped();
+  stock(2, 7).GivenCells[3] = 11;
+  stock(2, 8).BestSeconds = 77;
+  EXPECT_EQ(WhyNoStock(kStockBytes, stock, {.level = 2, .first = 8}), "");
+  EXPECT_NE(WhyNoStock(kStockBytes, stock, {.last = 7}), "");
+  EXPECT_NE(WhyNoStock(kStockBytes - 1, ReadShipped(), {}), "");
+}
+
+// What the game comes with.
+TEST(ShippedStock, IsSoundVariedAndSpread) {
+  const StockTable stock = ReadShipped();
+  EXPECT_TRUE(CheckStock(stock, 2, [](int) {}).empty());
+  std::array<int, kTechniques> with{};
+  for (int level = 1; level <= kLevels; ++level) {
+    std::map<std::int32_t, int> scores;
+    for (int number = 1; number <= kPuzzlesPerLevel; ++number) {
+      const SudokuRecord& record = stock(level, number);
+      ++scores[record.Score];
+      for (int slot = 0; slot < kTechniques; ++slot) with[slot] += record.TechniqueCount[slot] > 0 ? 1 : 0;
+      EXPECT_FALSE(SolvableBelow(level, record.GivenCells)) << level << " " << number;
+      EXPECT_TRUE(SolvableBelow(level + 1, record.GivenCells)) << level << " " << number;
+      EXPECT_TRUE(record.Reserved1 == 0 && record.Reserved2 == 0 && BestTime(record) == 0 &&
+                  record.BestPlayer == 0);
+    }
+    for (const auto& [score, count] : scores) EXPECT_LE(count, 4) << "level " << level << " score " << score;
+  }
+  for (int slot = 0; slot < kTechniques; ++slot) EXPECT_GE(with[slot], 3) << kTechniqueTable[slot].caption;
+}
+
+}  // namespace
+}  // namespace kestrel
