@@ -2,6 +2,7 @@
 #include "stock/stock_doubt.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <span>
 #include <string_view>
 
