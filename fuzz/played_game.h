@@ -9,6 +9,7 @@
 #include "core/stock_file.h"
 #include "memory_files.h"
 #include "support/answering_script.h"
+#include "support/play_invariants.h"
 #include "support/test_stock.h"
 #include "ui/script/runner.h"
 
@@ -17,14 +18,20 @@ namespace kestrel::fuzz {
 inline constexpr std::string_view kStock = "/home\\KestrelSudoku\\sudstock.kpz";
 inline constexpr std::string_view kSettings = "/home/settings.ini";
 
-// Says stop at the n-th question, so that no input takes for ever.
+// Says stop at the n-th question, so that no input takes for ever. Until then it looks now and then at what
+// must always hold.
 class StopAt final : public Yield {
  public:
   explicit StopAt(int n) : left_(n) {}
-  bool KeepGoing() override { return left_-- > 0; }
+  void Watch(const Session& session) { session_ = &session; }
+  bool KeepGoing() override {
+    if (left_ % 16 == 0 && session_ != nullptr) Require(testing::BrokenInvariant(*session_).empty());
+    return left_-- > 0;
+  }
 
  private:
   int left_;
+  const Session* session_ = nullptr;
 };
 
 // Puts a stock of sound puzzles into the data folder.
@@ -50,7 +57,9 @@ inline PlayedGame PlayInMemory(MemoryFiles& files, std::string_view script, bool
   testing::AnsweringScript with_answers(script, output);
   std::istringstream plain{std::string(script)};
   std::istream lines(answering ? static_cast<std::streambuf*>(&with_answers) : plain.rdbuf());
-  const int status = ScriptRunner(options, files, yield, lines, output, errors).Run();
+  ScriptRunner runner(options, files, yield, lines, output, errors);
+  yield.Watch(runner.PlayedGame().State());
+  const int status = runner.Run();
   return {status, output.str() + errors.str()};
 }
 

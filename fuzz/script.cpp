@@ -10,10 +10,9 @@ std::string WithSmallCounts(std::string_view input) {
   std::string script;
   std::istringstream lines{std::string(input)};
   for (std::string line; std::getline(lines, line);) {
-    const std::size_t word = std::min(line.find_first_not_of(" \t"), line.size());
     for (const std::string_view slow : {"tick ", "rounds ", "renew "}) {
-      const std::string_view rest = std::string_view(line).substr(word);
-      if (rest.starts_with(slow)) line.resize(std::min(line.size(), word + slow.size() + 2));
+      const std::size_t word = line.find(slow);
+      if (word != std::string::npos) line.resize(std::min(line.size(), word + slow.size() + 2));
     }
     script += line + '\n';
   }

@@ -1,214 +1,192 @@
 // SPDX-License-Identifier: MIT
-// The picture of a worked example as SVG.
+// Draws from back to front: backgrounds, grid, headers, bars, digits, candidates, signs.
 #include "explain/board_picture.h"
 
-#include <array>
-#include <cstdio>
-#include <sstream>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
 #include "explain/blockers.h"
+#include "explain/board_geometry.h"
 #include "explain/names.h"
+#include "explain/reasons.h"
+#include "explain/sign_brush.h"
 #include "explain/technique_words.h"
 #include "solver/technique_table.h"
+#include "solver/unit_table.h"
 
 namespace kestrel {
 namespace {
 
-// The window's geometry, in pixels (15 twips each); only the headers stand closer to the board.
-constexpr double kLeft = 42;
-constexpr double kTop = 40;
-constexpr double kPitch = 56;
-constexpr double kBoxGap = 8;
-constexpr double kCellSize = 49;
-constexpr double kMarkPitch = 16;
-constexpr double kInnerGap = 3.5;  // half the space between two cells, and ...
-constexpr double kOuterGap = 7.5;  // ... between two boxes
+using namespace geometry;
 
-// The window's colours, and the few that the signs add.
-constexpr const char* kInk = "#20262d";
-constexpr const char* kThin = "#9aa3ad";
-constexpr const char* kMarkInk = "#4a4f57";
-constexpr const char* kGivenInk = "#0000a0";
-constexpr const char* kCause = "#1a56a8";
-constexpr const char* kGone = "#b3261e";
-constexpr const char* kGoneGround = "#fdeceb";
-constexpr const char* kUnitWash = "#e3edfa";
-constexpr const char* kCoverWash = "#fbf1d9";
+constexpr double kDigitSize = 38;
+constexpr double kMarkSize = 14;
 
-struct Point {
-  double x;
-  double y;
+// What the lines and boxes of a finding are in its picture.
+struct UnitSign {
+  Unit unit;
+  Sign sign;  // BaseUnit, Losing or Tie
 };
 
-double Along(int i) {
-  const int box = i / 3;
-  return kPitch * i + kBoxGap * box;
-}
-Point CellCorner(int cell) {
-  return {kLeft + Along(CellCol[cell]), kTop + Along(CellRow[cell])};
-}
-Point CellMiddle(int cell) {
-  const Point corner = CellCorner(cell);
-  return {corner.x + kCellSize / 2, corner.y + kCellSize / 2};
-}
-Point MarkMiddle(int cell, int digit) {
-  const Point corner = CellCorner(cell);
-  const int row = (digit - 1) / 3;
-  const int column = (digit - 1) % 3;
-  return {corner.x + kMarkPitch * column + 8.5, corner.y + kMarkPitch * row + 8.5};
-}
-// Where a grid line runs: before line i of cells (0..9).
-double GridLine(double start, int i) {
-  if (i == 9) return start + Along(8) + kCellSize + kOuterGap;
-  return start + Along(i) - (i % 3 == 0 ? kOuterGap : kInnerGap);
+CellSet CellsOf(Unit unit) {
+  return kUnitTables.cells[9 * (static_cast<int>(unit.kind) - 1) + unit.index];
 }
 
-// At most one decimal, without a superfluous ".0".
-std::string N(double value) {
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%.1f", value);
-  std::string number = text.data();
-  if (number.ends_with(".0")) number.resize(number.size() - 2);
-  return number;
+bool Loses(const Finding& finding, Unit unit) {
+  return std::ranges::any_of(finding.removals,
+                             [cells = CellsOf(unit)](const Removal& r) { return cells.Has(r.cell); });
+}
+
+// The box in which the fins of a Finned X-Wing lie.
+Unit FinBox(const Finding& finding) {
+  return {UnitKind::Box, CellBox[finding.pattern.back().cell]};
+}
+
+bool IsFinned(const Finding& finding) {
+  return finding.technique == Technique::FinnedXWing;
+}
+
+// A cover in which nothing is removed here only holds the pattern together, and so do all covers of a Finned X-Wing:
+// there the cells that lose are those that a cover and the fin's box share.
+std::vector<UnitSign> UnitSigns(const Finding& finding, Frame frame) {
+  std::vector<UnitSign> signs;
+  for (const Unit& unit : finding.units) signs.push_back({unit, Sign::BaseUnit});
+  if (frame == Frame::Spot) return signs;
+  const bool may_lose = WordsOf(finding.technique).covers == Covers::Lose && !IsFinned(finding);
+  for (const Unit& unit : finding.covers) {
+    if (std::ranges::find(finding.units, unit) != finding.units.end()) continue;
+    signs.push_back({unit, may_lose && Loses(finding, unit) ? Sign::Losing : Sign::Tie});
+  }
+  if (IsFinned(finding)) signs.push_back({FinBox(finding), Sign::Tie});
+  return signs;
 }
 
 class Drawing {
  public:
-  explicit Drawing(const Example& example) : example_(example), finding_(example.finding) {}
+  Drawing(const Example& example, Frame frame, const Palette& palette, std::string_view title,
+          std::string words)
+      : example_(example),
+        finding_(example.finding),
+        frame_(frame),
+        palette_(palette),
+        svg_(kPictureWidth, kPictureHeight, title, words),
+        brush_(svg_, palette_) {
+    picture_.words = std::move(words);
+    svg_.Rect({0, 0}, kPictureWidth, kPictureHeight, {palette.paper});
+  }
 
-  std::string Draw() {
-    Open();
+  Picture Draw() {
+    if (frame_ != Frame::Plain) unit_signs_ = UnitSigns(finding_, frame_);
     Washes();
     Grid();
     Headers();
-    Links();
+    if (frame_ != Frame::Plain) Bars();
     Digits();
     Marks();
-    Signs();
-    out_ << "</svg>\n";
-    return out_.str();
+    if (frame_ != Frame::Plain) Signs();
+    return Finished();
+  }
+
+  Picture DrawEntered(std::span<const Placement> placements) {
+    for (const Placement& placed : placements) {
+      const Area cell{CellRow[placed.cell], CellCol[placed.cell], 1, 1};
+      Wash(cell, palette_.unit_wash);
+    }
+    Grid();
+    Headers();
+    Digits();
+    Marks();
+    int number = 0;
+    for (const Placement& placed : placements) Entered(placed, ++number);
+    return Finished();
   }
 
  private:
-  void Open() {
-    out_ << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << kPictureWidth << "\" height=\""
-         << kPictureHeight << "\" viewBox=\"0 0 " << kPictureWidth << ' ' << kPictureHeight
-         << "\" font-family=\"'Liberation Sans',Arial,Helvetica,sans-serif\" text-anchor=\"middle\">\n<title>"
-         << RowOf(finding_.technique).caption << "</title>\n<rect width=\"" << kPictureWidth << "\" height=\""
-         << kPictureHeight << "\" fill=\"#fff\"/>\n";
+  Picture Finished() {
+    picture_.svg = svg_.Finished();
+    return std::move(picture_);
   }
 
-  void Rect(double x, double y, double width, double height, const std::string& style) {
-    out_ << "<rect x=\"" << N(x) << "\" y=\"" << N(y) << "\" width=\"" << N(width) << "\" height=\""
-         << N(height) << "\" " << style << "/>\n";
+  // Notes that the picture has the sign.
+  Sign Used(Sign sign) {
+    picture_.signs.insert(sign);
+    return sign;
   }
 
-  // Text with its middle, not its base line, at the point.
-  void Text(Point at, double size, const std::string& text) {
-    out_ << "<text x=\"" << N(at.x) << "\" y=\"" << N(at.y + 0.345 * size) << "\">" << text << "</text>\n";
+  void Wash(const Area& area, const char* colour) {
+    svg_.Rect(area.Corner(), area.Width(), area.Height(), {colour});
   }
 
-  void Fill(Unit unit, const std::string& style) {
-    int first_row = 0;
-    int first_column = 0;
-    int rows = 9;
-    int columns = 9;
-    switch (unit.kind) {
-      case UnitKind::Row:
-        first_row = unit.index, rows = 1;
-        break;
-      case UnitKind::Column:
-        first_column = unit.index, columns = 1;
-        break;
-      case UnitKind::Box:
-        first_row = CellRow[BoxStart[unit.index]], first_column = CellCol[BoxStart[unit.index]];
-        rows = columns = 3;
-        break;
-    }
-    const double x = GridLine(kLeft, first_column);
-    const double y = GridLine(kTop, first_row);
-    Rect(x, y, GridLine(kLeft, first_column + columns) - x, GridLine(kTop, first_row + rows) - y, style);
-  }
-
+  // The cells that lose lie under those of the pattern where they cross.
   void Washes() {
-    const auto fill = [](const char* colour) { return std::string("fill=\"") + colour + '"'; };
-    if (CoversLose(finding_.technique)) {
-      for (const Unit& unit : finding_.covers) Fill(unit, fill(kCoverWash));
+    for (const auto& [unit, sign] : unit_signs_) {
+      if (sign == Sign::Losing) Wash(AreaOf(unit), palette_.lose_wash), Used(sign);
     }
-    for (const Unit& unit : finding_.units) Fill(unit, fill(kUnitWash));
+    if (frame_ >= Frame::Reason && IsFinned(finding_)) {
+      Wash(Common(AreaOf(finding_.covers[0]), AreaOf(FinBox(finding_))), palette_.lose_wash);
+      Used(Sign::Losing);
+    }
+    for (const auto& [unit, sign] : unit_signs_) {
+      if (sign == Sign::BaseUnit) Wash(AreaOf(unit), palette_.unit_wash), Used(sign);
+    }
   }
 
   void Grid() {
-    const std::array<std::pair<const char*, const char*>, 2> kinds{{{kThin, "1"}, {kInk, "2"}}};
     for (const bool thick : {false, true}) {
-      out_ << "<path fill=\"none\" stroke=\"" << kinds[thick ? 1 : 0].first << "\" stroke-width=\""
-           << kinds[thick ? 1 : 0].second << "\" stroke-linecap=\"square\" d=\"";
+      std::string path;
       for (int i = 0; i <= 9; ++i) {
         if ((i % 3 == 0) != thick) continue;
-        out_ << 'M' << N(GridLine(kLeft, i)) << ' ' << N(GridLine(kTop, 0)) << 'V' << N(GridLine(kTop, 9))
-             << 'M' << N(GridLine(kLeft, 0)) << ' ' << N(GridLine(kTop, i)) << 'H' << N(GridLine(kLeft, 9));
+        path += 'M' + SvgNumber(GridLine(kLeft, i)) + ' ' + SvgNumber(GridLine(kTop, 0)) + 'V' +
+                SvgNumber(GridLine(kTop, 9)) + 'M' + SvgNumber(GridLine(kLeft, 0)) + ' ' +
+                SvgNumber(GridLine(kTop, i)) + 'H' + SvgNumber(GridLine(kLeft, 9));
       }
-      out_ << "\"/>\n";
+      svg_.Path(path, {nullptr, thick ? palette_.ink : palette_.thin, thick ? 2.0 : 1.0},
+                " stroke-linecap=\"square\"");
     }
-    for (const std::vector<Unit>* units : {&finding_.units, &finding_.covers}) {
-      for (const Unit& unit : *units) {
-        if (unit.kind != UnitKind::Box) continue;
-        Fill(unit, std::string("fill=\"none\" stroke=\"") + kInk + "\" stroke-width=\"4\"" +
-                       (units == &finding_.covers ? " stroke-dasharray=\"10 6\"" : ""));
-      }
+    for (const auto& [unit, sign] : unit_signs_) {
+      if (unit.kind != UnitKind::Box) continue;
+      const Area area = AreaOf(unit);
+      brush_.BoxFrame(Used(sign), area.Corner(), area.Width(), area.Height());
     }
   }
 
   void Headers() {
     for (const UnitKind kind : {UnitKind::Row, UnitKind::Column}) {
-      for (int i = 0; i < 9; ++i) Header({kind, i});
+      for (int i = 0; i < kUnitSize; ++i) Header({kind, i});
     }
   }
 
   void Header(Unit unit) {
+    constexpr double kSize = 17;
     const bool row = unit.kind == UnitKind::Row;
     const double along = Along(unit.index) + kCellSize / 2;
     const Point at = row ? Point{17, kTop + along} : Point{kLeft + along, 16};
-    const bool base = Among(finding_.units, unit);
-    const bool cover = !base && Among(finding_.covers, unit);
-    if (base || cover) {
-      Rect(at.x - 12, at.y - 12, 24, 24,
-           base ? std::string("rx=\"4\" fill=\"") + kCause + '"'
-                : std::string("rx=\"4\" fill=\"none\" stroke=\"") + kInk + "\" stroke-width=\"2\"");
-    }
-    out_ << "<g font-size=\"17\" font-weight=\"bold\" fill=\"" << (base ? "#fff" : kInk) << "\">";
-    Text(at, 17, row ? std::string(1, RowLetter(unit.index)) : std::to_string(unit.index + 1));
-    out_ << "</g>\n";
+    const auto found = std::ranges::find(unit_signs_, unit, &UnitSign::unit);
+    const bool marked = found != unit_signs_.end();
+    if (marked) brush_.Header(Used(found->sign), at);
+    const bool solid = marked && found->sign == Sign::BaseUnit;
+    svg_.Text(at, kSize, true, solid ? palette_.on_cause : palette_.ink,
+              row ? std::string(1, RowLetter(unit.index)) : std::to_string(unit.index + 1));
   }
 
-  static bool Among(const std::vector<Unit>& units, Unit unit) {
-    for (const Unit& other : units) {
-      if (other == unit) return true;
-    }
-    return false;
-  }
-
-  // The cells of the pattern in the order in which a line through them explains it; the last joins the first
-  // when `closed`.
+  // The cells of the pattern in the order in which a bar joins them; `closed` when the last joins the first.
   std::vector<int> Path(bool& closed) const {
-    std::vector<int> cells;
-    for (const PatternCell& part : finding_.pattern) cells.push_back(part.cell);
-    closed = false;
-    switch (WordsOf(finding_.technique).links) {
+    std::vector<int> c;
+    for (const PatternCell& part : finding_.pattern) c.push_back(part.cell);
+    const Links links = WordsOf(finding_.technique).links;
+    closed = links == Links::Corners || links == Links::Around;
+    switch (links) {
       case Links::Wings:
-        return {cells[1], cells[0], cells[2]};
+        return {c[1], c[0], c[2]};
       case Links::Chain:
-        return cells;
+        return c;
       case Links::Corners:
-        closed = true;
-        return {cells[0], cells[1], cells[3], cells[2]};
+        return {c[0], c[1], c[3], c[2]};
       case Links::Around:
-        closed = true;
-        return Around(cells);
+        return Around(c);
       case Links::Pair:
-        return {cells[cells.size() - 2], cells[cells.size() - 1]};
+        return {c[c.size() - 2], c[c.size() - 1]};
       case Links::Nothing:
       case Links::Unset:
         break;
@@ -224,64 +202,57 @@ class Drawing {
     return c;
   }
 
-  void Links() {
+  void Bars() {
     bool closed = false;
-    const std::vector<int> path = Path(closed);
-    if (path.empty()) return;
-    out_ << "<path fill=\"none\" stroke=\"" << kCause
-         << "\" stroke-opacity=\".3\" stroke-width=\"4\" stroke-linejoin=\"round\" d=\"";
+    const std::vector<int> cells = Path(closed);
+    if (cells.empty()) return;
     // One digit: from candidate to candidate; several: from cell to cell.
     const bool one_digit = BitCount[finding_.digits] == 1;
-    for (std::size_t i = 0; i < path.size(); ++i) {
-      const Point at = one_digit ? MarkMiddle(path[i], LowestDigit(finding_.digits)) : CellMiddle(path[i]);
-      out_ << (i == 0 ? 'M' : 'L') << N(at.x) << ' ' << N(at.y);
+    std::string path;
+    for (const int cell : cells) {
+      const Point at = one_digit ? MarkMiddle(cell, LowestDigit(finding_.digits)) : CellMiddle(cell);
+      path += (path.empty() ? "M" : "L") + SvgNumber(at.x) + ' ' + SvgNumber(at.y);
     }
-    out_ << (closed ? "Z" : "") << "\"/>\n";
+    Used(Sign::Bar);
+    brush_.Bar(path + (closed ? "Z" : ""));
   }
 
   void Digits() {
     for (const bool given : {true, false}) {
-      out_ << "<g font-size=\"38\" font-weight=\"bold\" fill=\"" << (given ? kGivenInk : "#000") << "\">\n";
+      svg_.OpenTexts(kDigitSize, true, given ? palette_.given : palette_.digit);
       for (int cell = 0; cell < kCells; ++cell) {
         if (example_.digits[cell] == 0 || (example_.givens[cell] != 0) != given) continue;
-        Text(CellMiddle(cell), 38, std::to_string(example_.digits[cell]));
+        svg_.TextIn(CellMiddle(cell), kDigitSize, std::to_string(example_.digits[cell]));
       }
-      out_ << "</g>\n";
+      svg_.CloseTexts();
     }
   }
 
   void Marks() {
-    out_ << "<g font-size=\"14\" fill=\"" << kMarkInk << "\">\n";
+    svg_.OpenTexts(kMarkSize, false, palette_.mark);
     for (int cell = 0; cell < kCells; ++cell) {
       for (int digit = 1; digit <= 9; ++digit) {
-        if (HasDigit(example_.marks[cell], digit)) Text(MarkMiddle(cell, digit), 14, std::to_string(digit));
+        const bool shown = HasDigit(example_.marks[cell] & ~Signed(cell), digit);
+        if (shown) svg_.TextIn(MarkMiddle(cell, digit), kMarkSize, std::to_string(digit));
       }
     }
-    out_ << "</g>\n";
+    svg_.CloseTexts();
   }
 
-  void Signs() {
-    if (finding_.technique == Technique::HiddenSingle) {
-      const Blockers blockers =
-          FindBlockers(example_.digits, finding_.units[0], finding_.placed_cell, finding_.placed_digit);
-      for (const int cell : blockers.cells) Disc(CellMiddle(cell), 22, "fill=\"none\"", 3);
-    }
-    for (const Removal& removal : finding_.removals) {
-      for (int digit = 1; digit <= 9; ++digit) {
-        if (HasDigit(removal.digits, digit)) Struck(MarkMiddle(removal.cell, digit), digit);
-      }
-    }
+  // The candidates of a cell that get a sign, which has the digit on it.
+  CandidateMask Signed(int cell) const {
+    if (frame_ == Frame::Plain) return 0;
+    CandidateMask digits = frame_ == Frame::Whole ? RemovedFrom(cell) : CandidateMask{0};
     for (const PatternCell& part : finding_.pattern) {
-      if (example_.digits[part.cell] != 0) {
-        const Point at = CellMiddle(part.cell);
-        Disc(at, 22, "fill=\"none\"", 3);
-        continue;
-      }
-      const CandidateMask removed = RemovedFrom(part.cell);
-      for (int digit = 1; digit <= 9; ++digit) {
-        if (HasDigit(part.digits & ~removed, digit)) Sign(MarkMiddle(part.cell, digit), digit, part.role);
-      }
+      if (part.cell == cell) digits |= PatternDigits(part);
     }
+    return digits;
+  }
+
+  // What of a cell belongs to the pattern and stays in it as far as the picture shows.
+  CandidateMask PatternDigits(const PatternCell& part) const {
+    const CandidateMask gone = frame_ == Frame::Whole ? RemovedFrom(part.cell) : CandidateMask{0};
+    return part.digits & finding_.digits & ~gone;
   }
 
   CandidateMask RemovedFrom(int cell) const {
@@ -292,68 +263,96 @@ class Drawing {
     return digits;
   }
 
-  void Disc(Point at, double radius, const std::string& fill, double line) {
-    out_ << "<circle cx=\"" << N(at.x) << "\" cy=\"" << N(at.y) << "\" r=\"" << N(radius) << "\" " << fill
-         << " stroke=\"" << kCause << "\" stroke-width=\"" << N(line) << "\"/>\n";
-  }
-
-  void Sign(Point at, int digit, Role role) {
-    const std::string filled = std::string("fill=\"") + kCause + '"';
-    const bool hollow = role == Role::Link;
-    if (role == Role::Fin) {
-      out_ << "<path d=\"M" << N(at.x) << ' ' << N(at.y - 11) << "l11 11l-11 11l-11 -11Z\" " << filled
-           << "/>\n";
-    } else if (hollow) {
-      Disc(at, 8, "fill=\"#fff\"", 2);
-    } else if (role == Role::Pivot) {
-      Disc(at, 9.5, "fill=\"#fff\"", 1.5);
-      Disc(at, 7, filled, 0);
-    } else {
-      Disc(at, 9, filled, 0);
+  void Signs() {
+    if (finding_.technique == Technique::HiddenSingle && frame_ >= Frame::Reason) {
+      const Blockers blockers =
+          FindBlockers(example_.digits, finding_.units[0], finding_.placed_cell, finding_.placed_digit);
+      for (const int cell : blockers.cells) InPlace(cell);
     }
-    out_ << "<g font-size=\"" << (role == Role::Pivot ? 12 : 14) << "\" font-weight=\"bold\" fill=\""
-         << (hollow ? kCause : "#fff") << "\">";
-    Text(at, role == Role::Pivot ? 12 : 14, std::to_string(digit));
-    out_ << "</g>\n";
+    for (const PatternCell& part : finding_.pattern) {
+      if (part.role == Role::Pivot) {
+        Used(Sign::Pivot);
+        brush_.CellFrame(CellCorner(part.cell), kCellSize);
+      }
+      if (example_.digits[part.cell] != 0) {
+        InPlace(part.cell);
+      } else {
+        OnMarks(part.cell, PatternDigits(part), [&](int digit) { return SignOf(part, digit); });
+      }
+    }
+    if (frame_ != Frame::Whole) return;
+    for (const Removal& removal : finding_.removals) {
+      OnMarks(removal.cell, removal.digits, [](int) { return Sign::Removed; });
+    }
   }
 
-  void Struck(Point at, int digit) {
-    Rect(at.x - 8, at.y - 8, 16, 16,
-         std::string("fill=\"") + kGoneGround + "\" stroke=\"" + kGone + "\" stroke-width=\"1.5\"");
-    out_ << "<path d=\"M" << N(at.x - 8) << ' ' << N(at.y + 8) << "l16 -16\" stroke=\"" << kGone
-         << "\" stroke-width=\"1.5\"/>\n<g font-size=\"14\" font-weight=\"bold\" fill=\"" << kInk << "\">";
-    Text(at, 14, std::to_string(digit));
-    out_ << "</g>\n";
+  Sign SignOf(const PatternCell& part, int digit) const {
+    if (finding_.placed_cell == part.cell) return Sign::Placed;
+    if (part.role == Role::Fin) return Sign::Fin;
+    if (part.role == Role::Link) return Sign::Link;
+    const bool target =
+        frame_ >= Frame::Reason && HasDigit(WordsOf(finding_.technique).targets(finding_), digit);
+    return target ? Sign::Target : Sign::Pattern;
+  }
+
+  template <class SignFor>
+  void OnMarks(int cell, CandidateMask digits, const SignFor& sign_for) {
+    for (int digit = 1; digit <= 9; ++digit) {
+      if (HasDigit(digits, digit)) brush_.OnMark(Used(sign_for(digit)), MarkMiddle(cell, digit), digit);
+    }
+  }
+
+  void InPlace(int cell) {
+    Used(Sign::InPlace);
+    brush_.Ring(CellMiddle(cell));
+  }
+
+  void Entered(const Placement& placed, int number) {
+    Used(Sign::Entered);
+    const Point corner = CellCorner(placed.cell);
+    svg_.Text(CellMiddle(placed.cell), kDigitSize, true, palette_.cause, std::to_string(placed.digit));
+    svg_.Text({corner.x + 7, corner.y + 6}, 11, false, palette_.mark, std::to_string(number));
   }
 
   const Example& example_;
   const Finding& finding_;
-  std::ostringstream out_;
+  Frame frame_;
+  const Palette& palette_;
+  Picture picture_;
+  Svg svg_;
+  SignBrush brush_;
+  std::vector<UnitSign> unit_signs_;
 };
+
+std::string PictureWords(const Example& example, Frame frame) {
+  const Finding& finding = example.finding;
+  if (frame == Frame::Plain) return "Sudoku board with its candidates.";
+  std::vector<int> pattern;
+  for (const PatternCell& part : finding.pattern) pattern.push_back(part.cell);
+  std::string text = "Sudoku board. Marked as the pattern: " + CellNames(pattern) + ".";
+  if (frame != Frame::Whole) return text;
+  if (finding.placed_cell < 0) return text + " Struck out: " + RemovalText(finding).substr(7);
+  return text + ' ' + std::to_string(finding.placed_digit) + " goes into " + CellName(finding.placed_cell) +
+         '.';
+}
 
 }  // namespace
 
-bool CoversLose(Technique technique) {
-  return WordsOf(technique).covers == Covers::Lose;
+Picture DrawBoard(const Example& example, Frame frame, const Palette& palette) {
+  const bool plain = frame == Frame::Plain;
+  const std::string_view title = plain ? "Position" : RowOf(example.finding.technique).caption;
+  return Drawing(example, frame, palette, title, PictureWords(example, frame)).Draw();
 }
 
-std::string BoardPicture(const Example& example) {
-  return Drawing(example).Draw();
-}
-
-std::string PictureInWords(const Example& example) {
-  const Finding& finding = example.finding;
-  std::vector<int> pattern;
-  for (const PatternCell& part : finding.pattern) pattern.push_back(part.cell);
-  std::string text = "Sudoku board. Marked as the pattern: " + CellNames(pattern) + ". ";
-  if (finding.placed_cell >= 0) {
-    return text + std::to_string(finding.placed_digit) + " goes into " + CellName(finding.placed_cell) + '.';
+Picture DrawSingles(const Example& after, std::span<const Placement> placements, const Palette& palette) {
+  std::vector<std::string> places;
+  Example before = after;
+  for (const Placement& placed : placements) {
+    places.push_back(std::to_string(placed.digit) + " in " + CellName(placed.cell));
+    before.digits[placed.cell] = 0;  // drawn apart, in the colour of the signs
   }
-  std::vector<std::string> removals;
-  for (const Removal& removal : finding.removals) {
-    removals.push_back(DigitNames(removal.digits) + " from " + CellName(removal.cell));
-  }
-  return text + "Struck out: " + Joined(removals) + '.';
+  return Drawing(before, Frame::Plain, palette, "Singles", "Sudoku board. Placed: " + Joined(places) + ".")
+      .DrawEntered(placements);
 }
 
 }  // namespace kestrel

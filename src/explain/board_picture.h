@@ -1,31 +1,58 @@
 // SPDX-License-Identifier: MIT
-// The picture of a worked example as SVG: the board as the game's window shows it, with the pattern and what
-// it removes marked on the candidates. Used for the help pages.
+// Positions as SVG: the board as the game's window shows it, with the signs of explain/signs.h on it. One drawing
+// for pages, exercises, stories and walkthroughs. Plain SVG Tiny 1.2 with text as text, a title and a description
+// inside, no style sheet and no script: browsers and Qt's renderer draw it alike.
 #pragma once
 
+#include <array>
+#include <cstdint>
+#include <span>
 #include <string>
 
 #include "explain/example.h"
+#include "explain/palette.h"
+#include "explain/signs.h"
 
 namespace kestrel {
 
-// Width and height of every picture, in pixels at scale 1.
+// Width and height of every picture of a board, in pixels at scale 1.
 inline constexpr int kPictureWidth = 564;
 inline constexpr int kPictureHeight = 562;
 
-// The drawing. Signs, never told apart by colour alone:
-//
-//   filled disc    a candidate of the pattern          hollow disc  one that links two others
-//   ringed disc    a candidate of the pivot            diamond      a fin
-//   struck square  a removed candidate               large ring   a digit in place that belongs to the
-//   pattern dark header    a line in which the pattern lies    framed header  a line that it covers
-std::string BoardPicture(const Example& example);
+// How much of an example a picture shows.
+enum class Frame : std::uint8_t {
+  Plain,   // the position alone, for an exercise
+  Spot,    // what to look for: the pattern in its lines and boxes
+  Reason,  // and what follows from it: what ties it together, where candidates go
+  Whole,   // and the candidates that are removed or the digit that goes in
+};
 
-// True when candidates are removed from the lines and boxes that the technique covers; these get a background of
-// their own in its pictures. Otherwise the covers only connect parts of the pattern.
-bool CoversLose(Technique technique);
+struct Picture {
+  std::string svg;    // a whole document, from <svg to </svg> and a line end
+  SignSet signs;      // what was drawn, for the legend
+  std::string words;  // the description inside, also for an alt text
+};
 
-// The same in words, for readers who do not see it: "Board with ... marked".
-std::string PictureInWords(const Example& example);
+Picture DrawBoard(const Example& example, Frame frame = Frame::Whole, const Palette& palette = kLightPalette);
+
+// A digit that a single puts into a cell.
+struct Placement {
+  int cell;   // 0..80
+  int digit;  // 1..9
+};
+
+// The board after a run of singles: what was placed is marked and numbered in its order. `after` is the position at
+// the end of the run; its finding is not looked at.
+Picture DrawSingles(const Example& after, std::span<const Placement> placements,
+                    const Palette& palette = kLightPalette);
+
+// One picture of a story in three: spot the pattern, why it works, what is removed.
+struct StoryFrame {
+  std::string_view heading;
+  std::string text;
+  Picture picture;
+};
+// The example must not be a single.
+std::array<StoryFrame, 3> DrawStory(const Example& example, const Palette& palette = kLightPalette);
 
 }  // namespace kestrel

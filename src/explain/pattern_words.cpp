@@ -38,6 +38,15 @@ std::string CellsWithDigits(Cells cells) {
   return text;
 }
 
+// "A8=9, J8=2".
+std::string SolvedCells(Cells cells) {
+  std::string text;
+  for (const PatternCell& cell : cells) {
+    text += (text.empty() ? "" : ", ") + CellName(cell.cell) + '=' + DigitNames(cell.digits);
+  }
+  return text;
+}
+
 }  // namespace
 
 std::string SinglePattern(const Finding& finding) {
@@ -95,8 +104,7 @@ std::string UniqueRectanglePattern(const Finding& finding) {
 std::string AvoidableRectanglePattern(const Finding& finding) {
   const Cells cells = finding.pattern;
   const std::size_t solved = finding.form == 1 ? 3 : 2;
-  return "solved " + CellsWithDigits(cells.first(solved)) + ", open " +
-         CellsWithDigits(cells.subspan(solved));
+  return "solved " + SolvedCells(cells.first(solved)) + ", open " + CellsWithDigits(cells.subspan(solved));
 }
 
 std::string EmptyRectanglePattern(const Finding& finding) {

@@ -43,26 +43,6 @@ Text CellsIn(const Finding& finding, Unit unit, const char* joint) {
   return CellNames(cells, joint);
 }
 
-// "Remove 4 from A2 and D8, and 3 and 7 from C5."
-Text Removals(const Finding& finding) {
-  std::vector<CandidateMask> kinds;
-  for (const Removal& removal : finding.removals) {
-    bool known = false;
-    for (const CandidateMask kind : kinds) known = known || kind == removal.digits;
-    if (!known) kinds.push_back(removal.digits);
-  }
-  Text text = "Remove ";
-  for (std::size_t i = 0; i < kinds.size(); ++i) {
-    std::vector<int> cells;
-    for (const Removal& removal : finding.removals) {
-      if (removal.digits == kinds[i]) cells.push_back(removal.cell);
-    }
-    if (i > 0) text += i + 1 == kinds.size() ? ", and " : ", ";
-    text += DigitNames(kinds[i]) + " from " + CellNames(cells);
-  }
-  return text + '.';
-}
-
 CandidateMask Common(const Finding& finding, std::size_t a, std::size_t b) {
   return finding.pattern[a].digits & finding.pattern[b].digits;
 }
@@ -156,7 +136,7 @@ std::string IntersectionReason(const Example& example) {
   const Text to = TheUnit(f.covers[0]);
   return "In " + from + ", " + digit + " can only go into " + Cells(f, 0, f.pattern.size(), "or") +
          (f.pattern.size() == 2 ? ". Both lie in " : ". All three lie in ") + to + ", so " + to +
-         " has its " + digit + " there and nowhere else. " + Removals(f);
+         " has its " + digit + " there and nowhere else.";
 }
 
 std::string NakedSubsetReason(const Example& example) {
@@ -170,8 +150,7 @@ std::string NakedSubsetReason(const Example& example) {
   }
   return "In " + unit + ", the " + count + " cells " + Joined(cells) + " have no candidates but " + digits +
          ". " + Text(1, static_cast<char>(count[0] - 'a' + 'A')) + count.substr(1) + " cells take " + count +
-         " digits, so " + digits + " are used up in these cells and cannot stand elsewhere in " + unit +
-         ". " + Removals(f);
+         " digits, so " + digits + " are used up in these cells and cannot stand elsewhere in " + unit + ".";
 }
 
 std::string HiddenSubsetReason(const Example& example) {
@@ -182,7 +161,7 @@ std::string HiddenSubsetReason(const Example& example) {
   const Text count = NumberWord(static_cast<int>(f.pattern.size()));
   return "In " + unit + ", " + digits + " can only go into " + cells + ". " +
          Text(1, static_cast<char>(count[0] - 'a' + 'A')) + count.substr(1) + " digits fill " + count +
-         " cells, so nothing else fits there. " + Removals(f);
+         " cells, so nothing else fits there.";
 }
 
 std::string FishReason(const Example& example) {
@@ -198,7 +177,7 @@ std::string FishReason(const Example& example) {
   return "Where can " + digit + " go? " + places + ". All these places lie in " + covers + ". The " + count +
          ' ' + bases + " need " + WithArticle(f.digits) + " each, and " + covers + " have room for just " +
          count + ", so these " + count + ' ' + bases +
-         (f.units.size() == 2 ? " take both. " : " take them all. ") + Removals(f);
+         (f.units.size() == 2 ? " take both." : " take them all.");
 }
 
 std::string XYWingReason(const Example& example) {
@@ -211,7 +190,7 @@ std::string XYWingReason(const Example& example) {
   return "The pivot " + Name(f, 0) + " is " + DigitNames(w.x | w.y, "or") + ". If it is " + DigitNames(w.x) +
          ", then " + wing(w.first) + "; if it is " + DigitNames(w.y) + ", then " + wing(w.second) +
          ". Either way one of " + Cells(f, 1, 2) + " is " + z + ", so no cell that sees both can be " + z +
-         ". " + Removals(f);
+         ".";
 }
 
 std::string XYZWingReason(const Example& example) {
@@ -222,7 +201,7 @@ std::string XYZWingReason(const Example& example) {
          DigitNames(w.x) + ", then " + Name(f, w.first) + " must be " + z + "; if it is " + DigitNames(w.y) +
          ", then " + Name(f, w.second) + " must be " + z + "; otherwise the pivot is " + z +
          " itself. In any case one of the three is " + z + ", so no cell that sees all three can be " + z +
-         ". " + Removals(f);
+         ".";
 }
 
 // Kite and skyscraper: end, link, link, end.
@@ -235,7 +214,7 @@ std::string TwoPairsReason(const Example& example) {
          TheUnit(f.units[1]) + " only into " + Cells(f, 2, 2, "or") + ". " + Cells(f, 1, 2) +
          " both lie in " + TheUnit(f.covers[0]) + ", so they cannot both be " + digit +
          ". Then at least one of the other two, " + CellNames(ends) + ", is " + digit +
-         ", and no cell that sees both of these can be " + digit + ". " + Removals(f);
+         ", and no cell that sees both of these can be " + digit + ".";
 }
 
 std::string MultiXWingReason(const Example& example) {
@@ -259,7 +238,7 @@ std::string MultiXWingReason(const Example& example) {
          ". If " + p1 + " is " + d1 + ", then " + p0 + " is " + e1 + ", " + p2 + " is " + d2 + " and " + p3 +
          " is " + e2 + ". Either way " + e1 + " is in " + either(0, 2) + " and " + e2 + " is in " +
          either(1, 3) + ", so " + TheUnit(f.covers[0]) + " has no other place for " + e1 + " and " +
-         TheUnit(f.covers[1]) + " none for " + e2 + ". " + Removals(f);
+         TheUnit(f.covers[1]) + " none for " + e2 + ".";
 }
 
 std::string FinnedXWingReason(const Example& example) {
@@ -279,9 +258,7 @@ std::string FinnedXWingReason(const Example& example) {
          ", this is an X-Wing, and " + cover + " loses its other " + digit + "s. If " +
          (one ? "the fin is " : "one of the fins is ") + digit + ", the rest of " + box + " loses " + digit +
          ". Either way " + CellNames(targets) + ", where " + cover + " meets that box, cannot be " + digit +
-         (OthersStay(example) ? ". The other " + digit + "s in " + TheUnits(covers) + " stay. "
-                              : Text(". ")) +
-         Removals(f);
+         (OthersStay(example) ? ". The other " + digit + "s in " + TheUnits(covers) + " stay." : Text("."));
 }
 
 std::string UniqueRectangleReason(const Example& example) {
@@ -291,7 +268,7 @@ std::string UniqueRectangleReason(const Example& example) {
     return Cells(f, 0, 3) + " hold only " + pair + ". If " + Name(f, 3) + " were " +
            DigitNames(f.digits, "or") + " too, the four corners would hold nothing but " + pair +
            ", and swapping the two digits would give a second solution. Every puzzle here has just one, so " +
-           Name(f, 3) + " is neither. " + Removals(f);
+           Name(f, 3) + " is neither.";
   }
   const CandidateMask pair = f.pattern[0].digits;
   const Text x = DigitNames(f.digits & ~pair);
@@ -299,7 +276,7 @@ std::string UniqueRectangleReason(const Example& example) {
          Cells(f, 2, 2) + ", has " + DigitNames(f.digits) + ". If neither roof cell were " + x +
          ", all four corners would hold only " + DigitNames(pair) +
          ", and swapping these would give a second solution. So one of the roof cells is " + x +
-         ", and no cell that sees both can be " + x + ". " + Removals(f);
+         ", and no cell that sees both can be " + x + ".";
 }
 
 std::string AvoidableRectangleReason(const Example& example) {
@@ -311,7 +288,7 @@ std::string AvoidableRectangleReason(const Example& example) {
            ". None of the four corners is a given. If " + Name(f, 3) + " were " + e +
            ", the corners would hold " + d + " and " + e +
            " diagonally, and swapping them would give a second solution. So " + Name(f, 3) + " is not " + e +
-           ". " + Removals(f);
+           ".";
   }
   const Text d = DigitNames(f.pattern[0].digits);
   const Text e = DigitNames(f.pattern[1].digits);
@@ -321,7 +298,7 @@ std::string AvoidableRectangleReason(const Example& example) {
          ", are still open, and none of the four is a given. If " + Name(f, 2) + " were " + e + " and " +
          Name(f, 3) + " were " + d + ", swapping the two digits would give a second solution. So one of " +
          Cells(f, 2, 2) + " is " + DigitNames(third) + ", and no cell that sees both can be " +
-         DigitNames(third) + ". " + Removals(f);
+         DigitNames(third) + ".";
 }
 
 std::string EmptyRectangleReason(const Example& example) {
@@ -339,11 +316,35 @@ std::string EmptyRectangleReason(const Example& example) {
          Cells(f, n - 2, 2, "or") + ". If it is in " + near + ", " + arm + " is taken, so " + box +
          " has its " + digit + " in " + other_arm + ". So either " + far + " is " + digit +
          " or the box has its " + digit + " in " + other_arm + ". " + target +
-         " sees both, so it cannot be " + digit + ". " + Removals(f);
+         " sees both, so it cannot be " + digit + ".";
+}
+
+std::string RemovalText(const Finding& finding) {
+  std::vector<CandidateMask> kinds;
+  for (const Removal& removal : finding.removals) {
+    bool known = false;
+    for (const CandidateMask kind : kinds) known = known || kind == removal.digits;
+    if (!known) kinds.push_back(removal.digits);
+  }
+  std::string text = "Remove ";
+  for (std::size_t i = 0; i < kinds.size(); ++i) {
+    std::vector<int> cells;
+    for (const Removal& removal : finding.removals) {
+      if (removal.digits == kinds[i]) cells.push_back(removal.cell);
+    }
+    if (i > 0) text += i + 1 == kinds.size() ? ", and " : ", ";
+    text += DigitNames(kinds[i]) + " from " + CellNames(cells);
+  }
+  return text + '.';
+}
+
+std::string ReasonText(const Example& example) {
+  return WordsOf(example.finding.technique).reason(example);
 }
 
 std::string ExampleText(const Example& example) {
-  return WordsOf(example.finding.technique).reason(example);
+  const std::string reason = ReasonText(example);
+  return example.finding.removals.empty() ? reason : reason + ' ' + RemovalText(example.finding);
 }
 
 }  // namespace kestrel

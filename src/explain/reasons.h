@@ -9,7 +9,11 @@
 
 namespace kestrel {
 
-// A paragraph of plain text: the pattern, why it works here, what follows.
+// The pattern and why it works here; for a single also where its digit goes.
+std::string ReasonText(const Example& example);
+// "Remove 4 from A2 and D8, and 3 and 7 from C5." Empty findings and singles have none.
+std::string RemovalText(const Finding& finding);
+// Both together, a paragraph of plain text.
 std::string ExampleText(const Example& example);
 
 // The same by family of techniques, for the word table (technique_words.h).

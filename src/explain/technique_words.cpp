@@ -6,6 +6,7 @@
 
 #include "explain/pattern_words.h"
 #include "explain/reasons.h"
+#include "solver/unit_table.h"
 
 namespace kestrel {
 namespace {
@@ -69,10 +70,35 @@ constexpr UnitKind kRow = UnitKind::Row;
 constexpr UnitKind kColumn = UnitKind::Column;
 constexpr UnitKind kBox = UnitKind::Box;
 
+CandidateMask NoTargets(const Finding& /*finding*/) {
+  return 0;
+}
+
+CandidateMask Shared(const Finding& finding, std::size_t a, std::size_t b) {
+  return finding.pattern[a].digits & finding.pattern[b].digits;
+}
+
+// What both wings can be.
+CandidateMask WingTarget(const Finding& finding) {
+  return Shared(finding, 1, 2);
+}
+
+// The digits that go from the covers, on which the pairs stand across.
+CandidateMask MultiXWingTargets(const Finding& finding) {
+  return Shared(finding, 0, 2) | Shared(finding, 1, 3);
+}
+
+// The third digit of the two roof cells; with one roof cell the roof itself loses.
+CandidateMask RoofTarget(const Finding& finding) {
+  const CandidateMask floor = finding.pattern[0].digits | finding.pattern[1].digits;
+  return finding.form == 2 ? Without(Shared(finding, 2, 3), floor) : CandidateMask{0};
+}
+
 constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::HiddenSingle,
      SinglePattern,
      HiddenSingleReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Nothing,
@@ -82,6 +108,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::NakedSingle,
      SinglePattern,
      NakedSingleReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Nothing,
@@ -89,6 +116,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::PointingPair,
      IntersectionPattern,
      IntersectionReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Lose,
@@ -99,6 +127,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::BoxLine,
      IntersectionPattern,
      IntersectionReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Lose,
@@ -106,6 +135,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::NakedPair,
      SubsetPattern,
      NakedSubsetReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Nothing,
@@ -115,6 +145,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::NakedTriple,
      SubsetPattern,
      NakedSubsetReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Nothing,
@@ -122,6 +153,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::HiddenPair,
      SubsetPattern,
      HiddenSubsetReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Nothing,
@@ -129,6 +161,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::NakedQuad,
      SubsetPattern,
      NakedSubsetReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Nothing,
@@ -136,6 +169,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::HiddenTriple,
      SubsetPattern,
      HiddenSubsetReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Nothing,
@@ -143,6 +177,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::NakedQuint,
      SubsetPattern,
      NakedSubsetReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Nothing,
@@ -150,6 +185,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::XWing,
      FishPattern,
      FishReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Corners,
      Covers::Lose,
@@ -157,6 +193,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::XYWing,
      WingPattern,
      XYWingReason,
+     WingTarget,
      RoleSet(Role::Pivot, Role::Wing),
      Links::Wings,
      Covers::Nothing,
@@ -166,6 +203,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::TwoStringKite,
      LinkedPairsPattern,
      TwoPairsReason,
+     NoTargets,
      RoleSet(Role::Base, Role::Link),
      Links::Chain,
      Covers::Connect,
@@ -173,6 +211,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::Skyscraper,
      LinkedPairsPattern,
      TwoPairsReason,
+     NoTargets,
      RoleSet(Role::Base, Role::Link),
      Links::Chain,
      Covers::Connect,
@@ -180,6 +219,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::Swordfish,
      FishPattern,
      FishReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Lose,
@@ -187,6 +227,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::MultiXWing,
      MultiXWingPattern,
      MultiXWingReason,
+     MultiXWingTargets,
      RoleSet(Role::Base),
      Links::Corners,
      Covers::Lose,
@@ -199,6 +240,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::FinnedXWing,
      FinnedPattern,
      FinnedXWingReason,
+     NoTargets,
      RoleSet(Role::Base, Role::Fin),
      Links::Corners,
      Covers::Lose,
@@ -209,6 +251,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::UniqueRectangle,
      UniqueRectanglePattern,
      UniqueRectangleReason,
+     RoofTarget,
      RoleSet(Role::Floor, Role::Roof),
      Links::Around,
      Covers::Nothing,
@@ -218,6 +261,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::AvoidableRectangle,
      AvoidableRectanglePattern,
      AvoidableRectangleReason,
+     RoofTarget,
      RoleSet(Role::Base, Role::Roof),
      Links::Around,
      Covers::Nothing,
@@ -225,6 +269,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::XYZWing,
      WingPattern,
      XYZWingReason,
+     WingTarget,
      RoleSet(Role::Pivot, Role::Wing),
      Links::Wings,
      Covers::Nothing,
@@ -232,6 +277,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::EmptyRectangle,
      EmptyRectanglePattern,
      EmptyRectangleReason,
+     NoTargets,
      RoleSet(Role::Base, Role::Link),
      Links::Pair,
      Covers::Connect,
@@ -239,6 +285,7 @@ constexpr std::array<TechniqueWords, kTechniques> kTechniqueWords{{
     {Technique::Jellyfish,
      FishPattern,
      FishReason,
+     NoTargets,
      RoleSet(Role::Base),
      Links::Nothing,
      Covers::Lose,
@@ -250,8 +297,8 @@ static_assert(
       for (const Technique technique : kAllTechniques) {
         const TechniqueWords& row = kTechniqueWords[SlotOf(technique)];
         if (row.technique != technique || row.pattern == nullptr || row.reason == nullptr ||
-            row.roles.Empty() || row.links == Links::Unset || row.covers == Covers::Unset ||
-            row.forms[0].key.empty()) {
+            row.targets == nullptr || row.roles.Empty() || row.links == Links::Unset ||
+            row.covers == Covers::Unset || row.forms[0].key.empty()) {
           return false;
         }
         for (const FormRow& form : row.forms) {

@@ -59,6 +59,8 @@ struct TechniqueWords {
   Technique technique;
   std::string (*pattern)(const Finding& finding);  // a few words, for one line a step
   std::string (*reason)(const Example& example);   // a paragraph
+  // The digits of the pattern that are removed elsewhere, where they are not all of its digits.
+  CandidateMask (*targets)(const Finding& finding);
   RoleSet roles;
   Links links;
   Covers covers;

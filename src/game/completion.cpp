@@ -12,8 +12,7 @@ namespace {
 // Enters the new best time and congratulates. The stock is written first: what the player was told is on the
 // disk. False: the program is ending.
 bool NewBestTime(Session& session) {
-  // Not the selected level: the end of a renewal gives one level back to choose while a puzzle is in play.
-  const int level = session.OpenLevel;
+  const int level = session.SelectedLevel;  // cannot change during play
   EnterBestTime((*session.stock)(level, session.puzzle.PuzzleNumber), session.puzzle,
                 session.clock.ElapsedSeconds, session.players.CurrentPlayer);
   if (!session.SaveStock()) return false;

@@ -88,8 +88,10 @@ void Game::Release(const Event& event) {
   }
 }
 
-// A stopped clock is paused, too, which changes nothing that one can see: its timer is off.
+// A stopped clock is paused, too, which changes nothing that one can see: its timer is off. Behind the print
+// dialog the clock stands already.
 void Game::Resize(WindowState state) {
+  if (session_.forms.print.window.open) return;
   if (state == WindowState::Minimized) session_.clock.Pause();
   if (state == WindowState::Normal && session_.clock.ClockPaused) session_.clock.Resume();
 }
@@ -103,6 +105,8 @@ void Game::RunPrintDialog() {
   if (!clock.ClockStopped) clock.Pause();
   if (!session_.print_dialog.Run(session_.SelectedLevel, session_.ProgramFolder)) return;
   if (!clock.ClockStopped) clock.Resume();
+  // The dialog was closed while the window is minimised: the clock stands on.
+  if (session_.forms.main.window.state == WindowState::Minimized) clock.Pause();
 }
 
 }  // namespace kestrel

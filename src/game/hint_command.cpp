@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "game/hint_command.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -36,8 +37,11 @@ void ReportMistake(Session& session, const std::string& text) {
 
 void Hint(Session& session) {
   session.forms.main.LabelHint.visible = false;
+  const std::uint64_t changes = session.history.Changes();
   const std::optional<HintCode> found = FindHint(session.puzzle, session.yield);
   if (!found || *found == kNoHint || *found == kNoHintsAtThisLevel) return;
+  // What waited behind the click has changed the board or ended play: the hint is for a board that is gone.
+  if (session.history.Changes() != changes || session.clock.ClockStopped) return;
   if (*found < kFirstWrongDigit) {
     MarkTechnique(session, TechniqueOfStep(*found));
   } else if (*found < kFirstErasedMark) {

@@ -66,7 +66,6 @@ void ShowPuzzle(Session& session, int level) {
   MainWindow& main = session.forms.main;
   const SudokuRecord& record = (*session.stock)(level, session.CurrentNumber(level));
   TakeOver(session.puzzle, record, session.CurrentNumber(level));
-  session.OpenLevel = level;
   session.clock.ClearPause();
   ShowStatus(session, level);
   for (int slot = 0; slot < kTechniques; ++slot) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "game/play_clock.h"
 
+#include <cstdint>
+
 #include "game/texts.h"
 
 namespace kestrel {
@@ -11,11 +13,20 @@ constexpr int kSecondsPerDay = 86400;
 
 }  // namespace
 
+void PlayClock::Show(std::int32_t seconds) {
+  ElapsedSeconds = seconds;
+  main_.LabelTijd.caption = texts::Time(seconds / 60, seconds % 60);
+}
+
+void PlayClock::Reset() {
+  Show(0);
+}
+
 void PlayClock::Start() {
   StartSecond = clock_.SecondsOfDay();
   ClockStopped = false;
   main_.Timer1.enabled = true;
-  main_.LabelTijd.caption = texts::Time(0, 0);
+  Show(0);
 }
 
 void PlayClock::Stop() {
@@ -26,8 +37,7 @@ void PlayClock::Stop() {
 void PlayClock::Tick() {
   int now = clock_.SecondsOfDay();
   if (now < StartSecond) now += kSecondsPerDay;  // the run crossed midnight
-  ElapsedSeconds = now - StartSecond;
-  main_.LabelTijd.caption = texts::Time(ElapsedSeconds / 60, ElapsedSeconds % 60);
+  Show(now - StartSecond);
 }
 
 void PlayClock::Pause() {
@@ -37,7 +47,7 @@ void PlayClock::Pause() {
 }
 
 void PlayClock::Resume() {
-  ElapsedSeconds = PausedMinutes * 60 + PausedSeconds;
+  Show(PausedMinutes * 60 + PausedSeconds);
   int now = clock_.SecondsOfDay();
   if (ElapsedSeconds > now) now += kSecondsPerDay;
   StartSecond = now - ElapsedSeconds;
@@ -46,7 +56,11 @@ void PlayClock::Resume() {
 
 void PlayClock::AddPenalty(int seconds) {
   StartSecond -= seconds;
-  ElapsedSeconds += seconds;
+  Show(ElapsedSeconds + seconds);
+  if (!ClockPaused) return;
+  const std::int32_t saved = PausedMinutes * 60 + PausedSeconds + seconds;
+  PausedMinutes = saved / 60;
+  PausedSeconds = saved % 60;
 }
 
 }  // namespace kestrel

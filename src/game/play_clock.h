@@ -15,7 +15,10 @@ class PlayClock {
   // Both must outlive this object.
   PlayClock(Clock& clock, MainWindow& main) : clock_(clock), main_(main) {}
 
-  // Starts at 00:00. ElapsedSeconds keeps the old time until the first tick.
+  // No time has been played; the label says so.
+  void Reset();
+
+  // Starts at 00:00.
   void Start();
 
   // Stops the timer; the display keeps the time.
@@ -25,24 +28,27 @@ class PlayClock {
   // from a shorter one.
   void Tick();
 
-  // Saves the clock value; Resume goes on from it, whatever time passed in between.
+  // Saves the clock value; Resume goes on from it, whatever time passed in between, and shows it. The timer
+  // ticks on meanwhile.
   void Pause();
   void Resume();
 
-  // Adds `seconds` to the time played for good; the display shows them at the next tick.
+  // Adds `seconds` to the time played for good, to a saved value, too.
   void AddPenalty(int seconds);
 
   // Forgets a saved value (the clock stays paused or not, as it was).
   void ClearPause() { PausedMinutes = PausedSeconds = 0; }
 
   std::int32_t StartSecond = 0;  // time of day at which the clock would have read 0; below 0 after a penalty
-  std::int32_t ElapsedSeconds = 0;  // the clock value, as of the last tick, resume or penalty
+  std::int32_t ElapsedSeconds = 0;  // the clock value; LabelTijd always shows it
   bool ClockPaused = false;         // a value is saved in the next two
   std::int32_t PausedMinutes = 0;
   std::int32_t PausedSeconds = 0;
   bool ClockStopped = true;  // no puzzle is being timed
 
  private:
+  void Show(std::int32_t seconds);
+
   Clock& clock_;
   MainWindow& main_;
 };

@@ -9,8 +9,7 @@
 namespace kestrel {
 
 void Renewal::Click(int level) {
-  const bool in_play = !session_.clock.ClockStopped && level == session_.OpenLevel;
-  if (level == session_.SelectedLevel || in_play) return;
+  if (level == session_.SelectedLevel) return;
   const Answer answer = session_.asker.Message({std::string(texts::kRenewTitle), std::string(texts::kRenew),
                                                 MessageIcon::Question, MessageButtons::OkCancel});
   if (answer != Answer::Ok) return;
@@ -58,7 +57,9 @@ void Renewal::Acknowledge() {
   session_.StockStatus = kStockAcknowledged;
   if (session_.RenewingLevel != 0) {
     main.ProgressBar2.visible = false;
-    main.OptionType(session_.RenewingLevel).enabled = true;
+    // While a puzzle is in play the level cannot be changed; EndPlay gives all five back.
+    const bool in_play = !session_.clock.ClockStopped || session_.RedisplayPending;
+    main.OptionType(session_.RenewingLevel).enabled = !in_play;
     EnableLabels(true);
     session_.RenewingLevel = 0;
   }

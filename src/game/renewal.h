@@ -17,8 +17,8 @@ class Renewal {
   // The session must outlive this object.
   explicit Renewal(Session& session) : session_(session), generator_(session.ports.seeds) {}
 
-  // A click on a level's label: asks, then starts to renew it. The selected level and the one that is being
-  // played cannot be renewed.
+  // A click on a level's label: asks, then starts to renew it. The selected level cannot be renewed; it is
+  // the one in play, if any is.
   void Click(int level);
 
   // Makes and rates one puzzle, and keeps it for File when it has the level that is being renewed.

@@ -29,7 +29,7 @@ Session::Session(const Ports& handed_in) : ports(handed_in) {
 }
 
 void Session::ClearGrid() {
-  forms.main.LabelTijd.caption = texts::Time(0, 0);
+  clock.Reset();
   forms.main.LabelStap.caption = std::to_string(0);
   clock.ClockStopped = true;
   board.ClearGrid();

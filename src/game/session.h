@@ -98,7 +98,6 @@ struct Session {
   std::int16_t StockStatus = kStockNotRead;
   int SelectedLevel = 0;          // 1..5 after start-up
   PerLevel CurrentNumber;         // last number opened, 0: none yet
-  int OpenLevel = 0;              // the level under which the open puzzle is stored; 0: none was opened yet
   int RenewingLevel = 0;          // 0: none
   PerLevel RenewalCount;          // puzzles filed since the level's renewal began, 0..100
   bool RedisplayPending = false;  // the next round lays the chosen puzzle out

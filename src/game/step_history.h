@@ -36,6 +36,8 @@ class StepHistory {
   [[nodiscard]] int StepCount() const { return step_count_; }
   [[nodiscard]] int StepTop() const { return static_cast<int>(steps_.size()); }
   [[nodiscard]] bool Full() const { return step_count_ == kMostSteps; }
+  // How often the history has changed so far: when that number is the same, so is the player's board.
+  [[nodiscard]] std::uint64_t Changes() const { return changes_; }
 
   // Entry 1..StepTop.
   [[nodiscard]] const Step& At(int number) const {
@@ -48,6 +50,7 @@ class StepHistory {
     Require(!Full());
     steps_.resize(static_cast<std::size_t>(step_count_));
     ++step_count_;
+    ++changes_;
     return steps_.emplace_back(Step{.Action = 0, .Cell = static_cast<std::int16_t>(cell)});
   }
 
@@ -55,6 +58,7 @@ class StepHistory {
   const Step& TakeBack() {
     const Step& step = At(step_count_);
     --step_count_;
+    ++changes_;
     return step;
   }
 
@@ -62,17 +66,20 @@ class StepHistory {
   const Step& DoAgain() {
     const Step& step = At(step_count_ + 1);
     ++step_count_;
+    ++changes_;
     return step;
   }
 
   void Clear() {
     steps_.clear();
     step_count_ = 0;
+    ++changes_;
   }
 
  private:
   std::vector<Step> steps_;
   int step_count_ = 0;
+  std::uint64_t changes_ = 0;
 };
 
 }  // namespace kestrel

@@ -9,12 +9,33 @@
 
 namespace kestrel {
 
-int HostClock::SecondsOfDay() {
-  const std::time_t now = std::time(nullptr);
+namespace {
+
+using std::chrono::milliseconds;
+
+// Midnight when the host cannot tell: played time is a difference and stays right.
+milliseconds LocalTimeOfDay() {
+  const auto now = std::chrono::system_clock::now();
+  const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
   std::tm local{};
-  if (localtime_r(&now, &local) == nullptr) return 0;
-  // A leap second reads 60; the day ends at 86399 all the same.
-  return std::min(local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec, 86399);
+  if (localtime_r(&seconds, &local) == nullptr) return milliseconds(0);
+  const auto fraction = std::chrono::duration_cast<milliseconds>(now.time_since_epoch()) % 1000;
+  return std::chrono::seconds(local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec) + fraction;
+}
+
+}  // namespace
+
+HostClock::HostClock() : start_(LocalTimeOfDay()), started_(std::chrono::steady_clock::now()) {
+}
+
+int HostClock::SecondsOfDay() {
+  const auto passed = std::chrono::steady_clock::now() - started_;
+  return SecondAfter(start_, std::chrono::duration_cast<milliseconds>(passed));
+}
+
+int HostClock::SecondAfter(milliseconds start, milliseconds passed) {
+  constexpr std::chrono::hours kDay(24);
+  return static_cast<int>(std::chrono::duration_cast<std::chrono::seconds>((start + passed) % kDay).count());
 }
 
 std::uint64_t ClockSeeds::NextSeed() {

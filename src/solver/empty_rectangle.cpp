@@ -151,7 +151,7 @@ bool TryDirection(SolverState& state, const SolverInput& input, const Attempt& a
       finding.digits = DigitBit(digit);
       AddDigitCells(finding, state, digit, kFirstBox + attempt.box);
       AddCell(finding, x, DigitBit(digit), Role::Link);
-      AddCell(finding, y, DigitBit(digit), Role::Link);
+      AddCell(finding, y, DigitBit(digit));
       finding.units = {NamedUnit(kFirstBox + attempt.box), NamedUnit(pair_line)};
       finding.covers = {NamedUnit(attempt.line[0]), NamedUnit(attempt.line[1])};
       finding.form = direction + 1;

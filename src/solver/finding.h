@@ -84,15 +84,15 @@ struct Removal {
 //  Finned X-Wing: digits d; pattern two corners in the base line, two in the finned line, the Fins; units
 //     base line, finned line; covers the line that loses, the other; form 1 rows, 2 columns.
 //
-//  Unique Rectangle: form 1 (type 1): digits d1, d2; pattern three Floors, the Roof that loses them.
+//  Unique Rectangle: form 1 (type 1): digits d1, d2; pattern three Floors, the Roof (full) that loses them.
 //     Form 2 (type 2): digits d1, d2, x; pattern two Floors, two Roofs. Units the line of the first two.
 //
 //  Avoidable Rectangle: form 1 (one corner open): digits d, e; pattern two corners solved with d, the one
-//     solved with e, the open Roof that loses e. Form 2 (two corners open): digits d, e, f; pattern the
+//     solved with e, the open Roof (full) that loses e. Form 2 (two corners open): digits d, e, f; pattern the
 //     corners solved with d and e, two Roofs; units the line of the solved two.
 //
-//  Empty Rectangle: digits d; pattern d's cells in the box, then two Links: the pair, first the one on the
-//     cross; units the box and the line of the pair; covers the row and the column of the cross; form 1 pair
+//  Empty Rectangle: digits d; pattern d's cells in the box, then the pair: the Link, which is on the cross, and the
+//     far end; units the box and the line of the pair; covers the row and the column of the cross; form 1 pair
 //     met from the row, 2 from the column.
 struct Finding {
   Technique technique = Technique::None;

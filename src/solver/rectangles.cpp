@@ -86,8 +86,9 @@ bool TryType1(SolverState& state, const SolverInput& input, const RectangleCells
       const CandidateMask two = cells.digits;
       DescribeRectangle(
           *input.finding,
-          {{{a, two, Role::Floor}, {b, two, Role::Floor}, {c, two, Role::Floor}, {roof, two, Role::Roof}}},
+          {{{a, two, Role::Floor}, {b, two, Role::Floor}, {c, two, Role::Floor}, {roof, mask, Role::Roof}}},
           NamedUnit(UnitOf(a, kind)), 1);
+      input.finding->digits = two;
     }
     return true;
   }
@@ -158,6 +159,7 @@ bool TryOneOpen(SolverState& state, const SolverInput& input, int c1, int c2) {
   const int solved = state.CellValue(a) != 0 ? a : b;
   const int open = state.CellValue(a) != 0 ? b : a;
   const int e = state.CellValue(solved);
+  const CandidateMask candidates = state.CellMask(open);
   if (!state.RemoveCandidate(e, open)) return false;
   if (input.finding != nullptr) {
     const CandidateMask d = DigitBit(state.CellValue(c1));
@@ -165,7 +167,7 @@ bool TryOneOpen(SolverState& state, const SolverInput& input, int c1, int c2) {
     AddCell(*input.finding, c1, d);
     AddCell(*input.finding, c2, d);
     AddCell(*input.finding, solved, DigitBit(e));
-    AddCell(*input.finding, open, DigitBit(e), Role::Roof);
+    AddCell(*input.finding, open, candidates, Role::Roof);
     input.finding->form = 1;
   }
   return true;

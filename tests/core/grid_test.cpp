@@ -45,8 +45,17 @@ TEST(Random, ClockSeedsNeverRepeat) {
   ClockSeeds seeds;
   std::set<std::uint64_t> seen;
   for (int i = 0; i < 10000; ++i) EXPECT_TRUE(seen.insert(seeds.NextSeed()).second);
-  const int now = HostClock().SecondsOfDay();
-  EXPECT_TRUE(now >= 0 && now <= 86399);
+}
+
+TEST(HostClock, GoesOnFromTheTimeAtItsStart) {
+  using namespace std::chrono_literals;
+  EXPECT_EQ(HostClock::SecondAfter(12h + 500ms, 1499ms), 43201);
+  EXPECT_EQ(HostClock::SecondAfter(23h + 59min + 59s, 1s), 0);
+  EXPECT_EQ(HostClock::SecondAfter(23h + 59min + 50s, 49h), 3590);
+  HostClock clock;
+  const std::time_t now = std::time(nullptr);
+  const int expected = std::localtime(&now)->tm_hour * 3600 + std::localtime(&now)->tm_min * 60;
+  EXPECT_LE((clock.SecondsOfDay() - expected + 86400) % 86400, 61);
 }
 
 }  // namespace

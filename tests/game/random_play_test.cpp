@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Thousands of random events, with what must always hold checked after each of them. Now and then everything
-// is undone and done again.
+// Thousands of random events, many of them inside the yields of hints, rounds, ratings and the generator, with
+// what must always hold checked after each of them. Now and then everything is undone and done again.
 #include <gtest/gtest.h>
 
 #include <deque>
@@ -13,15 +13,16 @@
 #include "core/random_source.h"
 #include "host/host_files.h"
 #include "support/game_home.h"
+#include "support/play_invariants.h"
 #include "ui/script/runner.h"
 
 namespace kestrel::testing {
 namespace {
 
 // The script of a user who does things at random; it is made up line by line, looking at the game.
-class RandomUser : public std::streambuf {
+class RandomUser : public std::streambuf, public Yield {
  public:
-  RandomUser(std::uint64_t seed, int events) : random_(seed), events_(events) {}
+  RandomUser(std::uint64_t seed, int events, bool renews) : random_(seed), events_(events), renews_(renews) {}
 
   void Watch(ScriptRunner& runner, std::ostringstream& output) {
     state_ = &runner.PlayedGame().State();
@@ -29,8 +30,15 @@ class RandomUser : public std::streambuf {
   }
   int RoundTrips() const { return round_trips_; }
 
+  // After what waited for this yield; in long computations not every time.
+  [[nodiscard]] bool KeepGoing() override {
+    if (state_ != nullptr && (++yields_ <= 4 || yields_ % 16 == 0)) CheckInvariants();
+    return true;
+  }
+
  protected:
   int_type underflow() override {
+    yields_ = 0;
     CheckInvariants();
     if (::testing::Test::HasFailure()) return traits_type::eof();
     if (!planned_.empty()) {
@@ -56,21 +64,53 @@ class RandomUser : public std::streambuf {
 
   const MainWindow& Main() const { return state_->forms.main; }
 
-  // The last line that was printed: tells whether a box waits.
-  std::string LastLine() const {
+  // The box that was opened since the last line, if any.
+  std::string OpenBox() const {
     const std::string text = output_->str();
-    const std::size_t start = text.rfind('\n', text.size() - 2);
-    return text.substr(start == std::string::npos ? 0 : start + 1);
+    const std::size_t box = std::max(text.rfind("\nmessage ") + 1, text.rfind("\ninput ") + 1);
+    return box == 0 ? "" : text.substr(box, text.find('\n', box) - box);
   }
 
   std::string NextLine() {
     if (!opened_ || state_->history.StepTop() == 0) opened_ = Now();
-    const std::string last = LastLine();
-    output_->str("-\n-\n");  // so that it stays short, and an old box does not count
+    const std::string box = OpenBox();
+    output_->str("-\n");  // so that it stays short, and an old box does not count
     output_->seekp(0, std::ios::end);
-    if (last.starts_with("message")) return last.ends_with("Yes,No\n") ? "answer No" : "answer OK";
-    if (last.starts_with("input")) return random_.Below(8) == 0 ? "cancel" : "answer " + Number(100, 1);
+    if (box.starts_with("message")) return box.ends_with("Yes,No") ? "answer No" : "answer OK";
+    if (box.starts_with("input")) return random_.Below(8) == 0 ? "cancel" : "answer " + Number(100, 1);
+    if (state_->forms.names.window.open || state_->forms.print.window.open) return "dialog close";
+    if (random_.Below(3) == 0) return PlanClicksInYields();
     if (Main().CommandSolution.enabled && random_.Below(60) == 0) return PlanUndoAndRedo();
+    return Click();
+  }
+
+  // Every control of the main window in turn, in every one of the first yields in turn, or somewhere in the
+  // making of puzzles; then something that yields. A hint looks for a technique on a sound board only.
+  std::string PlanClicksInYields() {
+    const int count = static_cast<int>(controls_.size());
+    const std::string control = "press " + controls_[static_cast<std::size_t>(sweep_ % count)];
+    const bool renewing = state_->RenewingLevel != 0;
+    const bool hint = random_.Below(3) > 0;
+    const std::string yield =
+        "at " + (renewing && !hint ? Number(700, 1) : std::to_string(1 + sweep_ / count % 3)) + " ";
+    ++sweep_;
+    if (hint) planned_.emplace_back([this] { return SoundMove(); });
+    if (random_.Below(2) == 0) planned_.emplace_back([this, yield] { return yield + Click(); });
+    planned_.emplace_back([=] { return yield + control; });
+    planned_.emplace_back([=] { return hint ? "press CommandHint" : "rounds 1"; });
+    return "press CommandRestart";
+  }
+
+  // Puts the right digit into the first empty cell.
+  std::string SoundMove() const {
+    const auto& digits = state_->puzzle.CurrentDigits;
+    const auto cell = std::ranges::find(digits, 0) - digits.begin();
+    const int digit = cell == kCells ? 0 : state_->puzzle.SolutionDigits[cell];
+    if (digit < 1 || digit > 9) return "tick";
+    return "mark " + std::to_string(cell) + " " + std::to_string(digit);
+  }
+
+  std::string Click() {
     const int kind = random_.Below(100);
     if (kind < 50) return MarkLine();
     if (kind < 56) return "row " + Number(9, 0);
@@ -121,40 +161,28 @@ class RandomUser : public std::streambuf {
   }
 
   void CheckInvariants() const {
-    const OpenPuzzle& puzzle = state_->puzzle;
-    for (int cell = 0; cell < kCells; ++cell) {
-      for (int digit = 1; digit <= 9; ++digit) {
-        ASSERT_EQ(Main().Mark(digit)(cell).visible, HasDigit(puzzle.PencilMask[cell], digit)) << cell;
-      }
-      const int digit = puzzle.CurrentDigits[cell];
-      ASSERT_EQ(Main().Grid(cell).caption, digit == 0 ? "" : std::to_string(digit));
-      ASSERT_TRUE(digit == 0 || puzzle.PencilMask[cell] == 0);
-    }
-    const StepHistory& history = state_->history;
-    ASSERT_LE(history.StepCount(), history.StepTop());
-    ASSERT_EQ(Main().LabelStap.caption, std::to_string(history.StepCount()));
-    ASSERT_EQ(Main().Timer1.enabled, !state_->clock.ClockStopped);
-    if (Main().CommandSolution.enabled) {  // in play
-      ASSERT_EQ(Main().CommandUndo.enabled, history.StepCount() > 0);
-      ASSERT_EQ(Main().CommandRestart.enabled, history.StepCount() > 0);
-      ASSERT_EQ(Main().CommandRedo.enabled, history.StepCount() < history.StepTop());
-      ASSERT_FALSE(Main().CommandNew.enabled || Main().OptionType(1).enabled);
-    } else {
-      ASSERT_FALSE(Main().CommandUndo.enabled || Main().CommandRestart.enabled || Main().CommandHint.enabled);
-    }
-    CheckHeaders(Main().LabelRow, state_->SelectedRow);
-    CheckHeaders(Main().LabelColumn, state_->SelectedColumn);
+    const std::string broken = BrokenInvariant(*state_);
+    ASSERT_EQ(broken, "") << "after " << line_;
   }
 
-  template <class Headers>
-  static void CheckHeaders(const Headers& headers, int selected) {
-    for (int index = 0; index < 9; ++index) {
-      ASSERT_EQ(headers(index).fore == kRed, index == selected);
-    }
+  static std::vector<std::string> PressableControls(bool renews) {
+    std::vector<std::string> names;
+    const MainWindow main = MakeMainWindow();
+    EachControl(main, [&](ControlId id, const auto& control) {
+      const bool level = id.name == "RenewLevel" && renews && id.index == 1;  // the others take too long
+      if (level || (control.tab_index >= 0 && id.name != "RenewLevel")) {
+        names.push_back(FullName(id));
+      }
+    });
+    return names;
   }
 
   RandomSource random_;
   int events_;
+  bool renews_;
+  std::vector<std::string> controls_ = PressableControls(renews_);
+  int sweep_ = 0;
+  int yields_ = 0;
   const Session* state_ = nullptr;
   std::ostringstream* output_ = nullptr;
   std::string line_;
@@ -164,16 +192,15 @@ class RandomUser : public std::streambuf {
 };
 
 // Plays `events` random events in `home`; how often everything was undone and done again.
-int PlayAtRandom(GameHome& home, std::uint64_t seed, int events) {
+int PlayAtRandom(GameHome& home, std::uint64_t seed, int events, bool renews) {
   SCOPED_TRACE("seed " + std::to_string(seed));
   SystemCalls calls;
   HostFiles files(calls);
-  NeverStop yield;
-  RandomUser user(seed, events);
+  RandomUser user(seed, events, renews);
   std::istream script(&user);
   std::ostringstream output;
   std::ostringstream errors;
-  ScriptRunner runner(home.options, files, yield, script, output, errors);
+  ScriptRunner runner(home.options, files, user, script, output, errors);
   user.Watch(runner, output);
   EXPECT_EQ(runner.Run(), 0) << errors.str();
   return user.RoundTrips();
@@ -182,7 +209,8 @@ int PlayAtRandom(GameHome& home, std::uint64_t seed, int events) {
 TEST(RandomPlay, KeepsTheBoardAndItsHistoryTrue) {
   for (const std::uint64_t seed : {1, 2, 3, 4}) {
     GameHome home;
-    EXPECT_GT(PlayAtRandom(home, seed, 2500), 5);
+    home.home.Put("settings.ini", "[Options]\nLevel=\"4\"\n");
+    EXPECT_GT(PlayAtRandom(home, seed, 2500, true), 5);
   }
 }
 
@@ -194,7 +222,7 @@ TEST(RandomPlay, SurvivesAStockOfRandomBytes) {
   std::string bytes;
   for (std::size_t i = 0; i < kStockBytes; ++i) bytes += static_cast<char>(random.Below(256));
   home.home.Put("KestrelSudoku/sudstock.kpz", bytes);
-  PlayAtRandom(home, 5, 3000);
+  PlayAtRandom(home, 5, 3000, false);
   EXPECT_EQ(home.StockBytes(), bytes);
 }
 

@@ -3,11 +3,16 @@
 // play.
 #include <gtest/gtest.h>
 
+#include <map>
+#include <sstream>
+
 #include "game/status_bar.h"
 #include "game/step_history.h"
 #include "game/texts.h"
+#include "support/answering_script.h"
 #include "support/game_home.h"
 #include "support/test_stock.h"
+#include "ui/script/runner.h"
 
 namespace kestrel::testing {
 namespace {
@@ -38,21 +43,34 @@ TEST(Game, TakesNoStepBeyondTheLast) {
             "echo full\nStepCount = 32767\nGrid(2).caption = \"\"\nsound 6\nsound 2\nStepCount = 32767\n");
 }
 
-// The end of a renewal gives its level back to choose, even while another is in play: a best time still goes
-// to the puzzle that was solved, and the level in play cannot be renewed.
-TEST(Game, KeepsToTheOpenPuzzleWhenALevelIsChosenMeanwhile) {
+// A script cannot minimise the window behind a dialog, but window managers can, there and back again.
+TEST(Game, HoldsTheClockBehindThePrintDialogWhateverTheWindowDoes) {
   GameHome home;
-  const std::string script = std::string(kAnnPlays) +
-                             "press CommandNew\npress RenewLevel(5)\nanswer OK\nrenew 100000\n"
-                             "press OptionType(5)\npress RenewLevel(2)\nvar RenewingLevel\n"
-                             "clock 12:00:09\ntick\n" +
-                             FillIn(2, 1) + "answer OK\nget StatusBar(4).caption\n";
-  const Played played = home.Play(script);
-  EXPECT_EQ(played.status, 0) << played.errors;
-  EXPECT_TRUE(played.Has("RenewingLevel = 0"));
-  EXPECT_TRUE(played.Has("StatusBar(4).caption = \"Level Best Time: 00:09\""));
-  EXPECT_EQ(home.Stock()(2, 1).BestSeconds, 9);
-  EXPECT_EQ(home.Stock()(2, 1).GivenCells, MakeTestStock()(2, 1).GivenCells);
+  SystemCalls calls;
+  HostFiles files(calls);
+  NeverStop yield;
+  std::ostringstream output, errors;
+  GameLoop* game = nullptr;
+  int line = 0;
+  AnsweringScript lines(
+      "press CommandNew\nclock 12:01:26\ntick\npress CommandPrint\nclock 12:01:34\ntick\n"
+      "clock 12:01:50\ntick\npress Command1\nclock 12:02:00\nget LabelTijd.caption\ntick\nvar "
+      "ElapsedSeconds\n",
+      output, [&] {
+        const std::map<int, WindowState> states = {{7, WindowState::Minimized},
+                                                   {8, WindowState::Normal},
+                                                   {9, WindowState::Minimized},
+                                                   {11, WindowState::Normal}};
+        const auto state = states.find(++line);
+        if (state == states.end()) return;
+        game->Controls().main.window.state = state->second;
+        game->Handle({.form = FormId::Main, .control = {"MainWindow"}, .kind = EventKind::Resize});
+      });
+  std::istream script(&lines);
+  ScriptRunner runner(home.options, files, yield, script, output, errors);
+  game = &runner.PlayedGame();
+  EXPECT_EQ(runner.Run(), 0) << errors.str();
+  EXPECT_TRUE(output.str().ends_with("LabelTijd.caption = \"01:26\"\nElapsedSeconds = 86\n")) << output.str();
 }
 
 // Foreign records: a holder who is no player, negative times, a level that is none.

@@ -58,7 +58,12 @@ class FindingCheck {
     for (const PatternCell& p : f_.pattern) {
       const int value = before_.CellValue(p.cell);
       const CandidateMask there = value != 0 ? DigitBit(value) : before_.CellMask(p.cell);
-      if (p.digits == 0 || (p.digits & ~there) != 0 || (p.digits & ~f_.digits) != 0) return false;
+      // A roof or open corner that loses something itself is there with all it can be.
+      const bool whole = p.role == Role::Roof && f_.form == 1;
+      if (p.digits == 0 || (p.digits & ~there) != 0 ||
+          (whole ? p.digits != there : (p.digits & ~f_.digits) != 0)) {
+        return false;
+      }
     }
     return pattern_.Size() == static_cast<int>(f_.pattern.size()) && !f_.pattern.empty();
   }

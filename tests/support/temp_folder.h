@@ -17,7 +17,7 @@ namespace kestrel {
 class TempFolder {
  public:
   TempFolder() {
-    std::string pattern = testing::TempDir() + "kestrel-test-XXXXXX";
+    std::string pattern = ::testing::TempDir() + "kestrel-test-XXXXXX";
     path_ = mkdtemp(pattern.data());
   }
   ~TempFolder() {

@@ -55,6 +55,7 @@ TEST(Script, EndsAtALineThatIsNoCommand) {
       "release Mark1(0) left 1\nrelease CommandNew left 1 1\nmark 0 10\nmark 81 1\nmark 0 1 both\n"
       "row 9\nselect Naamlijst 0\nselect CommandNew 0\ntype LabelTijd x\nkey NaamInvoerveld tab\n"
       "answer OK\ncancel\nwindow shut\ndialog close\ndialog open\n"
+      "at 1\nat 0 tick\nat x tick\nat 1 at 1 tick\nat 1 answer OK\nat 1 echo\nat 1 renew 1\n"
       "clock 25:00:00\ntick -1\nrounds\nrenew x\nget CommandNew\n"
       "get CommandNew.value\nget Grid(81).caption\nget Naamlijst.line(0)\nvar Nothing\nvar CurrentNumber(6)\n"
       "var PlayerNames(1)\nrecord 0 1\nrecord 1 101\n");

@@ -133,15 +133,7 @@ class MirroredTimer final : public MirroredControl {
   void Sync() override {
     if (timer_.interval() != control_.interval) timer_.setInterval(control_.interval);
     if (control_.enabled == timer_.isActive()) return;
-    if (control_.enabled) {
-      timer_.start();
-      // Till the first tick the clock holds the time of the puzzle before; a pause must not find that.
-      QTimer::singleShot(0, &timer_, [this] {
-        if (timer_.isActive()) Send(EventKind::Timer);
-      });
-    } else {
-      timer_.stop();
-    }
+    control_.enabled ? timer_.start() : timer_.stop();
   }
 
  private:

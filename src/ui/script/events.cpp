@@ -178,4 +178,13 @@ ScriptRunner::LineKind ScriptRunner::Renew(std::string_view rest) {
   return LineKind::Question;
 }
 
+ScriptRunner::LineKind ScriptRunner::At(std::string_view rest) {
+  const CommandLine parts = SplitCommand(rest);
+  const auto yield = ParseNumber<unsigned>(parts.word);
+  const Command* command = FindCommand(SplitCommand(parts.rest).word);
+  if (!yield || *yield == 0 || command == nullptr || !command->keepable) return Fail(BadArguments(rest));
+  kept_lines_.Keep(*yield, parts.rest, line_number_);
+  return LineKind::Kept;
+}
+
 }  // namespace kestrel

@@ -32,7 +32,9 @@ ScriptRunner::ScriptRunner(const ScriptOptions& options, Files& files, Yield& yi
       help_(transcript_),
       shell_(options.browser, true, transcript_),
       printer_(options.printer, transcript_),
-      game_({program_, folders_, files_, settings_, clock_, seeds_, yield, desk_, desk_, sound_, help_,
+      kept_lines_(yield, transcript_,
+                  [this](const std::string& line, int number) { return CarryOut(line, number); }),
+      game_({program_, folders_, files_, settings_, clock_, seeds_, kept_lines_, desk_, desk_, sound_, help_,
              shell_, printer_}),
       user_(game_, desk_) {
   clock_.Set(options.time);
@@ -44,25 +46,34 @@ int ScriptRunner::Run() {
   RunRounds();
   std::string line;
   while (!failed_ && game_.End() == EndReason::None && ReadLine(line)) {
-    if (Execute(line) == LineKind::Event) RunRounds();
+    const LineKind kind = Execute(line);
+    if (kind == LineKind::Event) RunRounds();
+    if (kind == LineKind::Event || kind == LineKind::Question) kept_lines_.EndLine(depth_ + 1);
   }
   if (failed_) return kStatusUsage;
+  kept_lines_.EndLine(0);
   const EndReason end = game_.End();
   if (end == EndReason::Quit || end == EndReason::Fatal) transcript_.Line("ended");
   return end == EndReason::Fatal ? kStatusFatal : kStatusGood;
 }
 
-// Inside a box or dialog the main loop stands still: no rounds.
+// Inside a box or dialog the main loop stands still: no rounds. What follows when a line has closed the box
+// is its work still: it ends when the next one is read.
 bool ScriptRunner::NextAction() {
   std::string line;
-  if (failed_ || !ReadLine(line)) return false;
-  return Execute(line) != LineKind::Error;
+  LineKind kind = LineKind::Kept;
+  while (kind == LineKind::Kept) {
+    kept_lines_.EndLine(depth_ + 1);
+    if (failed_ || !ReadLine(line)) return false;
+    kind = Execute(line);
+  }
+  return kind != LineKind::Error;
 }
 
 // Passes blank lines and comments over. False at the end of the script.
 bool ScriptRunner::ReadLine(std::string& line) {
   while (std::getline(script_, line)) {
-    ++line_number_;
+    line_number_ = ++lines_read_;
     if (line.ends_with('\r')) line.pop_back();
     line.erase(0, std::min(line.find_first_not_of(" \t"), line.size()));
     if (!line.empty() && line[0] != '#') return true;
@@ -79,40 +90,59 @@ void ScriptRunner::FinishWork() {
   while (game_.WorkLeft()) (void)game_.Round();
 }
 
-ScriptRunner::LineKind ScriptRunner::Execute(std::string_view line) {
+const ScriptRunner::Command* ScriptRunner::FindCommand(std::string_view word) const {
   using Runner = ScriptRunner;
-  static constexpr std::array<Command, 28> kCommands{{{"press", &Runner::Press},
-                                                      {"release", &Runner::Release},
-                                                      {"mark", &Runner::Mark},
-                                                      {"row", &Runner::Row},
-                                                      {"column", &Runner::Column},
-                                                      {"select", &Runner::Select},
-                                                      {"doubleclick", &Runner::DoubleClick},
-                                                      {"type", &Runner::Type},
-                                                      {"clear", &Runner::Clear},
-                                                      {"key", &Runner::PressKey},
-                                                      {"leave", &Runner::Leave},
-                                                      {"answer", &Runner::Answer},
-                                                      {"cancel", &Runner::Cancel},
-                                                      {"window", &Runner::MainWindowState},
-                                                      {"dialog", &Runner::Dialog},
-                                                      {"clock", &Runner::SetClock},
-                                                      {"tick", &Runner::Tick},
-                                                      {"rounds", &Runner::Rounds},
-                                                      {"renew", &Runner::Renew},
-                                                      {"get", &Runner::Get},
-                                                      {"var", &Runner::Var},
-                                                      {"board", &Runner::Board},
-                                                      {"givens", &Runner::Givens},
-                                                      {"solution", &Runner::Solution},
-                                                      {"pencil", &Runner::Pencil},
-                                                      {"steps", &Runner::Steps},
-                                                      {"record", &Runner::Record},
-                                                      {"echo", &Runner::Echo}}};
+  static constexpr std::array kCommands = std::to_array<Command>({{"press", &Runner::Press, true},
+                                                                  {"release", &Runner::Release, true},
+                                                                  {"mark", &Runner::Mark, true},
+                                                                  {"row", &Runner::Row, true},
+                                                                  {"column", &Runner::Column, true},
+                                                                  {"select", &Runner::Select, true},
+                                                                  {"doubleclick", &Runner::DoubleClick, true},
+                                                                  {"type", &Runner::Type, true},
+                                                                  {"clear", &Runner::Clear, true},
+                                                                  {"key", &Runner::PressKey, true},
+                                                                  {"leave", &Runner::Leave, true},
+                                                                  {"answer", &Runner::Answer},
+                                                                  {"cancel", &Runner::Cancel},
+                                                                  {"window", &Runner::MainWindowState, true},
+                                                                  {"dialog", &Runner::Dialog, true},
+                                                                  {"clock", &Runner::SetClock, true},
+                                                                  {"tick", &Runner::Tick, true},
+                                                                  {"rounds", &Runner::Rounds},
+                                                                  {"renew", &Runner::Renew},
+                                                                  {"at", &Runner::At},
+                                                                  {"get", &Runner::Get},
+                                                                  {"var", &Runner::Var},
+                                                                  {"board", &Runner::Board},
+                                                                  {"givens", &Runner::Givens},
+                                                                  {"solution", &Runner::Solution},
+                                                                  {"pencil", &Runner::Pencil},
+                                                                  {"steps", &Runner::Steps},
+                                                                  {"record", &Runner::Record},
+                                                                  {"echo", &Runner::Echo}});
+  const auto command = std::ranges::find(kCommands, word, &Command::word);
+  return command == kCommands.end() ? nullptr : &*command;
+}
+
+ScriptRunner::LineKind ScriptRunner::Execute(std::string_view line) {
   const CommandLine parts = SplitCommand(line);
-  const auto command = std::ranges::find(kCommands, parts.word, &Command::word);
-  if (command == kCommands.end()) return Fail(std::string(texts::kNoCommand) + std::string(parts.word));
-  return (this->*command->handler)(parts.rest);
+  const Command* command = FindCommand(parts.word);
+  if (command == nullptr) return Fail(std::string(texts::kNoCommand) + std::string(parts.word));
+  if (command->handler == &ScriptRunner::At) return At(parts.rest);
+  kept_lines_.BeginLine(++depth_);
+  const LineKind kind = (this->*command->handler)(parts.rest);
+  --depth_;
+  return kind;
+}
+
+// Inside a yield of the line that is being worked off: neither a line of its own nor a round.
+bool ScriptRunner::CarryOut(const std::string& line, int line_number) {
+  line_number_ = line_number;
+  const CommandLine parts = SplitCommand(line);
+  (void)(this->*FindCommand(parts.word)->handler)(parts.rest);
+  line_number_ = lines_read_;
+  return !failed_;
 }
 
 ScriptRunner::LineKind ScriptRunner::Fail(const std::string& reason) {

@@ -17,6 +17,7 @@
 #include "ui/memory/recording_ports.h"
 #include "ui/memory/user.h"
 #include "ui/script/command_line.h"
+#include "ui/script/kept_lines.h"
 
 namespace kestrel {
 
@@ -52,19 +53,23 @@ class ScriptRunner final : private InputSource {
   enum class LineKind : std::uint8_t {
     Question,  // runs no round
     Event,     // runs a round, and what is left to do after it
+    Kept,      // will be carried out inside a later line
     Error      // ends the script
   };
   using Handler = LineKind (ScriptRunner::*)(std::string_view rest);
   struct Command {
     std::string_view word;
     Handler handler;
+    bool keepable = false;  // a click or the like, which "at" can keep
   };
 
   // While the game waits in a box or dialog.
   [[nodiscard]] bool NextAction() override;
 
   bool ReadLine(std::string& line);
+  const Command* FindCommand(std::string_view word) const;
   LineKind Execute(std::string_view line);
+  bool CarryOut(const std::string& line, int line_number);
   LineKind Fail(const std::string& reason);
   LineKind Report(std::string_view name, Reach reach);
   void RunRounds();
@@ -90,6 +95,7 @@ class ScriptRunner final : private InputSource {
   LineKind Tick(std::string_view rest);
   LineKind Rounds(std::string_view rest);
   LineKind Renew(std::string_view rest);
+  LineKind At(std::string_view rest);
 
   // Questions
   LineKind Get(std::string_view rest);
@@ -108,7 +114,9 @@ class ScriptRunner final : private InputSource {
   std::istream& script_;
   std::ostream& errors_;
   StreamTranscript transcript_;
-  int line_number_ = 0;
+  int lines_read_ = 0;
+  int line_number_ = 0;  // of the line that is being worked off
+  int depth_ = 0;        // lines that are being worked off, one inside the other
   bool failed_ = false;
 
   ProgramPlace program_;
@@ -123,6 +131,7 @@ class ScriptRunner final : private InputSource {
   MemoryHelp help_;
   MemoryShell shell_;
   MemoryPrinter printer_;
+  KeptLines kept_lines_;
   Game game_;
   User user_;
 };

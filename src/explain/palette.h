@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// The colours of the pictures. A picture is drawn in one palette and carries plain colour values: the help window's
+// renderer knows no style sheets.
+#pragma once
+
+namespace kestrel {
+
+struct Palette {
+  const char* paper;        // background of the picture
+  const char* ink;          // box lines, headers
+  const char* thin;         // cell lines
+  const char* mark;         // candidates
+  const char* given;        // digits of the puzzle
+  const char* digit;        // digits found since
+  const char* cause;        // signs of the pattern
+  const char* on_cause;     // digits on them
+  const char* gone;         // signs of what is removed
+  const char* gone_ground;  // background of those
+  const char* unit_wash;    // lines and boxes in which the pattern lies
+  const char* lose_wash;    // lines, boxes and cells that lose candidates
+};
+
+inline constexpr Palette kLightPalette{"#ffffff", "#20262d", "#9aa3ad", "#4a4f57", "#0000a0", "#000000",
+                                       "#1a56a8", "#ffffff", "#b3261e", "#fdeceb", "#e3edfa", "#fbf1d9"};
+inline constexpr Palette kDarkPalette{"#1e2227", "#e4e7eb", "#59626d", "#b6bec8", "#93bbff", "#f3f5f7",
+                                      "#7db1f7", "#10151b", "#ff9087", "#4b2624", "#25374f", "#483d20"};
+
+}  // namespace kestrel
