@@ -1,22 +1,29 @@
 // SPDX-License-Identifier: MIT
 // kestrel-sudoku-script: plays the game by a script.
 #include <cerrno>
-#include <csignal>
 #include <fstream>
 #include <iostream>
-#include <span>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "core/yield.h"
 #include "host/host_files.h"
 #include "host/program_folder.h"
+#include "host/standard_streams.h"
 #include "ui/script/command_line.h"
 #include "ui/script/runner.h"
 
 namespace {
 
 using namespace kestrel;
+
+constexpr const char* kProgram = "kestrel-sudoku-script";
+
+// The status, unless the transcript could not be written.
+int Finish(int status) {
+  return FinishOutput(kProgram) ? status : kStatusUsage;
+}
 
 int Play(const ScriptCommand& command) {
   std::ifstream file;
@@ -37,22 +44,21 @@ int Play(const ScriptCommand& command) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::signal(SIGPIPE, SIG_IGN);
-  std::signal(SIGXFSZ, SIG_IGN);
-  const std::span<const char* const> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+  PrepareStandardStreams();
+  const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
   std::string error;
-  const auto command = ParseScriptArguments(arguments, ProgramFolder(), error);
+  const auto command = ParseScriptArguments(words, ProgramFolder(), error);
   if (!command) {
-    std::cerr << "kestrel-sudoku-script: " << error << '\n';
+    std::cerr << kProgram << ": " << error << '\n';
     return kStatusUsage;
   }
   if (command->help) {
-    std::cout << ScriptHelp();
-    return kStatusGood;
+    PrintHelp(std::cout, kProgram, kScriptSpec);
+    return Finish(kStatusGood);
   }
   if (command->version) {
-    std::cout << "kestrel-sudoku-script " KESTREL_VERSION "\n";
-    return kStatusGood;
+    std::cout << kProgram << " " KESTREL_VERSION "\n";
+    return Finish(kStatusGood);
   }
-  return Play(*command);
+  return Finish(Play(*command));
 }

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
 // kestrel-sudoku: the game in its window.
-#include <csignal>
 #include <cstdlib>
 #include <iostream>
-#include <span>
 #include <string>
+#include <vector>
 
 #include "host/command_line.h"
 #include "host/program_folder.h"
+#include "host/standard_streams.h"
 #include "ui/qt/game_application.h"
 
 namespace {
 
 using namespace kestrel;
+
+constexpr const char* kProgram = "kestrel-sudoku";
 
 // Keeps the platform's own messages off the terminal; what matters to the player comes in boxes.
 void DropMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
@@ -35,19 +37,18 @@ int Complain(const std::string& what) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::signal(SIGPIPE, SIG_IGN);
-  std::signal(SIGXFSZ, SIG_IGN);
-  const std::span<const char* const> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+  PrepareStandardStreams();
+  const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
   std::string error;
-  const auto options = ParseGameArguments(arguments, error);
+  const auto options = ParseGameArguments(words, error);
   if (!options) return Complain(error);
   if (options->help) {
-    std::cout << GameHelp();
-    return 0;
+    PrintHelp(std::cout, kProgram, kGameSpec);
+    return FinishOutput(kProgram) ? 0 : kExitUsage;
   }
   if (options->version) {
-    std::cout << "kestrel-sudoku " KESTREL_VERSION "\n";
-    return 0;
+    std::cout << kProgram << " " KESTREL_VERSION "\n";
+    return FinishOutput(kProgram) ? 0 : kExitUsage;
   }
   if (!options->screenshot.empty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

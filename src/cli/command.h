@@ -5,13 +5,22 @@
 #include <cstdint>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "cli/arguments.h"
 #include "core/files.h"
 #include "core/random_source.h"
+#include "host/arguments.h"
 
 namespace kestrel {
+
+inline constexpr std::string_view kProgramName = "kestrel-sudoku-cli";
+
+enum class ExitStatus : int {
+  kGood = 0,
+  kBadInput = 1,  // some input was bad, or a check failed
+  kFailure = 2,   // usage, or a file that could not be read or written
+};
 
 // The world as a command sees it.
 struct CliPorts {

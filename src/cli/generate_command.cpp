@@ -29,10 +29,13 @@ std::string PuzzleText(const RatedPuzzle& puzzle, bool json) {
     return GridText(puzzle.givens) + '\t' + GridText(puzzle.solution) + '\t' + std::to_string(puzzle.level) +
            '\t' + std::to_string(puzzle.score) + '\n';
   }
-  JsonObject object = JsonLine();
-  object.Add("puzzle", GridText(puzzle.givens)).Add("solution", GridText(puzzle.solution));
-  object.Add("level", puzzle.level).Add("score", puzzle.score);
-  return object.AddRaw("counts", CountsJson(CountsBySlot(puzzle.counters))).Text() + '\n';
+  Json object = JsonLine();
+  object["puzzle"] = GridText(puzzle.givens);
+  object["solution"] = GridText(puzzle.solution);
+  object["level"] = puzzle.level;
+  object["score"] = puzzle.score;
+  object["counts"] = CountsJson(CountsBySlot(puzzle.counters));
+  return JsonText(object);
 }
 
 }  // namespace
@@ -45,7 +48,9 @@ const CommandSpec kGenerateSpec{
     "Writes puzzle, solution, level and score, tab separated. The same seed gives the\n"
     "same puzzles on every machine and with every number of jobs; without a seed the\n"
     "one drawn is told on standard error.",
-    kGenerateOptions};
+    kGenerateOptions,
+    "generate --count 10 --level 3\n"
+    "generate --count 1000 --seed 1 --format json"};
 
 ExitStatus GenerateCommand(Arguments& arguments, CliPorts& ports) {
   MakeRun run;

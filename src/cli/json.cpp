@@ -3,24 +3,12 @@
 
 namespace kestrel {
 
-JsonObject& JsonObject::AddRaw(std::string_view name, std::string_view json) {
-  if (!members_.empty()) members_ += ',';
-  members_ += JsonString(name);
-  members_ += ':';
-  members_ += json;
-  return *this;
+Json JsonLine() {
+  return {{"schema", kJsonSchema}};
 }
 
-JsonObject JsonLine() {
-  JsonObject object;
-  object.Add("schema", kJsonSchema);
-  return object;
-}
-
-JsonArray& JsonArray::AddRaw(std::string_view json) {
-  if (!values_.empty()) values_ += ',';
-  values_ += json;
-  return *this;
+std::string JsonText(const Json& value) {
+  return value.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
 }
 
 }  // namespace kestrel

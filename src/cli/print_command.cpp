@@ -46,7 +46,9 @@ const CommandSpec kPrintSpec{
     "The same stock and options give the same file, byte by byte. Without --stock the\n"
     "stock that the game plays from is used or, before the game has made one, the stock\n"
     "that came with the program.",
-    kPrintOptions};
+    kPrintOptions,
+    "print --level 3 --output medium.pdf\n"
+    "print --per-page 4 --pages 2 --no-solutions --output four.pdf"};
 
 ExitStatus PrintCommand(Arguments& arguments, CliPorts& ports) {
   const PrintSettings settings = SettingsOf(arguments);

@@ -35,10 +35,11 @@ void ReportBadLine(const InputLine& line, bool json, BundleResult& result) {
       whole_file ? std::string(kProgramName) + ": " + line.file : line.file + ":" + std::to_string(line.line);
   result.err += ": " + line.error + "\n";
   if (!json) return;
-  JsonObject object = JsonLine();
-  object.Add("file", line.file);
-  if (!whole_file) object.Add("line", static_cast<std::int64_t>(line.line));
-  result.out += object.Add("error", line.error).Text() + "\n";
+  Json object = JsonLine();
+  object["file"] = line.file;
+  if (!whole_file) object["line"] = line.line;
+  object["error"] = line.error;
+  result.out += JsonText(object);
 }
 
 }  // namespace

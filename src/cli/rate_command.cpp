@@ -36,14 +36,14 @@ std::string RateTsv(const DigitGrid& givens, const Rating& rating, int solutions
 }
 
 std::string RateJson(const DigitGrid& givens, const Rating& rating, int solutions) {
-  JsonObject object = JsonLine();
-  object.Add("puzzle", GridText(givens))
-      .Add("level", rating.level)
-      .Add("score", rating.Score())
-      .AddRaw("counts", CountsJson(CountsBySlot(rating.counters)))
-      .Add("grid", GridText(SolvedGrid(rating.state)));
-  if (solutions >= 0) object.Add("solutions", solutions);
-  return object.Text() + '\n';
+  Json object = JsonLine();
+  object["puzzle"] = GridText(givens);
+  object["level"] = rating.level;
+  object["score"] = rating.Score();
+  object["counts"] = CountsJson(CountsBySlot(rating.counters));
+  object["grid"] = GridText(SolvedGrid(rating.state));
+  if (solutions >= 0) object["solutions"] = solutions;
+  return JsonText(object);
 }
 
 }  // namespace
@@ -59,7 +59,9 @@ const CommandSpec kRateSpec{
     "Writes a header line and one line a puzzle, tab separated: puzzle, level (1 to 5;\n"
     "6 when the 22 techniques are not enough), score (0 at level 6), the 22 counts,\n"
     "and the grid as far as it was solved.",
-    kRateOptions};
+    kRateOptions,
+    "rate puzzles.txt\n"
+    "rate --format json --solutions puzzles.txt"};
 
 ExitStatus RateCommand(Arguments& arguments, CliPorts& ports) {
   PuzzleRun run;

@@ -3,8 +3,6 @@
 
 #include <cstdint>
 
-#include "cli/json.h"
-
 namespace kestrel {
 
 std::string CountsHeader() {
@@ -25,10 +23,13 @@ std::string CountsTsv(const SlotCounts& counts) {
   return text;
 }
 
-std::string CountsJson(const SlotCounts& counts) {
-  JsonObject object;
-  for (int slot = 0; slot < kTechniques; ++slot) object.Add(kTechniqueTable[slot].abbreviation, counts[slot]);
-  return object.Text();
+Json CountsJson(const SlotCounts& counts) {
+  Json::object_t object;
+  object.reserve(kTechniques);
+  for (int slot = 0; slot < kTechniques; ++slot) {
+    object.emplace_back(kTechniqueTable[slot].abbreviation, counts[slot]);
+  }
+  return object;
 }
 
 DigitGrid SolvedGrid(const SolverState& state) {

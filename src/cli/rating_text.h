@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "cli/json.h"
 #include "core/grid.h"
 #include "core/stock_table.h"
 #include "solver/solver_state.h"
@@ -15,7 +16,7 @@ namespace kestrel {
 std::string CountsHeader();
 std::string CountsTsv(const SlotCounts& counts);
 // {"HS":41,"NS":3,...}
-std::string CountsJson(const SlotCounts& counts);
+Json CountsJson(const SlotCounts& counts);
 
 // The digits of a solver state, 0 for an unsolved cell.
 DigitGrid SolvedGrid(const SolverState& state);

@@ -38,7 +38,7 @@ void PrintProgramHelp(std::ostream& out, std::string_view prefix) {
         << command.spec->summary << '\n';
   }
   out << "\nOptions:\n"
-         "  --help            show this text and end; after a command: the help of that command\n"
+         "  -h, --help        show this text and end; after a command: the help of that command\n"
          "  --version         show the version and end\n\n"
          "Exit status: 0 all good, 1 some input was bad or a check failed, 2 usage or file error.\n";
 }
@@ -50,20 +50,24 @@ ExitStatus UsageError(CliPorts& ports, const std::string& text, std::string_view
 }
 
 ExitStatus RunCommand(const Command& command, std::span<const std::string> words, CliPorts& ports) {
-  const auto end_of_options = std::ranges::find(words, "--");
-  if (std::find(words.begin(), end_of_options, "--help") != end_of_options) {
-    PrintCommandHelp(ports.out, *command.spec);
+  Arguments arguments(*command.spec, words);
+  if (arguments.HelpWanted()) {
+    PrintHelp(ports.out, kProgramName, *command.spec);
     return ExitStatus::kGood;
   }
-  Arguments arguments(*command.spec, words);
   const ExitStatus status = command.run(arguments, ports);
   if (arguments.Error().empty()) return status;
   return UsageError(ports, std::string(command.spec->name) + ": " + arguments.Error(), command.spec->name);
 }
 
+// Whether a word asks for the help of the program or of a group of commands.
+bool AsksForHelp(std::string_view word) {
+  return word == "--help" || word == "-h" || word == "help";
+}
+
 ExitStatus Dispatch(std::span<const std::string> words, CliPorts& ports) {
   if (words.empty()) return UsageError(ports, "no command given", "");
-  if (words[0] == "--help" || words[0] == "help") {
+  if (AsksForHelp(words[0])) {
     PrintProgramHelp(ports.out, "");
     return ExitStatus::kGood;
   }
@@ -75,7 +79,7 @@ ExitStatus Dispatch(std::span<const std::string> words, CliPorts& ports) {
   std::size_t used = 1;
   if (name == kStockWord) {
     if (words.size() == 1) return UsageError(ports, "stock: no command given", "stock");
-    if (words[1] == "--help") {
+    if (AsksForHelp(words[1])) {
       PrintProgramHelp(ports.out, kStockWord);
       return ExitStatus::kGood;
     }

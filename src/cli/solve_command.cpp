@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "cli/command.h"
 #include "cli/json.h"
@@ -26,10 +27,10 @@ constexpr std::array<OptionSpec, 4> kSolveOptions{{
 
 enum class Detail { kGrid, kSteps, kTrace };
 
-JsonArray DigitsJson(CandidateMask digits) {
-  JsonArray array;
+Json DigitsJson(CandidateMask digits) {
+  Json array = Json::array();
   for (int digit = 1; digit <= 9; ++digit) {
-    if (HasDigit(digits, digit)) array.Add(digit);
+    if (HasDigit(digits, digit)) array.push_back(digit);
   }
   return array;
 }
@@ -39,44 +40,40 @@ std::string_view RoleName(Role role) {
   return kNames[static_cast<std::size_t>(role)];
 }
 
-JsonArray UnitsJson(const std::vector<Unit>& units) {
-  JsonArray array;
-  for (const Unit& unit : units) array.Add(UnitName(unit));
+Json UnitsJson(const std::vector<Unit>& units) {
+  Json array = Json::array();
+  for (const Unit& unit : units) array.push_back(UnitName(unit));
   return array;
 }
 
-JsonObject CellJson(int cell, CandidateMask digits) {
-  JsonObject object;
-  object.Add("cell", CellName(cell)).AddRaw("digits", DigitsJson(digits).Text());
-  return object;
+Json CellJson(int cell, CandidateMask digits) {
+  return {{"cell", CellName(cell)}, {"digits", DigitsJson(digits)}};
 }
 
-std::string StepJson(int number, const Finding& finding) {
-  JsonArray pattern;
+Json StepJson(int number, const Finding& finding) {
+  Json pattern = Json::array();
   for (const PatternCell& cell : finding.pattern) {
-    pattern.AddRaw(CellJson(cell.cell, cell.digits).Add("role", RoleName(cell.role)).Text());
+    Json& added = pattern.emplace_back(CellJson(cell.cell, cell.digits));
+    added["role"] = RoleName(cell.role);
   }
-  JsonObject object;
-  object.Add("number", number)
-      .Add("step", StepOf(finding.technique))
-      .Add("technique", RowOf(finding.technique).caption)
-      .Add("form", finding.form)
-      .AddRaw("digits", DigitsJson(finding.digits).Text())
-      .AddRaw("pattern", pattern.Text())
-      .AddRaw("units", UnitsJson(finding.units).Text())
-      .AddRaw("covers", UnitsJson(finding.covers).Text());
+  Json object{{"number", number},
+              {"step", StepOf(finding.technique)},
+              {"technique", RowOf(finding.technique).caption},
+              {"form", finding.form},
+              {"digits", DigitsJson(finding.digits)},
+              {"pattern", std::move(pattern)},
+              {"units", UnitsJson(finding.units)},
+              {"covers", UnitsJson(finding.covers)}};
   if (finding.placed_cell >= 0) {
-    JsonObject place;
-    place.Add("cell", CellName(finding.placed_cell)).Add("digit", finding.placed_digit);
-    object.AddRaw("place", place.Text());
+    object["place"] = {{"cell", CellName(finding.placed_cell)}, {"digit", finding.placed_digit}};
   } else {
-    JsonArray removals;
+    Json& removals = object["remove"] = Json::array();
     for (const Removal& removal : finding.removals) {
-      removals.AddRaw(CellJson(removal.cell, removal.digits).Text());
+      removals.push_back(CellJson(removal.cell, removal.digits));
     }
-    object.AddRaw("remove", removals.Text());
   }
-  return object.Add("text", StepSentence(finding)).Text();
+  object["text"] = StepSentence(finding);
+  return object;
 }
 
 // Collects the steps of one puzzle in the form that is wanted.
@@ -87,18 +84,18 @@ class StepWriter final : public StepObserver {
   void OnStep(const Finding& finding, const SolverState& /*after*/) override {
     ++count_;
     if (detail_ == Detail::kTrace && json_) {
-      array_.Add(StepOf(finding.technique));
+      steps_.push_back(StepOf(finding.technique));
     } else if (detail_ == Detail::kTrace) {
       text_ += (count_ == 1 ? "" : " ") + std::to_string(StepOf(finding.technique));
     } else if (json_) {
-      array_.AddRaw(StepJson(count_, finding));
+      steps_.push_back(StepJson(count_, finding));
     } else {
       text_ += std::to_string(count_) + ". " + StepSentence(finding) + '\n';
     }
   }
 
   const std::string& Text() const { return text_; }
-  std::string Json() const { return array_.Text(); }
+  const Json& Steps() const { return steps_; }
   int Count() const { return count_; }
 
  private:
@@ -106,15 +103,18 @@ class StepWriter final : public StepObserver {
   bool json_;
   int count_ = 0;
   std::string text_;
-  JsonArray array_;
+  Json steps_ = Json::array();
 };
 
 std::string SolveJson(const DigitGrid& givens, const Rating& rating, Detail detail, const StepWriter& steps) {
-  JsonObject object = JsonLine();
-  object.Add("puzzle", GridText(givens)).Add("level", rating.level).Add("score", rating.Score());
-  if (detail == Detail::kSteps) object.AddRaw("steps", steps.Json());
-  if (detail == Detail::kTrace) object.AddRaw("trace", steps.Json());
-  return object.Add("grid", GridText(SolvedGrid(rating.state))).Text() + '\n';
+  Json object = JsonLine();
+  object["puzzle"] = GridText(givens);
+  object["level"] = rating.level;
+  object["score"] = rating.Score();
+  if (detail == Detail::kSteps) object["steps"] = steps.Steps();
+  if (detail == Detail::kTrace) object["trace"] = steps.Steps();
+  object["grid"] = GridText(SolvedGrid(rating.state));
+  return JsonText(object);
 }
 
 // A block of lines: the puzzle, its steps, how it ended, and a blank line.
@@ -153,7 +153,9 @@ const CommandSpec kSolveSpec{
     "technique, the cells and digits of the pattern, and what is placed or removed.\n"
     "Rows are called A to H and J, columns 1 to 9: C7 is in the third row.\n"
     "With --trace one line a puzzle: the numbers of the techniques, in order.",
-    kSolveOptions};
+    kSolveOptions,
+    "solve puzzles.txt\n"
+    "solve --steps puzzles.txt"};
 
 ExitStatus SolveCommand(Arguments& arguments, CliPorts& ports) {
   constexpr std::array<std::string_view, 2> kFormats{"text", "json"};

@@ -41,12 +41,16 @@ std::string BestTimeText(const SudokuRecord& record) {
   return std::to_string(record.BestMinutes) + (seconds.size() < 2 ? ":0" : ":") + seconds;
 }
 
-JsonObject RecordJson(int level, int number, const SudokuRecord& record) {
-  JsonObject object = JsonLine();
-  object.Add("level", level).Add("number", number).Add("score", record.Score);
-  object.Add("givens", GivenCount(record));
-  object.Add("best_seconds", 60 * record.BestMinutes + record.BestSeconds);
-  return object.Add("best_player", record.BestPlayer);
+Json RecordJson(int level, int number, const SudokuRecord& record) {
+  Json object = JsonLine();
+  object["level"] = level;
+  object["number"] = number;
+  object["score"] = record.Score;
+  object["givens"] = GivenCount(record);
+  object["best_seconds"] = 60 * record.BestMinutes + record.BestSeconds;
+  object["best_player"] = record.BestPlayer;
+  object["counts"] = CountsJson(record.TechniqueCount);
+  return object;
 }
 
 std::string ListLine(int level, int number, const SudokuRecord& record) {
@@ -56,7 +60,7 @@ std::string ListLine(int level, int number, const SudokuRecord& record) {
 }
 
 std::string ListJson(int level, int number, const SudokuRecord& record) {
-  return RecordJson(level, number, record).AddRaw("counts", CountsJson(record.TechniqueCount)).Text() + '\n';
+  return JsonText(RecordJson(level, number, record));
 }
 
 std::string ExportLine(int level, int number, const SudokuRecord& record) {
@@ -65,12 +69,10 @@ std::string ExportLine(int level, int number, const SudokuRecord& record) {
 }
 
 std::string ExportJson(int level, int number, const SudokuRecord& record) {
-  return RecordJson(level, number, record)
-             .AddRaw("counts", CountsJson(record.TechniqueCount))
-             .Add("puzzle", RecordGrid(record.GivenCells))
-             .Add("solution", RecordGrid(record.SolutionCells))
-             .Text() +
-         '\n';
+  Json object = RecordJson(level, number, record);
+  object["puzzle"] = RecordGrid(record.GivenCells);
+  object["solution"] = RecordGrid(record.SolutionCells);
+  return JsonText(object);
 }
 
 using RecordWriter = std::string (*)(int level, int number, const SudokuRecord& record);
@@ -104,7 +106,9 @@ const CommandSpec kStockVerifySpec{
     "when there is a fault.\n"
     "Without FILE the stock that the game plays from is checked or, before the game has\n"
     "made one, the stock that came with the program.",
-    kVerifyOptions};
+    kVerifyOptions,
+    "stock verify\n"
+    "stock verify my.kpz"};
 
 const CommandSpec kStockListSpec{
     "stock list",
@@ -114,7 +118,9 @@ const CommandSpec kStockListSpec{
     "Writes a header line and one line a puzzle, tab separated: level, number, score,\n"
     "number of givens, best time and the number of the player who set it (0 nobody), and\n"
     "the 22 technique counts. Without FILE as for 'stock verify'.",
-    kListOptions};
+    kListOptions,
+    "stock list --level 5\n"
+    "stock list --format json my.kpz"};
 
 const CommandSpec kStockExportSpec{
     "stock export",
@@ -123,7 +129,9 @@ const CommandSpec kStockExportSpec{
     "Write the puzzles of a stock as text",
     "Writes one line a puzzle, tab separated: puzzle, solution, level, number, score.\n"
     "'rate' and 'solve' read such lines. Without FILE as for 'stock verify'.",
-    kExportOptions};
+    kExportOptions,
+    "stock export --level 3\n"
+    "stock export --format json my.kpz"};
 
 ExitStatus StockVerifyCommand(Arguments& arguments, CliPorts& ports) {
   const int jobs = JobsOf(arguments);

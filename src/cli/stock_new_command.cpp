@@ -78,7 +78,9 @@ const CommandSpec kStockNewSpec{
     "their scores are spread over all that occur and every technique is needed by some.\n"
     "The same seed and pool give the same stock. FILE is written at the very end, in one\n"
     "piece: when the command is interrupted, it is as it was.",
-    kNewOptions};
+    kNewOptions,
+    "stock new my.kpz\n"
+    "stock new --seed 1 --pool 20000 small.kpz"};
 
 ExitStatus StockNewCommand(Arguments& arguments, CliPorts& ports) {
   MakeRun run;

@@ -56,7 +56,9 @@ const CommandSpec kStockRenewSpec{
     "piece: when the command is interrupted, it is as it was. Close the game first: one\n"
     "that is running goes on with the old puzzles and does not keep times for them.\n"
     "Without FILE the stock that the game plays from is renewed.",
-    kRenewOptions};
+    kRenewOptions,
+    "stock renew --level 5\n"
+    "stock renew --level 1 --seed 7 my.kpz"};
 
 ExitStatus StockRenewCommand(Arguments& arguments, CliPorts& ports) {
   MakeRun run;

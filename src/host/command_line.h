@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/arguments.h"
+
 namespace kestrel {
 
 inline constexpr int kExitUsage = 2;
@@ -21,11 +23,10 @@ struct GameOptions {
   bool version = false;
 };
 
-// Takes the arguments (without the program's name) apart. On bad usage `error` says why.
-std::optional<GameOptions> ParseGameArguments(std::span<const char* const> arguments, std::string& error);
+// Takes the words (without the program's name) apart. On bad usage `error` says why.
+std::optional<GameOptions> ParseGameArguments(std::span<const std::string> words, std::string& error);
 
-// The help text.
-std::string_view GameHelp();
+extern const CommandSpec kGameSpec;
 
 // A scale as the option and the setting spell it; nothing for all but "1", "1.25", "1.5" and "2".
 std::optional<double> ParseScale(std::string_view text);

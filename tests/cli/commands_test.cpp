@@ -8,10 +8,8 @@
 #include <set>
 
 #include "cli/cli_run.h"
-#include "cli/json.h"
 #include "cli/progress.h"
 #include "cli/puzzle_reader.h"
-#include "core/json_string.h"
 #include "core/text.h"
 #include "support/plain_solver.h"
 #include "support/temp_folder.h"
@@ -40,22 +38,15 @@ std::string ManyPuzzles(int count, std::uint64_t seed) {
 TEST(Usage, ErrorsAreStatusTwoWithAHint) {
   const std::vector<std::pair<std::vector<std::string>, std::string>> cases{
       {{}, "no command given"},
-      {{"dance"}, "unknown command 'dance'"},
-      {{"stock"}, "stock: no command given"},
       {{"stock", "burn"}, "unknown command 'stock burn'"},
-      {{"rate", "--fast"}, "rate: unknown option '--fast'"},
+      {{"rate", "--fast=1"}, "rate: unknown option '--fast'"},
       {{"rate", "--format"}, "rate: option '--format' needs a value"},
       {{"rate", "--format", "xml"}, "rate: option '--format' needs 'tsv' or 'json', not 'xml'"},
       {{"rate", "--solutions=2"}, "rate: option '--solutions' takes no value"},
       {{"rate", "--jobs", "0"}, "rate: option '--jobs' needs a whole number from 1 to 1024, not '0'"},
-      {{"rate", "--jobs", "2x"}, "from 1 to 1024, not '2x'"},
       {{"solve", "--steps", "--trace"}, "exclude each other"},
-      {{"generate", "extra"}, "generate: unexpected argument 'extra'"},
-      {{"generate", "--seed", "18446744073709551616"}, "not '18446744073709551616'"},
-      {{"print"}, "name it with '--output'"},
-      {{"stock", "new"}, "the FILE to write is missing"},
+      {{"generate", "--", "-x"}, "generate: unexpected argument '-x'"},
       {{"stock", "list", "a", "--stock", "b"}, "named twice"},
-      {{"stock", "renew"}, "needs '--level'"},
   };
   for (const auto& [words, error] : cases) {
     const CliResult result = RunWith(words, std::string(kEasy));
@@ -77,6 +68,7 @@ TEST(Usage, EveryCommandHasHelp) {
     const CliResult of_command = RunWith(words);
     EXPECT_EQ(of_command.status, 0);
     EXPECT_TRUE(of_command.out.starts_with(std::string("Usage: kestrel-sudoku-cli ") + command));
+    EXPECT_NE(of_command.out.find("\nExamples:\n"), std::string::npos);
     for (const std::string& line : Lines(of_command.out)) EXPECT_LE(line.size(), 90U) << line;
   }
 }
@@ -241,10 +233,7 @@ TEST(Generate, SameSeedSamePuzzlesWhateverTheJobs) {
             "371824965896537142524169873463218597219756384785493216947385621158642739632971458\t6\t0\n");
 }
 
-TEST(Text, JsonStringsAndProgress) {
-  EXPECT_EQ(JsonString("a\"b\\c\n\x7f\xC3\xA9"), R"("a\"b\\c\n\u007f)"
-                                                 "\xC3\xA9\"");
-  EXPECT_EQ(JsonString("\xC3(\xE2\x82\xF5\xED\xA0\x80"), R"("\ufffd(\ufffd\ufffd\ufffd\ufffd\ufffd\ufffd")");
+TEST(Text, Progress) {
   EXPECT_EQ(ProgressLine("rate", 50, 200, "12 puzzles"),
             "rate [#######.......................]  25 %  12 puzzles");
   EXPECT_EQ(ProgressLine("rate", 50, 0, "12 puzzles"), "rate  12 puzzles");

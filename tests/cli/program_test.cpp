@@ -27,6 +27,12 @@ TEST(Program, LostOutputIsNoticed) {
   EXPECT_EQ(folder.Get("lost"), "kestrel-sudoku-cli: standard output could not be written\n");
   EXPECT_EQ(Shell(kProgram + " --version > /dev/full 2> /dev/null"), 2);
   EXPECT_EQ(Shell(kProgram + " --version >&- 2> /dev/null"), 2);
+  const std::string script = "'" KESTREL_SCRIPT "'";
+  EXPECT_EQ(Shell(script + " --version > /dev/full 2> /dev/null"), 2);
+  EXPECT_EQ(Shell("yes 'press CommandNew' | { timeout 20 " + script + " --home " + folder.Path().string() +
+                  " 2> " + lost + "; echo $? >> " + lost + "; } | head -n 1 > /dev/null"),
+            0);
+  EXPECT_EQ(folder.Get("lost"), "2\n");
   // The reader ends after one line: so does the program, at once, without a word and not by a signal.
   EXPECT_EQ(Shell("{ timeout 20 " + kProgram + " generate --count 1000000000 --seed 1 2> " + lost +
                   "; echo $? >> " + lost + "; } | head -n 1 > /dev/null"),

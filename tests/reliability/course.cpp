@@ -6,10 +6,10 @@
 
 #include <sstream>
 
-#include "core/json_string.h"
 #include "core/settings_file.h"
 #include "support/answering_script.h"
 #include "support/faulty_calls.h"
+#include "ui/memory/json_string.h"
 #include "ui/memory/transcript.h"
 #include "ui/script/runner.h"
 

@@ -5,47 +5,35 @@
 #include <sstream>
 #include <vector>
 
-#include "core/json_string.h"
 #include "support/game_home.h"
+#include "ui/memory/json_string.h"
 #include "ui/memory/transcript.h"
 #include "ui/script/command_line.h"
 
 namespace kestrel::testing {
 namespace {
 
-std::optional<ScriptCommand> Parse(std::vector<const char*> arguments) {
-  std::string error;
-  auto command = ParseScriptArguments(arguments, "/data", error);
-  EXPECT_EQ(command.has_value(), error.empty());
-  return command;
-}
-
-TEST(ScriptCommandLine, HasDefaultsAndTakesOptionsInAnyPlace) {
-  auto command = Parse({"--home", "/h/"});
-  ASSERT_TRUE(command);
-  EXPECT_EQ(command->options.home, "/h");
-  EXPECT_EQ(command->options.settings, "/h/settings.ini");
-  EXPECT_EQ(command->options.time, 12 * 3600);
-  EXPECT_TRUE(command->options.sound && command->options.printer && command->options.browser);
-  command = Parse({"--no-sound", "x.script", "--time", "23:59:50", "--home", "/h", "--seed",
-                   "18446744073709551615", "--no-printer", "--no-browser"});
-  ASSERT_TRUE(command);
-  EXPECT_EQ(command->script, "x.script");
-  EXPECT_EQ(command->options.time, 86390);
-  EXPECT_EQ(command->options.seed, UINT64_MAX);
-  EXPECT_FALSE(command->options.sound || command->options.printer || command->options.browser);
-}
-
-TEST(ScriptCommandLine, RefusesBadUsage) {
-  EXPECT_FALSE(Parse({}));
-  EXPECT_FALSE(Parse({"--home"}));
-  EXPECT_FALSE(Parse({"--home", ""}));
-  EXPECT_FALSE(Parse({"--home", "/h", "--loud"}));
-  EXPECT_FALSE(Parse({"--home", "/h", "a", "b"}));
-  EXPECT_FALSE(Parse({"--home", "/h", "--seed", "-1"}));
-  for (const char* time : {"24:00:00", "12:60:00", "1:2:3", "12:00", "aa:bb:cc", "12:00:-1"}) {
-    EXPECT_FALSE(Parse({"--home", "/h", "--time", time})) << time;
-  }
+TEST(ScriptCommandLine, IsTakenApart) {
+  const auto parse = [](std::vector<std::string> words, std::string_view error) {
+    std::string said;
+    auto command = ParseScriptArguments(words, "/data", said);
+    EXPECT_EQ(said, error);
+    return command.value_or(ScriptCommand());
+  };
+  const ScriptCommand plain = parse({"--home", "/h/"}, "");
+  EXPECT_EQ(plain.options.home + plain.options.program + plain.options.settings, "/h/data/h/settings.ini");
+  EXPECT_TRUE(plain.options.sound && plain.options.printer && plain.options.browser);
+  const ScriptCommand full = parse({"--no-sound", "[x,y]", "--time=23:59:50", "--home=/h", "--seed",
+                                    "18446744073709551615", "--no-printer", "--no-browser"},
+                                   "");
+  EXPECT_EQ(full.script, "[x,y]");
+  EXPECT_EQ(full.options.time, 86390);
+  EXPECT_EQ(full.options.seed, UINT64_MAX);
+  EXPECT_FALSE(full.options.sound || full.options.printer || full.options.browser);
+  parse({}, "the folder to play in is missing, name it with '--home'");
+  parse({"--home=", "x"}, "option '--home' needs a value");
+  parse({"--home", "/h", "--time", "24:00:00"}, "option '--time' needs HH:MM:SS, not '24:00:00'");
+  EXPECT_TRUE(parse({"-h"}, "").help);
 }
 
 TEST(Script, EndsAtALineThatIsNoCommand) {
@@ -95,7 +83,9 @@ TEST(Script, EndingInABoxLeavesTheGameAsItIs) {
 
 TEST(Transcript, WritesValuesAsJson) {
   EXPECT_EQ(JsonString("a\"b\\c\nd\te"), R"("a\"b\\c\nd\u0009e")");
-  EXPECT_EQ(JsonString("Zo\xC3\xAB"), "\"Zo\xC3\xAB\"");
+  EXPECT_EQ(JsonString("\xC3\xAB\x7f\xC3(\xF5\xED\xA0\x80"),
+            "\"\xC3\xAB\\u007f"
+            R"(\ufffd(\ufffd\ufffd\ufffd\ufffd")");
   EXPECT_EQ(Points(18), "18");
   EXPECT_EQ(Points(20.25), "20.25");
 }

@@ -46,10 +46,8 @@ std::vector<std::string> ScriptNames() {
 void SetOptions(ScriptOptions& options, std::string_view line) {
   std::vector<std::string> words{"--home", options.home, "--settings", options.settings};
   for (const std::string_view word : Words(line)) words.emplace_back(word);
-  std::vector<const char*> arguments;
-  for (const std::string& word : words) arguments.push_back(word.c_str());
   std::string error;
-  const auto command = ParseScriptArguments(arguments, options.program, error);
+  const auto command = ParseScriptArguments(words, options.program, error);
   ASSERT_TRUE(command) << error;
   options = command->options;
 }

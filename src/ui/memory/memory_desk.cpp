@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/json_string.h"
+#include "ui/memory/json_string.h"
 
 namespace kestrel {
 

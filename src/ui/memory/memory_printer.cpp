@@ -4,8 +4,8 @@
 #include <cmath>
 #include <initializer_list>
 
-#include "core/json_string.h"
 #include "core/text.h"
+#include "ui/memory/json_string.h"
 
 namespace kestrel {
 

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "core/json_string.h"
 #include "core/stock_file.h"
+#include "ui/memory/json_string.h"
 
 namespace kestrel {
 

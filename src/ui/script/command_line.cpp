@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/script/command_line.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -12,46 +11,17 @@ namespace kestrel {
 
 namespace {
 
-bool SetSwitch(ScriptCommand& command, std::string_view name) {
-  if (name == "--no-sound") {
-    command.options.sound = false;
-  } else if (name == "--no-printer") {
-    command.options.printer = false;
-  } else if (name == "--no-browser") {
-    command.options.browser = false;
-  } else if (name == "--help") {
-    command.help = true;
-  } else if (name == "--version") {
-    command.version = true;
-  } else {
-    return false;
-  }
-  return true;
-}
-
-bool TakesValue(std::string_view name) {
-  constexpr std::array<std::string_view, 5> kNames = {"--program", "--home", "--settings", "--time",
-                                                      "--seed"};
-  return std::ranges::find(kNames, name) != kNames.end();
-}
-
-// False when `value` makes no sense.
-bool SetValue(ScriptOptions& options, std::string_view name, std::string_view value) {
-  if (name == "--program") options.program = value;
-  if (name == "--home") options.home = value;
-  if (name == "--settings") options.settings = value;
-  if (name == "--time") {
-    const auto time = ParseTime(value);
-    if (!time) return false;
-    options.time = *time;
-  }
-  if (name == "--seed") {
-    const auto seed = ParseNumber<std::uint64_t>(value);
-    if (!seed) return false;
-    options.seed = *seed;
-  }
-  return !value.empty();
-}
+constexpr std::array<OptionSpec, 9> kScriptOptions{{
+    {"home", "DIR", "the user's local application data folder (required)"},
+    {"program", "DIR", "the program folder: first stock, sounds, previews"},
+    {"settings", "FILE", "where the settings are kept (settings.ini in --home)"},
+    {"time", "HH:MM:SS", "the time of day at the start (12:00:00)"},
+    {"seed", "N", "what the random numbers start from (1)"},
+    {"no-sound", "", "there is no sound device"},
+    {"no-printer", "", "the printer cannot be reached"},
+    {"no-browser", "", "no program is associated with HTML files"},
+    {"version", "", "show the version and end"},
+}};
 
 // Folders are used with a separator of their own behind them.
 void DropSlashes(std::string& folder) {
@@ -60,38 +30,43 @@ void DropSlashes(std::string& folder) {
 
 }  // namespace
 
-std::optional<ScriptCommand> ParseScriptArguments(std::span<const char* const> arguments,
-                                                  std::string_view program, std::string& error) {
-  ScriptCommand command;
-  command.options.program = program;
-  const auto fail = [&error](std::string_view reason, std::string_view what) {
-    error = std::string(reason) + std::string(what);
-    return std::nullopt;
-  };
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string_view argument = arguments[i];
-    if (SetSwitch(command, argument)) continue;
-    if (TakesValue(argument)) {
-      if (++i == arguments.size()) return fail(texts::kNeedsValue, argument);
-      if (!SetValue(command.options, argument, arguments[i])) return fail(texts::kBadValue, argument);
-    } else if (argument.starts_with("-") && argument != "-") {
-      return fail(texts::kNoOption, argument);
-    } else if (!command.script.empty()) {
-      return fail(texts::kOneScript, argument);
-    } else {
-      command.script = argument;
-    }
-  }
-  if (command.help || command.version) return command;
-  if (command.options.home.empty()) return fail(texts::kHomeMissing, "");
-  DropSlashes(command.options.home);
-  DropSlashes(command.options.program);
-  if (command.options.settings.empty()) command.options.settings = command.options.home + "/settings.ini";
-  return command;
-}
+const CommandSpec kScriptSpec{"",
+                              "[FILE]",
+                              1,
+                              "Plays the game by the lines of FILE and prints what happens",
+                              "Without FILE, or where FILE is -, standard input is read.",
+                              kScriptOptions,
+                              "--home games my.script\n"
+                              "--home games --seed 7 --time 23:59:50 my.script"};
 
-std::string_view ScriptHelp() {
-  return texts::kScriptHelp;
+std::optional<ScriptCommand> ParseScriptArguments(std::span<const std::string> words,
+                                                  std::string_view program, std::string& error) {
+  Arguments arguments(kScriptSpec, words);
+  ScriptCommand command;
+  ScriptOptions& options = command.options;
+  command.help = arguments.HelpWanted();
+  command.version = arguments.Has("version");
+  options.program = arguments.Text("program", program);
+  options.home = arguments.Text("home", "");
+  options.seed = arguments.Number("seed", options.seed, 0, UINT64_MAX);
+  options.sound = !arguments.Has("no-sound");
+  options.printer = !arguments.Has("no-printer");
+  options.browser = !arguments.Has("no-browser");
+  if (arguments.Has("time")) {
+    const auto time = ParseTime(arguments.Text("time", ""));
+    if (!time) arguments.FailValue("time", "HH:MM:SS");
+    options.time = time.value_or(0);
+  }
+  if (!command.help && !command.version && options.home.empty()) {
+    arguments.Fail(std::string(texts::kHomeMissing));
+  }
+  error = arguments.Error();
+  if (!error.empty()) return std::nullopt;
+  DropSlashes(options.home);
+  DropSlashes(options.program);
+  options.settings = arguments.Text("settings", options.home + "/settings.ini");
+  if (!arguments.Operands().empty()) command.script = arguments.Operands()[0];
+  return command;
 }
 
 }  // namespace kestrel

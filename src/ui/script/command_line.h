@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/arguments.h"
+
 namespace kestrel {
 
 struct ScriptOptions {
@@ -29,12 +31,11 @@ struct ScriptCommand {
   bool version = false;
 };
 
-// Takes the arguments (without the program's name) apart. On bad usage `error` says why. `program` is the
-// folder of the program where the arguments do not name one.
-std::optional<ScriptCommand> ParseScriptArguments(std::span<const char* const> arguments,
+// Takes the words (without the program's name) apart. On bad usage `error` says why. `program` is the
+// folder of the program where they do not name one.
+std::optional<ScriptCommand> ParseScriptArguments(std::span<const std::string> words,
                                                   std::string_view program, std::string& error);
 
-// The help text.
-std::string_view ScriptHelp();
+extern const CommandSpec kScriptSpec;
 
 }  // namespace kestrel

@@ -3,7 +3,7 @@
 
 #include <concepts>
 
-#include "core/json_string.h"
+#include "ui/memory/json_string.h"
 #include "ui/memory/transcript.h"
 #include "ui/script/parsing.h"
 

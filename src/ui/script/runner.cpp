@@ -70,9 +70,9 @@ bool ScriptRunner::NextAction() {
   return kind != LineKind::Error;
 }
 
-// Passes blank lines and comments over. False at the end of the script.
+// Passes blank lines and comments over. False at the end of the script, and when nobody can read what it does.
 bool ScriptRunner::ReadLine(std::string& line) {
-  while (std::getline(script_, line)) {
+  while (transcript_.Good() && std::getline(script_, line)) {
     line_number_ = ++lines_read_;
     if (line.ends_with('\r')) line.pop_back();
     line.erase(0, std::min(line.find_first_not_of(" \t"), line.size()));

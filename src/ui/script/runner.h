@@ -31,6 +31,8 @@ class StreamTranscript final : public Transcript {
  public:
   explicit StreamTranscript(std::ostream& out) : out_(out) {}
   void Line(std::string_view line) override;
+  // False once a line could not be written.
+  bool Good() const { return out_.good(); }
 
  private:
   std::ostream& out_;

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <array>
 
-#include "core/json_string.h"
 #include "core/text.h"
+#include "ui/memory/json_string.h"
 #include "ui/memory/transcript.h"
 #include "ui/script/parsing.h"
 

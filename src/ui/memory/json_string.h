@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Texts as JSON strings. Used by the command line's JSON output and the transcripts of the in-memory front
-// end.
+// Texts of transcripts as JSON strings. By hand, because the bytes are a promise to those who compare transcripts:
+// a library may escape a tab in either of two ways.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "core/json_string.h"
+#include "ui/memory/json_string.h"
 
 #include <cstddef>
 
