@@ -19,5 +19,5 @@ target_compile_options(
             # GCC 12 takes std::string's copying for overlapping when it optimises fully (GCC bug 105651).
             $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
             $<$<BOOL:${KESTREL_WERROR}>:-Werror>)
-# Assertions of the kind "cannot happen" stay on in release builds of the standard library's containers.
-target_compile_definitions(kestrel_options INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
+# Assertions of the kind "cannot happen" in the standard library's containers stay on in release builds, too.
+target_compile_definitions(kestrel_options INTERFACE $<$<CONFIG:Release,Debug>:_GLIBCXX_ASSERTIONS>)

@@ -94,24 +94,27 @@ void SolverState::DeriveUnits() {
     const std::array<PositionMask, kUnits> places = PlacesOf(cells_[d]);
     for (int unit = 0; unit < kUnits; ++unit) {
       units_[unit].places[d] = places[unit];
-      const unsigned lone = BitCount[places[unit]] == 1 ? 1 : 0;
+      const unsigned lone = BitCount.data()[places[unit]] == 1 ? 1 : 0;
       units_[unit].lone_digits |= static_cast<CandidateMask>(lone << d);
     }
   }
 }
 
 // Takes the cell, which must be there, out of the digit's places in its three units. Returns the units in
-// which that leaves one place.
+// which that leaves one place. The hottest place of the solver: the containers' check of an index is left to the
+// callers and to the first use of the cell; units and places come from the tables.
 inline UnitMask SolverState::ClearPlaces(int digit, int cell) {
   const CandidateMask bit = DigitBit(digit);
+  const std::uint8_t* units = kUnitTables.unit[cell].data();
+  const PositionMask* positions = kUnitTables.position.data()[cell].data();
   UnitMask lone_units = 0;
   for (int k = 0; k < 3; ++k) {
-    const int index = kUnitTables.unit[cell][k];
-    UnitCandidates& unit = units_[index];
-    PositionMask& places = unit.places[digit - 1];
-    places = Without(places, kUnitTables.position[cell][k]);
+    const int index = units[k];
+    UnitCandidates& unit = units_.data()[index];
+    PositionMask& places = unit.places.data()[digit - 1];
+    places = Without(places, positions[k]);
     // Without a branch, for the answer is close to random.
-    const unsigned lone = BitCount[places] == 1 ? 1 : 0;
+    const unsigned lone = BitCount.data()[places] == 1 ? 1 : 0;
     unit.lone_digits = static_cast<CandidateMask>((unit.lone_digits & ~bit) | lone << (digit - 1));
     lone_units |= lone << index;
   }
