@@ -18,12 +18,14 @@ struct MessageBox {
   std::string text;
   MessageIcon icon = MessageIcon::None;
   MessageButtons buttons = MessageButtons::Ok;
+  bool cancel_is_default = false;  // Enter means the last button: what the first one does cannot be undone
 };
 
 struct InputBox {
   std::string title;
   std::string prompt;
   std::string proposal;  // stands in the box, selected, when it opens
+  int level = 0;         // 1..5: what is asked for is the number of a puzzle of this level
 };
 
 class Asker {

@@ -43,7 +43,7 @@ void DesignPrintChoices(FormPrint& form) {
   constexpr std::array<char, 3> kMnemonics = {'1', '2', '4'};
   for (int i = 0; i < 3; ++i) {
     OptionButton& option = form.OptionAantal(i);
-    Place(option, 180, 1200 + 330 * i, 2970, 300);
+    Place(option, 180, 1200 + 330 * i, 1830, 300);
     option.caption = texts::kPerPage[static_cast<std::size_t>(i)];
     option.mnemonic = kMnemonics[static_cast<std::size_t>(i)];
     option.value = i == 0;
@@ -52,12 +52,12 @@ void DesignPrintChoices(FormPrint& form) {
 }
 
 void DesignPrintPages(FormPrint& form) {
-  Place(form.CheckSolution, 180, 2340, 2970, 300);
+  Place(form.CheckSolution, 180, 2340, 1830, 300);
   form.CheckSolution.caption = "Solutions";
   form.CheckSolution.mnemonic = 'S';
   form.CheckSolution.value = true;
   form.CheckSolution.tab_index = 5;
-  Place(form.CheckPencils, 180, 2670, 2970, 300);
+  Place(form.CheckPencils, 180, 2670, 1830, 300);
   form.CheckPencils.caption = "Pencilmarks";
   form.CheckPencils.mnemonic = 'm';
   form.CheckPencils.value = true;
@@ -93,6 +93,10 @@ FormNamen MakeFormNamen() {
   form.NaamInvoerveld.max_length = 16;
   form.NaamInvoerveld.tab_index = 1;
   form.NaamInvoerveld.spoken = texts::kPlayerName;
+  form.NaamInvoerveld.tooltip = texts::kTyping;
+  PlaceLabel(form.LabelTyping, 3300, 3930, 1650, texts::kTyping);
+  form.LabelTyping.height = 465;
+  form.LabelTyping.visible = false;
   PlaceButton(form.KnopNieuweSpeler, 3300, 870, 1650, texts::kNewPlayer, 2);
   PlaceButton(form.KnopWijzigen, 3300, 1365, 1650, texts::kEditPlayer, 3);
   PlaceButton(form.KnopOK, 3300, 2475, 1650, "&OK", 4);
@@ -108,19 +112,24 @@ FormNamen MakeFormNamen() {
 
 FormPrint MakeFormPrint() {
   FormPrint form;
-  Place(form.window, 0, 0, 6600, 4500);
+  Place(form.window, 0, 0, 7635, 6000);
   form.window.caption = texts::kPrintCaption;
   form.window.modal = true;
   DesignPrintChoices(form);
   DesignPrintPages(form);
-  Place(form.PrintVoorbeeld, 3420, 150, 3000, 4200);
+  Place(form.PrintVoorbeeld, 2010, 1230, 1140, 1620);
   form.PrintVoorbeeld.spoken = texts::kPreview;
+  Place(form.FirstPage, 3420, 150, 4035, 5700);
+  form.FirstPage.spoken = texts::kFirstPage;
   PlaceButton(form.Command2, 180, 3945, 1410, "Print", 8);
   form.Command2.mnemonic = 'P';
   form.Command2.is_default = true;
   PlaceButton(form.Command1, 1740, 3945, 1410, "Close", 9);
   form.Command1.mnemonic = 'C';
   form.Command1.is_cancel = true;
+  PlaceLabel(form.LabelOutcome, 180, 4470, 2970, "");
+  form.LabelOutcome.height = 1380;
+  form.LabelOutcome.tooltip = texts::kOutcome;
   return form;
 }
 

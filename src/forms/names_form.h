@@ -14,6 +14,7 @@ struct FormNamen {
   Label LabelInstruction;
   ListBox Naamlijst;        // line i - 1 is player i
   TextBox NaamInvoerveld;   // enabled while a name is typed
+  Label LabelTyping;        // how typing ends; visible while a name is typed
   Button KnopNieuweSpeler;  // new
   Button KnopWijzigen;      // edit
   Button KnopOK;
@@ -32,6 +33,7 @@ void EachControl(Form& form, Visit&& visit) {
   visit(ControlId{"LabelInstruction"}, form.LabelInstruction);
   visit(ControlId{"Naamlijst"}, form.Naamlijst);
   visit(ControlId{"NaamInvoerveld"}, form.NaamInvoerveld);
+  visit(ControlId{"LabelTyping"}, form.LabelTyping);
   visit(ControlId{"KnopNieuweSpeler"}, form.KnopNieuweSpeler);
   visit(ControlId{"KnopWijzigen"}, form.KnopWijzigen);
   visit(ControlId{"KnopOK"}, form.KnopOK);

@@ -3,6 +3,7 @@
 // and by the PDF writer.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "forms/control.h"
@@ -63,13 +64,16 @@ class Printer {
   // null when the printer cannot be talked to. The page is good until the next SetUp.
   virtual Page* SetUp() = 0;
 
-  // Starts a document, as far as something must be done for it (asking for a file's name). False: the user
-  // cancelled it, print nothing.
-  [[nodiscard]] virtual bool BeginDocument() = 0;
+  // Starts a document, as far as something must be done for it (asking for a file's name); `title` can be a
+  // file's name. False: the user cancelled it, print nothing.
+  [[nodiscard]] virtual bool BeginDocument(std::string_view title) = 0;
 
   // Ends the document that BeginDocument started, also one that NewPage stopped: then what has not been sent
   // yet is thrown away. A page that was only just begun is not printed.
   virtual void EndDocument() = 0;
+
+  // After EndDocument: what became of the document, for the user; empty where there is nothing to say.
+  [[nodiscard]] virtual std::string Outcome() const { return {}; }
 };
 
 }  // namespace kestrel

@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "forms/main_window.h"
+#include "forms/page_view.h"
 
 namespace kestrel {
 
@@ -22,9 +23,11 @@ struct FormPrint {
   Label LabelPages;
   Slider PageSlider;       // 1..10 pages
   Label LabelPageCount;    // the slider's value
-  Picture PrintVoorbeeld;  // preview
+  Picture PrintVoorbeeld;  // how pages of this kind look
+  PageView FirstPage;      // the first page as it is going to be printed
   Button Command2;         // print
   Button Command1;         // close
+  Label LabelOutcome;      // what became of the last document
 
   friend bool operator==(const FormPrint&, const FormPrint&) = default;
 };
@@ -47,8 +50,10 @@ void EachControl(Form& form, Visit&& visit) {
   visit(ControlId{"PageSlider"}, form.PageSlider);
   visit(ControlId{"LabelPageCount"}, form.LabelPageCount);
   visit(ControlId{"PrintVoorbeeld"}, form.PrintVoorbeeld);
+  visit(ControlId{"FirstPage"}, form.FirstPage);
   visit(ControlId{"Command2"}, form.Command2);
   visit(ControlId{"Command1"}, form.Command1);
+  visit(ControlId{"LabelOutcome"}, form.LabelOutcome);
 }
 
 }  // namespace kestrel

@@ -19,7 +19,8 @@ class Shell {
   // the desktop goes by kind of file and not by program, any text that Open understands.
   virtual std::optional<std::string> FindExecutable(std::string_view path) = 0;
 
-  // Starts `program` on an address, without waiting for it. False when it could not be started.
+  // Starts `program` on an address, without waiting for its end. False when it could not be started, or
+  // failed at once.
   virtual bool Open(std::string_view program, std::string_view address) = 0;
 };
 

@@ -21,12 +21,12 @@ inline constexpr std::string_view kHintCost =
 inline constexpr std::string_view kNextTip = "Open the next puzzle of the chosen level";
 inline constexpr std::string_view kOpenTip = "Open a puzzle of the chosen level by its number";
 inline constexpr std::string_view kRestartTip = "Start this puzzle and its clock again";
-inline constexpr std::string_view kUndoTip = "Take the last step back";
-inline constexpr std::string_view kRedoTip = "Do the step again that was taken back";
+inline constexpr std::string_view kUndoTip = "Take the last step back (Ctrl+Z)";
+inline constexpr std::string_view kRedoTip = "Do the step again that was taken back (Ctrl+Y)";
 inline constexpr std::string_view kResetTip = "Empty the cell of the selected row and column";
 inline constexpr std::string_view kSolutionTip = "Give up and show the solution";
-inline constexpr std::string_view kPrintTip = "Print puzzles";
-inline constexpr std::string_view kHelpTip = "How to play, and every technique explained";
+inline constexpr std::string_view kPrintTip = "Print puzzles (Ctrl+P)";
+inline constexpr std::string_view kHelpTip = "How to play, and every technique explained (F1)";
 inline constexpr std::string_view kPlayersTip = "Choose who plays, add or rename players";
 inline constexpr std::string_view kSoundsTip = "Play sounds";
 inline constexpr std::string_view kHintMarker = "Show help on this technique";
@@ -46,12 +46,15 @@ inline constexpr std::string_view kEditPlayer = "&Edit Player";
 inline constexpr std::string_view kFreePlay = "Free Play";
 inline constexpr std::string_view kPlayerList = "Players";
 inline constexpr std::string_view kPlayerName = "Name of the player";
+inline constexpr std::string_view kTyping = "Enter saves, Escape cancels";
 
 // Print dialog
 inline constexpr std::string_view kPrintCaption = "Kestrel Sudoku - Print";
 inline constexpr std::array<std::string_view, 3> kPerPage = {"1 puzzle a page", "2 puzzles a page",
                                                              "4 puzzles a page"};
-inline constexpr std::string_view kPreview = "Preview of a page";
+inline constexpr std::string_view kPreview = "Example of a page of this kind";
+inline constexpr std::string_view kFirstPage = "The first page, as it will be printed";
+inline constexpr std::string_view kOutcome = "What became of the last printing";
 inline constexpr std::string_view kFirstNumber = "First puzzle number";
 inline constexpr std::string_view kPageCount = "Pages to print";
 inline constexpr std::string_view kToOne = "to 1";

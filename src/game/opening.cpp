@@ -55,7 +55,7 @@ void OpenPuzzleByNumber(Session& session) {
   for (;;) {
     const std::optional<std::string> answer =
         session.asker.Input({std::string(texts::kSudokuNumber), std::string(texts::kEnterNumber),
-                             std::string(texts::kProposedNumber)});
+                             std::string(texts::kProposedNumber), session.SelectedLevel});
     if (!answer || answer->empty()) return;
     const int number = LeadingNumber(*answer);
     if (number >= 1 && number <= kPuzzlesPerLevel) return Choose(session, number);

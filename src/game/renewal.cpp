@@ -11,7 +11,7 @@ namespace kestrel {
 void Renewal::Click(int level) {
   if (level == session_.SelectedLevel) return;
   const Answer answer = session_.asker.Message({std::string(texts::kRenewTitle), std::string(texts::kRenew),
-                                                MessageIcon::Question, MessageButtons::OkCancel});
+                                                MessageIcon::Question, MessageButtons::OkCancel, true});
   if (answer != Answer::Ok) return;
   session_.RenewingLevel = level;
   session_.forms.main.OptionType(level).enabled = false;

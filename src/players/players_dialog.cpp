@@ -66,7 +66,10 @@ void PlayersDialog::FreePlay() {
   Hide();
 }
 
+// A name that was being typed is dropped: at the next opening no line is selected, and a renaming would have
+// become a new player.
 void PlayersDialog::Hide() {
+  if (form_.NaamInvoerveld.enabled) EndTyping();
   screen_.Hide(FormId::Names);
 }
 
@@ -77,12 +80,14 @@ void PlayersDialog::StartTyping() {
   form_.KnopOK.enabled = false;
   form_.Naamlijst.enabled = false;
   form_.NaamInvoerveld.enabled = true;
+  form_.LabelTyping.visible = true;
   screen_.Focus(FormId::Names, {"NaamInvoerveld"});
 }
 
 void PlayersDialog::EndTyping() {
   form_.NaamInvoerveld.text.clear();
   form_.NaamInvoerveld.enabled = false;
+  form_.LabelTyping.visible = false;
   ListClick();
   form_.KnopNieuweSpeler.enabled = true;
   form_.KnopAnnuleren.enabled = true;
@@ -132,10 +137,8 @@ void PlayersDialog::Complain(std::string_view title, std::string_view text) {
   (void)asker_.Message({std::string(title), std::string(text), MessageIcon::Information, MessageButtons::Ok});
 }
 
-// The dialog may have been left in typing mode, when it was closed or free play was chosen there.
 void PlayersDialog::FocusList() {
-  const bool typing = form_.NaamInvoerveld.enabled;
-  screen_.Focus(FormId::Names, {typing ? "NaamInvoerveld" : "Naamlijst"});
+  screen_.Focus(FormId::Names, {"Naamlijst"});
 }
 
 }  // namespace kestrel

@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 
+#include "print/drawn_page.h"
 #include "print/names.h"
 #include "print/page_layout.h"
 #include "print/texts.h"
@@ -69,6 +70,7 @@ void PrintDialog::Handle(const Event& event) {
     const bool entered = event.kind == EventKind::Key && event.key == Key::Enter;
     if (entered || event.kind == EventKind::Leave) CheckRange();
   }
+  ShowFirstPage();
 }
 
 // Without a printer the dialog is hidden again when this returns.
@@ -85,9 +87,11 @@ void PrintDialog::Activate() {
   form_.Label3.enabled = true;
   form_.TextFrom.enabled = true;
   form_.LabelTo.enabled = true;
+  form_.LabelOutcome.caption.clear();
   ChoosePages();
   ShowPreview();
-  if (SetUpPrinter()) return;
+  form_.FirstPage.page.reset();  // the stock may be another one than last time
+  if (SetUpPrinter()) return ShowFirstPage();
   // Whatever the answer, hiding is all that is left to do.
   (void)asker_.Message({std::string(texts::kPrinterErrorTitle), std::string(texts::kPrinterError),
                         MessageIcon::Exclamation, MessageButtons::Ok});
@@ -155,18 +159,31 @@ void PrintDialog::ShowPreview() {
   form_.PrintVoorbeeld.file = std::string(program_folder_) + std::string(pictures[index]);
 }
 
+// Only what concerns the first page makes it be drawn again.
+void PrintDialog::ShowFirstPage() {
+  PrintSettings wanted = chosen_;
+  wanted.pages = 1;
+  if (page_ == nullptr || (form_.FirstPage.page && wanted == shown_)) return;
+  shown_ = wanted;
+  form_.FirstPage.page = DrawFirstPage(*page_, stock_, wanted);
+}
+
 void PrintDialog::Print() {
+  CheckRange();
   remembered_ = chosen_;
+  form_.LabelOutcome.caption.clear();
   if (page_ == nullptr) return;
   // Questions and progress of the printer let events in.
   const Busy busy(printing_);
-  if (!printer_.BeginDocument()) return;
+  if (!printer_.BeginDocument(texts::DocumentTitle(chosen_))) return;
   // Stopped or not, what was begun is ended.
   (void)PageLayout(*page_, metrics_, stock_, chosen_).PrintPages();
   printer_.EndDocument();
+  form_.LabelOutcome.caption = printer_.Outcome();
 }
 
 void PrintDialog::Close() {
+  CheckRange();
   remembered_ = chosen_;
   screen_.Hide(FormId::Print);
 }

@@ -48,6 +48,7 @@ class PrintDialog {
   void ShowPreview();
   void Print();
   void Close();
+  void ShowFirstPage();
 
   FormPrint& form_;
   const StockTable& stock_;
@@ -57,6 +58,7 @@ class PrintDialog {
 
   PrintSettings remembered_;
   PrintSettings chosen_;
+  PrintSettings shown_;              // what FirstPage shows
   std::string_view program_folder_;  // during Run
   Page* page_ = nullptr;             // the printer's, since the last activation
   PageMetrics metrics_;

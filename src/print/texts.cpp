@@ -2,10 +2,21 @@
 // The composed message of printing.
 #include "print/texts.h"
 
+#include "forms/texts.h"
+
 namespace kestrel::texts {
 
 std::string NumberText(std::string_view label, int number) {
   return std::string(label) + (label.empty() ? "" : "  ") + std::string(kNumber) + std::to_string(number);
+}
+
+std::string DocumentTitle(const PrintSettings& settings) {
+  std::string title(kProductName);
+  title += ' ';
+  title += kLevelNames[static_cast<std::size_t>(settings.level_index)];
+  title += ' ' + std::to_string(settings.first_number);
+  if (LastNumber(settings) != settings.first_number) title += '-' + std::to_string(LastNumber(settings));
+  return title;
 }
 
 std::string BadRange(const PrintSettings& settings) {

@@ -23,6 +23,9 @@ inline constexpr std::string_view kPrinterError =
     "availability and status of your printer.";
 inline constexpr std::string_view kPrinterErrorTitle = "Printer error";
 
+// "Kestrel Sudoku Medium 5-8", for a file or a print job.
+std::string DocumentTitle(const PrintSettings& settings);
+
 // Why puzzles cannot be printed whose range did not come from the dialog.
 std::string BadRange(const PrintSettings& settings);
 

@@ -11,9 +11,11 @@ namespace {
 
 struct FakePrinter : Printer {
   Page* SetUp() override { return works ? &page : nullptr; }
-  bool BeginDocument() override { return ++begun, wants_document; }
+  bool BeginDocument(std::string_view name) override { return title = name, ++begun, wants_document; }
   void EndDocument() override { ++ended; }
+  [[nodiscard]] std::string Outcome() const override { return "sent"; }
   RecordingPage page;
+  std::string title;
   bool works = true, wants_document = true;
   int begun = 0, ended = 0;
 };
@@ -73,6 +75,7 @@ TEST_F(PrintDialogTest, GivesUpWithoutAPrinterAndStopsWithOne) {
     Press("Command2");
     EXPECT_EQ(printer_.page.pages.size(), 2U);
     EXPECT_TRUE(printer_.begun == 2 && printer_.ended == 1 && form_.window.open);
+    EXPECT_EQ(printer_.title + " " + form_.LabelOutcome.caption, "Kestrel Sudoku Medium 1-5 sent");
   });
 }
 

@@ -2,6 +2,7 @@
 // The window as assistive tools see it: a game played through the accessibility interface alone.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <stdexcept>
 
@@ -110,7 +111,7 @@ TEST(Access, EveryControlIsNamed) {
   EXPECT_EQ(Name(game, "RenewLevel(4)"), "Renew Level: Hard");
 }
 
-// Assistive tools press nothing behind a dialog.
+// Assistive tools press nothing behind a dialog, and what they toggle goes back.
 TEST(Access, StopsAtDialogs) {
   QtGame game(3);
   game.Expect([&game](QWidget& dialog) {
@@ -120,6 +121,21 @@ TEST(Access, StopsAtDialogs) {
     Do(game, "CommandSolution", Press());
     game.WaitFor([&] { return game.State().clock.ClockStopped; }, 300);
     EXPECT_FALSE(game.State().clock.ClockStopped);
+    dialog.close();
+  });
+  game.ClickControl("cmdPlayers");
+  game.ClickControl("CommandSolution");
+  game.Main().chkSound.enabled = true;
+  game.front_end.Windows().Sync();
+  const bool sounds = game.Main().chkSound.value;
+  const auto checked = [&game](const char* name) {
+    return qobject_cast<QAbstractButton*>(game.Widget(name))->isChecked();
+  };
+  game.Expect([&](QWidget& dialog) {
+    Do(game, "chkSound", QAccessibleActionInterface::toggleAction());
+    Do(game, "OptionType(2)", QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(game.Main().chkSound.value == sounds && game.State().SelectedLevel == 3);
+    EXPECT_TRUE(checked("chkSound") == sounds && checked("OptionType(3)") && !checked("OptionType(2)"));
     dialog.close();
   });
   game.ClickControl("cmdPlayers");

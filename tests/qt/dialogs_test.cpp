@@ -108,8 +108,14 @@ TEST(Dialogs, PlayersAreTypedAndChosen) {
     });
     QTest::keyClick(field, Qt::Key_Return);
     QTest::keyClick(field, Qt::Key_Escape);
+    // With nothing selected, each of these keys chooses the only player.
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Home, Qt::Key_Up, Qt::Key_End}) {
+      list->clearSelection();
+      EXPECT_FALSE(form.KnopOK.enabled);
+      QTest::keyClick(list, key);
+      EXPECT_TRUE(form.KnopOK.enabled && form.Naamlijst.index == 0) << key;
+    }
     list->clearSelection();
-    EXPECT_FALSE(form.KnopOK.enabled);
     const QPoint line = list->visualItemRect(list->item(0)).center();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, line);
     EXPECT_TRUE(form.KnopOK.enabled);
@@ -134,7 +140,14 @@ TEST(Dialogs, PrintChoicesAnswerToKeysAndMouse) {
     EXPECT_EQ(form.TextFrom.text, "99");
     game.ClickControl("OptionAantal(2)");
     EXPECT_EQ(from->text(), "97");
-    QTest::keyClick(dialog.findChild<QSlider*>("PageSlider"), Qt::Key_Right);
+    // The slider goes where it is clicked, down to its lower edge.
+    auto* slider = dialog.findChild<QSlider*>("PageSlider");
+    QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(slider->width() - 3, slider->height() - 2));
+    EXPECT_EQ(form.PageSlider.value, 10);
+    QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(2, 1));
+    QTest::keyClick(slider, Qt::Key_Right);
+    Type(*from, "99");
+    QTest::keyClick(from, Qt::Key_Return);
     EXPECT_EQ(from->text(), "93");
     // Enter checks the range and prints nothing; so does leaving the box by a button's letter.
     Type(*from, "0");
@@ -146,11 +159,40 @@ TEST(Dialogs, PrintChoicesAnswerToKeysAndMouse) {
     EXPECT_FALSE(form.CheckPencils.value);
     QTest::keyClick(dialog.findChild<QComboBox*>("SudokuTypeKeuze"), Qt::Key_Down);
     EXPECT_EQ(form.SudokuTypeKeuze.index, 2);
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    EXPECT_FALSE(dialog.isVisible());
+    Type(*from, "50");
+    dialog.close();
   });
   game.ClickControl("CommandPrint");
-  EXPECT_EQ(game.State().print_dialog.Remembered().first_number, 93);
+  EXPECT_EQ(game.State().print_dialog.Remembered().first_number, 50);
+}
+
+TEST(Dialogs, KeysOfTheDesktopPressTheirButtons) {
+  QtGame game(3);
+  const int cell = game.EmptyCell();
+  game.ClickMark(cell, game.SolutionOf(cell));
+  const auto digit = [&] { return game.State().puzzle.CurrentDigits[cell] != 0; };
+  const auto press = [&](Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+    game.Window().activateWindow();
+    game.Settle();
+    QTest::keyClick(&game.Window(), key, with);
+    game.Settle();
+  };
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_FALSE(digit());
+  press(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_TRUE(digit());
+  press(Qt::Key_Z, Qt::ControlModifier);
+  press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(digit());
+  game.Expect([](QWidget& dialog) { dialog.close(); });
+  press(Qt::Key_P, Qt::ControlModifier);
+  EXPECT_EQ(game.StillExpected(), 0U);
+  // Enter does not throw a level's best times away.
+  game.Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+  game.ClickControl("RenewLevel(5)");
+  EXPECT_EQ(game.State().RenewingLevel, 0);
+  press(Qt::Key_F1);
+  EXPECT_TRUE(game.Controls().browser.window.open);
 }
 
 TEST(Dialogs, KeyboardReachesTheCommands) {

@@ -108,6 +108,8 @@ TEST(Shell, GoesByTheDesktopsChoice) {
   EXPECT_TRUE(shell.Open(folder.Path("xdg-open").string(), "https://kestrel-sudoku.example/"));
   const std::string expected = "https://kestrel-sudoku.example/\n";
   EXPECT_TRUE(QTest::qWaitFor([&] { return folder.Get("log") == expected; }, kPatience));
+  put("xdg-open", "exit 3");
+  EXPECT_FALSE(shell.Open(folder.Path("xdg-open").string(), "https://kestrel-sudoku.example/"));
   EXPECT_FALSE(shell.Open(folder.Path("no-such-program").string(), "https://kestrel-sudoku.example/"));
   qputenv("PATH", path);
 }
@@ -116,7 +118,7 @@ TEST(Shell, GoesByTheDesktopsChoice) {
 class PrinterTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    if (!QPrinterInfo::defaultPrinterName().isEmpty()) GTEST_SKIP() << "this machine has a printer";
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) GTEST_SKIP() << "this machine has a printer";
   }
   // Runs the print dialog with 4 pages of 2, then presses Print and answers the question for the file.
   void Print(const std::function<void(QWidget&)>& answer) {
@@ -147,7 +149,13 @@ TEST_F(PrinterTest, WritesWhatTheCommandLineWrites) {
   const auto before = game.home_folder.Count();
   Print([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
   EXPECT_EQ(game.home_folder.Count(), before);
-  Print([this](QWidget& box) { Answer(box, game.home_folder.Path("pages.pdf")); });
+  Print([this](QWidget& box) {
+    auto* dialog = qobject_cast<QFileDialog*>(&box);
+    EXPECT_EQ(dialog->findChild<QLineEdit*>()->text(), "Kestrel Sudoku Medium 1-8.pdf");
+    Answer(box, game.home_folder.Path("pages.pdf"));
+  });
+  EXPECT_EQ(game.Controls().print.LabelOutcome.caption,
+            "Saved in " + game.home_folder.Path("pages.pdf").string());
   PrintSettings settings;
   settings.pages = 4;
   settings.per_page = 2;
@@ -158,6 +166,23 @@ TEST_F(PrinterTest, WritesWhatTheCommandLineWrites) {
   const std::string written = game.home_folder.Get("pages.pdf");
   EXPECT_TRUE(std::equal(expected.begin(), expected.end(), written.begin(), written.end(),
                          [](std::uint8_t a, char b) { return a == static_cast<std::uint8_t>(b); }));
+}
+
+TEST_F(PrinterTest, AsksInTheFolderOfTheLastFile) {
+  std::filesystem::create_directory(game.home_folder.Path("sheets"));
+  const auto folder_asked = [this](const char* name) {
+    QString folder;
+    Print([&, name](QWidget& box) {
+      folder = qobject_cast<QFileDialog*>(&box)->directory().absolutePath();
+      if (name == nullptr) return box.close(), void();
+      Answer(box, game.home_folder.Path("sheets") / name);
+    });
+    return folder;
+  };
+  EXPECT_TRUE(QDir(folder_asked("one.pdf")).exists());
+  EXPECT_EQ(folder_asked("two.pdf").toStdString(), game.home_folder.Path("sheets").string());
+  std::filesystem::remove_all(game.home_folder.Path("sheets"));
+  EXPECT_TRUE(QDir(folder_asked(nullptr)).exists());
 }
 
 TEST_F(PrinterTest, SaysWhenTheFileCannotBeWritten) {

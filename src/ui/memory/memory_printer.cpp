@@ -48,7 +48,7 @@ bool MemoryPage::NewPage() {
   return true;
 }
 
-bool MemoryPrinter::BeginDocument() {
+bool MemoryPrinter::BeginDocument(std::string_view /*title*/) {
   page_.StartDocument();
   return true;
 }

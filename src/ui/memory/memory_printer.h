@@ -33,7 +33,7 @@ class MemoryPrinter final : public Printer {
   MemoryPrinter(bool available, Transcript& transcript)
       : available_(available), transcript_(transcript), page_(transcript) {}
   Page* SetUp() override { return available_ ? &page_ : nullptr; }
-  [[nodiscard]] bool BeginDocument() override;
+  [[nodiscard]] bool BeginDocument(std::string_view title) override;
   void EndDocument() override;
 
  private:

@@ -14,6 +14,7 @@
 #include "ui/qt/small_widgets.h"
 #include "ui/qt/style.h"
 #include "ui/qt/text_conversion.h"
+#include "ui/qt/window_access.h"
 
 namespace kestrel {
 
@@ -23,7 +24,7 @@ FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool u
       asker_(mirror_, dispatcher_),
       screen_(mirror_, dispatcher_),
       help_(mirror_),
-      printer_(mirror_, dispatcher_, host.host_files, asker_),
+      printer_(mirror_, dispatcher_, host.host_files, asker_, host.settings),
       game_(Ports{host.program, host.folders, host.files, host.settings, host.clock, host.seeds, dispatcher_,
                   unattended ? static_cast<Asker&>(unattended_asker_) : asker_, screen_, sound_, help_,
                   shell_, printer_}) {
@@ -54,6 +55,7 @@ int FrontEnd::TakeScreenshot(const std::string& file) {
 void SetUpLook() {
   InstallFontSubstitutes();
   InstallLabelAccess();
+  InstallWindowAccess();
   QApplication::setStyle(new CalmStyle);
   QApplication::setPalette(CalmPalette());
   QApplication::setFont(WindowFont());

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/input_widgets.h"
 
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionSlider>
+
 #include "ui/qt/form_window.h"
 
 namespace kestrel {
@@ -49,6 +53,42 @@ void LineList::Select(int line) {
     setCurrentRow(line, QItemSelectionModel::ClearAndSelect);
     scrollToItem(item(line));
   }
+}
+
+void LineList::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  const bool first = key == Qt::Key_Down || key == Qt::Key_Home;
+  const bool last = key == Qt::Key_Up || key == Qt::Key_End;
+  if ((first || last) && Selected() < 0 && count() > 0) return Select(first ? 0 : count() - 1);
+  QListWidget::keyPressEvent(event);
+}
+
+StepSlider::StepSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+  setPageStep(1);
+  setTickPosition(QSlider::TicksBelow);
+  setTickInterval(1);
+}
+
+int StepSlider::ValueAt(const QMouseEvent& event) const {
+  QStyleOptionSlider option;
+  initStyleOption(&option);
+  const int handle = style()->pixelMetric(QStyle::PM_SliderLength, &option, this);
+  return QStyle::sliderValueFromPosition(minimum(), maximum(), event.position().toPoint().x() - handle / 2,
+                                         width() - handle);
+}
+
+void StepSlider::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return event->ignore();
+  setSliderDown(true);
+  setValue(ValueAt(*event));
+}
+
+void StepSlider::mouseMoveEvent(QMouseEvent* event) {
+  if (isSliderDown()) setValue(ValueAt(*event));
+}
+
+void StepSlider::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) setSliderDown(false);
 }
 
 }  // namespace kestrel

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Qt's text box and list with the events that the game wants from them. Used by the mirror.
+// Qt's text box, list and slider with the events that the game wants from them. Used by the mirror.
 #pragma once
 
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSlider>
 #include <functional>
 
 #include "forms/event.h"
@@ -32,6 +33,24 @@ class LineList final : public QListWidget {
   // The selected line from 0, -1 for none.
   [[nodiscard]] int Selected() const;
   void Select(int line);
+
+ protected:
+  // With nothing selected, Down and Home select the first line, Up and End the last.
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+// A slider that answers over its whole height and goes to the value under the pointer.
+class StepSlider final : public QSlider {
+ public:
+  explicit StepSlider(QWidget* parent);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  [[nodiscard]] int ValueAt(const QMouseEvent& event) const;
 };
 
 }  // namespace kestrel

@@ -29,6 +29,8 @@ class MirroredControl {
   [[nodiscard]] virtual QWidget* Widget() const { return nullptr; }
   // Takes the choice from an option button because another of its array was chosen.
   virtual void Unchoose() {}
+  // Shows the control again over what happened to the widget by itself.
+  virtual void Restore() {}
 
   [[nodiscard]] ControlId Id() const { return id_; }
 
@@ -86,6 +88,8 @@ class Mirrored final : public MirroredControl {
   void Tell(EventKind kind, Key key = Key::None) const { Send(kind, key); }
 
   [[nodiscard]] const C& Control() const { return control_; }
+
+  void Restore() override { Apply(&shown_); }
 
   void Unchoose() override {
     if constexpr (requires { &C::value; }) {

@@ -16,6 +16,7 @@
 
 #include "ui/qt/form_window.h"
 #include "ui/qt/help_view.h"
+#include "ui/qt/shortcuts.h"
 #include "ui/qt/text_conversion.h"
 
 namespace kestrel {
@@ -84,7 +85,7 @@ Answer QtAsker::Message(const MessageBox& box) {
   if (auto* grid = qobject_cast<QGridLayout*>(widget.layout())) {
     grid->addItem(new QSpacerItem(kBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
-  widget.setDefaultButton(buttons.front().button);
+  widget.setDefaultButton((box.cancel_is_default ? buttons.back() : buttons.front()).button);
   widget.setEscapeButton(buttons.back().button);
   const int pressed = widget.exec();
   // A box that was cut short answers 0, which is none of its buttons.
@@ -143,6 +144,7 @@ void QtScreen::Show(FormId form) {
   mirror_.FocusFirst(form);
   QPoint corner(window.left / kTwipsPerPixel, window.top / kTwipsPerPixel);
   if (form == FormId::Main) {
+    InstallShortcuts(mirror_);
     // The title bar stays in reach where the window is larger than the screen.
     const QRect screen = QApplication::primaryScreen()->availableGeometry();
     corner = {std::max(screen.x(), corner.x()), std::max(screen.y(), corner.y())};

@@ -7,13 +7,13 @@
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPageLayout>
-#include <QPrinterInfo>
 #include <QStandardPaths>
 #include <cmath>
 
 #include "forms/texts.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/palette.h"
+#include "ui/qt/print_queue.h"
 #include "ui/qt/text_conversion.h"
 #include "ui/qt/texts.h"
 
@@ -21,19 +21,18 @@ namespace kestrel {
 
 namespace {
 
-constexpr int kMediumQuality = 600;  // dots per inch, where the printer offers several
+// Dots per inch. Set without asking what the printer has: a printer of CUPS claims to have 72 alone, and takes
+// any, since it is given PDF.
+constexpr int kMediumQuality = 600;
 constexpr double kPointsPerInch = 72;
-constexpr double kMillimetresPerInch = 25.4;
+constexpr double kUnitsPerInch = 2540;
+constexpr double kUnitsPerMillimetre = 100;
+constexpr QRgb kPrinterBlack = 0xFF000000;
 constexpr int kProgressAfter = 400;  // milliseconds
 
-// The resolution nearest to medium quality of those that the printer has.
-int MediumResolution(const QPrinter& printer) {
-  int best = printer.resolution();
-  for (const int each : printer.supportedResolutions()) {
-    if (std::abs(each - kMediumQuality) < std::abs(best - kMediumQuality)) best = each;
-  }
-  return best;
-}
+// The setting that holds the folder of the last PDF file.
+constexpr std::string_view kSection = "Options";
+constexpr std::string_view kFolderKey = "PdfFolder";
 
 }  // namespace
 
@@ -41,22 +40,36 @@ int MediumResolution(const QPrinter& printer) {
 
 QtPage::QtPage(const QString& printer_name) : printer_(QPrinter::HighResolution) {
   printer_.setPrinterName(printer_name);
+  SetUpPaper();
+}
+
+QtPage::QtPage(const IntoFile& file) : printer_(QPrinter::HighResolution) {
+  printer_.setOutputFormat(QPrinter::PdfFormat);
+  printer_.setOutputFileName(file.name);
+  SetUpPaper();
+}
+
+void QtPage::SetUpPaper() {
   printer_.setFullPage(true);
   if (printer_.pageLayout().pageSize().id() != QPageSize::A4) printer_.setPageSize(QPageSize(QPageSize::A4));
   if (printer_.pageLayout().orientation() != QPageLayout::Portrait) {
     printer_.setPageOrientation(QPageLayout::Portrait);
   }
-  printer_.setResolution(MediumResolution(printer_));
-  printer_.setDocName(ToQString(texts::kProductName));
+  printer_.setResolution(kMediumQuality);
 }
 
 bool QtPage::Usable() {
-  return printer_.isValid() && printer_.pageLayout().pageSize().id() == QPageSize::A4 && Width() > 0;
+  return printer_.isValid() && printer_.pageLayout().pageSize().id() == QPageSize::A4 &&
+         !printer_.paperRect(QPrinter::DevicePixel).isEmpty();
 }
 
-bool QtPage::Begin() {
+bool QtPage::Begin(const QString& title) {
+  printer_.setDocName(title);
   new_page_pending_ = false;
-  return painter_.begin(&printer_);
+  if (!painter_.begin(&printer_)) return false;
+  const double dots_per_unit = printer_.resolution() / kUnitsPerInch;
+  painter_.scale(dots_per_unit, dots_per_unit);
+  return true;
 }
 
 void QtPage::End(bool keep) {
@@ -65,16 +78,21 @@ void QtPage::End(bool keep) {
 }
 
 int QtPage::Width() {
-  return static_cast<int>(printer_.paperRect(QPrinter::DevicePixel).width());
+  return static_cast<int>(
+      std::lround(printer_.paperRect(QPrinter::Millimeter).width() * kUnitsPerMillimetre));
 }
 
 int QtPage::Height() {
-  return static_cast<int>(printer_.paperRect(QPrinter::DevicePixel).height());
+  return static_cast<int>(
+      std::lround(printer_.paperRect(QPrinter::Millimeter).height() * kUnitsPerMillimetre));
 }
 
-QFont QtPage::FontOf(const Font& font) const {
+// As the PDF page has it: every letter by its own width alone.
+QFont QtPage::FontOf(const Font& font) {
   QFont result = ToQFont(font, 1);
-  result.setPixelSize(static_cast<int>(std::lround(font.size * printer_.resolution() / kPointsPerInch)));
+  result.setPixelSize(static_cast<int>(std::lround(font.size * kUnitsPerInch / kPointsPerInch)));
+  result.setKerning(false);
+  result.setHintingPreference(QFont::PreferNoHinting);
   return result;
 }
 
@@ -88,14 +106,13 @@ void QtPage::Text(int x, int y, const TextStyle& style, std::string_view text) {
   StartPending();
   const QFont font = FontOf(style.font);
   painter_.setFont(font);
-  painter_.setPen(ToQColor(style.colour, colours::kText));
+  painter_.setPen(ToQColor(style.colour, kPrinterBlack));
   painter_.drawText(QPointF(x, y + QFontMetricsF(font, &printer_).ascent()), ToQString(text));
 }
 
 void QtPage::SetPen(int width) {
   StartPending();
-  const double millimetres = width * kLineWidthStep / 100.0;
-  QPen pen(Qt::black, millimetres * printer_.resolution() / kMillimetresPerInch);
+  QPen pen(Qt::black, width * kLineWidthStep);
   pen.setCapStyle(Qt::FlatCap);
   pen.setJoinStyle(Qt::MiterJoin);
   painter_.setPen(pen);
@@ -149,8 +166,8 @@ class QtPrinter::WatchedPage final : public Page {
   QtPrinter& owner_;
 };
 
-QtPrinter::QtPrinter(Mirror& mirror, Dispatcher& dispatcher, Files& files, Asker& asker)
-    : mirror_(mirror), dispatcher_(dispatcher), files_(files), asker_(asker) {
+QtPrinter::QtPrinter(Mirror& mirror, Dispatcher& dispatcher, Files& files, Asker& asker, Settings& settings)
+    : mirror_(mirror), dispatcher_(dispatcher), files_(files), asker_(asker), settings_(settings) {
 }
 
 QtPrinter::~QtPrinter() = default;
@@ -159,12 +176,12 @@ Page* QtPrinter::SetUp() {
   page_.reset();
   printer_page_.reset();
   pdf_page_.reset();
-  const QString standard = QPrinterInfo::defaultPrinterName();
-  if (!standard.isEmpty()) {
-    printer_page_ = std::make_unique<QtPage>(standard);
-    if (!printer_page_->Usable()) printer_page_.reset();
-  }
-  if (printer_page_) {
+  const PrintQueue queue = FindPrintQueue();
+  queue_ = queue.name;
+  if (!queue.name.isEmpty()) {
+    if (!queue.ready) return nullptr;
+    printer_page_ = std::make_unique<QtPage>(queue.name);
+    if (!printer_page_->Usable()) return nullptr;
     page_ = std::make_unique<WatchedPage>(*printer_page_, *this);
   } else {
     pdf_page_ = MakeFilePage();
@@ -174,28 +191,38 @@ Page* QtPrinter::SetUp() {
   return page_.get();
 }
 
-std::optional<QString> QtPrinter::AskForFile() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  QFileDialog dialog(mirror_.TopWindow(), QLatin1String(texts::kSavePdf), folder,
+// Where the last file went, else among the user's documents, else in the home folder.
+QString QtPrinter::Folder() {
+  for (const QString& folder : {ToQString(settings_.Read(kSection, kFolderKey, "")),
+                                QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)}) {
+    if (!folder.isEmpty() && QFileInfo(folder).isDir()) return folder;
+  }
+  return QDir::homePath();
+}
+
+std::optional<QString> QtPrinter::AskForFile(const QString& title) {
+  QFileDialog dialog(mirror_.TopWindow(), QLatin1String(texts::kSavePdf), Folder(),
                      QLatin1String(texts::kPdfFiles));
   dialog.setObjectName(QStringLiteral("FileBox"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
-  dialog.selectFile(QLatin1String(texts::kPdfName));
+  dialog.selectFile(title + QStringLiteral(".pdf"));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return dialog.selectedFiles().constFirst();
 }
 
-bool QtPrinter::BeginDocument() {
+bool QtPrinter::BeginDocument(std::string_view title) {
   if (dispatcher_.Ended() || !page_) return false;
   stopped_ = false;
+  pages_ = 0;
+  outcome_.clear();
   if (printer_page_) {
-    if (!printer_page_->Begin()) return false;
+    if (!printer_page_->Begin(ToQString(title))) return false;
   } else {
     auto fresh = MakeFilePage();
     page_->TakeNew(*fresh);
     pdf_page_ = std::move(fresh);
-    const std::optional<QString> file = AskForFile();
+    const std::optional<QString> file = AskForFile(ToQString(title));
     if (!file || dispatcher_.Ended()) return false;
     file_ = *file;
   }
@@ -211,6 +238,7 @@ bool QtPrinter::BeginDocument() {
 }
 
 bool QtPrinter::PageDone() {
+  ++pages_;
   if (progress_) {
     progress_->setValue(progress_->value() + 1);
     QCoreApplication::processEvents();
@@ -222,20 +250,28 @@ bool QtPrinter::PageDone() {
 
 void QtPrinter::EndDocument() {
   progress_.reset();
-  if (printer_page_) {
-    printer_page_->End(!stopped_);
-  } else if (!stopped_) {
-    WritePdf();
+  if (printer_page_) printer_page_->End(!stopped_);
+  if (stopped_) {
+    outcome_ = texts::kStopped;
+  } else if (printer_page_) {
+    outcome_ = std::to_string(pages_) + (pages_ == 1 ? texts::kPageSentTo : texts::kPagesSentTo) +
+               queue_.toStdString();
+  } else if (WritePdf()) {
+    outcome_ = texts::kSavedIn + QDir::toNativeSeparators(file_).toStdString();
   }
 }
 
-void QtPrinter::WritePdf() {
+bool QtPrinter::WritePdf() {
   const Bytes bytes = pdf_page_->Finish(texts::kProductName).front();
   const FileResult result = files_.Replace(file_.toStdString(), bytes);
-  if (result) return;
+  if (result) {
+    (void)settings_.Write(kSection, kFolderKey, QFileInfo(file_).absolutePath().toStdString());
+    return true;
+  }
   // Whatever the answer, there is nothing left to do.
   (void)asker_.Message({texts::kNotSaved, texts::kNotSavedWhy + file_.toStdString() + "\n" + result.Reason(),
                         MessageIcon::Exclamation, MessageButtons::Ok});
+  return false;
 }
 
 }  // namespace kestrel

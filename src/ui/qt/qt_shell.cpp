@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/qt_shell.h"
 
+#include <unistd.h>
+
+#include <QEventLoop>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QStringList>
+#include <QTimer>
 
 #include "ui/qt/text_conversion.h"
 
@@ -11,7 +15,8 @@ namespace kestrel {
 
 namespace {
 
-constexpr int kPatience = 3000;  // milliseconds for the desktop to answer
+constexpr int kPatience = 3000;    // milliseconds for the desktop to answer
+constexpr int kTimeToFail = 2000;  // within which a starter that opens nothing gives up
 
 // True unless the desktop says that nothing is associated with HTML files.
 bool DesktopHasBrowser() {
@@ -47,8 +52,29 @@ std::optional<std::string> QtShell::FindExecutable(std::string_view /*path*/) {
   return program.toStdString();
 }
 
+// A starter that hands over to a running browser comes back soon, a browser itself stays. What is still
+// running in the end must outlive the program, so its object is never deleted.
 bool QtShell::Open(std::string_view program, std::string_view address) {
-  return QProcess::startDetached(ToQString(program), {ToQString(address)});
+  auto* process = new QProcess;
+  process->setProcessChannelMode(QProcess::ForwardedChannels);
+  process->setStandardInputFile(QProcess::nullDevice());
+  // An interrupt from the terminal is not meant for the browser.
+  process->setChildProcessModifier([] { ::setsid(); });
+  QEventLoop wait;
+  QObject::connect(process, &QProcess::finished, &wait, &QEventLoop::quit);
+  QObject::connect(process, &QProcess::errorOccurred, &wait, &QEventLoop::quit);
+  process->start(ToQString(program), {ToQString(address)});
+  QTimer::singleShot(kTimeToFail, &wait, &QEventLoop::quit);
+  if (process->state() != QProcess::NotRunning) wait.exec(QEventLoop::ExcludeUserInputEvents);
+  const bool running = process->state() != QProcess::NotRunning;
+  const bool opened = running || (process->error() == QProcess::UnknownError &&
+                                  process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0);
+  if (running) {
+    QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+  } else {
+    process->deleteLater();
+  }
+  return opened;
 }
 
 }  // namespace kestrel

@@ -26,9 +26,12 @@ inline constexpr const char* kMark = "mark";
 // Printing
 inline constexpr const char* kSavePdf = "Print into a PDF file";
 inline constexpr const char* kPdfFiles = "PDF files (*.pdf)";
-inline constexpr const char* kPdfName = "Kestrel Sudoku.pdf";
 inline constexpr const char* kPrinting = "Printing...";
 inline constexpr const char* kStop = "Stop";
+inline constexpr const char* kStopped = "Stopped. Nothing was printed.";
+inline constexpr const char* kPageSentTo = " page sent to ";
+inline constexpr const char* kPagesSentTo = " pages sent to ";
+inline constexpr const char* kSavedIn = "Saved in ";
 inline constexpr const char* kNotSaved = "PDF file";
 inline constexpr const char* kNotSavedWhy = "The file could not be written:\n";
 

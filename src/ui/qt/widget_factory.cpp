@@ -6,13 +6,13 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
-#include <QSlider>
 #include <QTimer>
 
 #include "ui/qt/fonts.h"
 #include "ui/qt/form_window.h"
 #include "ui/qt/help_view.h"
 #include "ui/qt/input_widgets.h"
+#include "ui/qt/page_preview.h"
 #include "ui/qt/palette.h"
 #include "ui/qt/small_widgets.h"
 
@@ -86,7 +86,7 @@ void ShowTextBox(TextField& widget, const TextBox& now, const TextBox* before) {
   if (const QString text = ToQString(now.text); widget.text() != text) widget.setText(text);
 }
 
-void ShowSlider(QSlider& widget, const Slider& now, const Slider* /*before*/) {
+void ShowSlider(StepSlider& widget, const Slider& now, const Slider* /*before*/) {
   widget.setRange(now.minimum, now.maximum);
   widget.setValue(now.value);
 }
@@ -111,6 +111,10 @@ void ShowPanel(StatusLabel& widget, const StatusPanel& now, const StatusPanel* /
 
 void ShowPicture(PictureButton& widget, const Picture& now, const Picture* before) {
   if (before == nullptr || now.file != before->file) widget.Show(now);
+}
+
+void ShowPage(PagePreview& widget, const PageView& now, const PageView* /*before*/) {
+  widget.Show(now.page);
 }
 
 // The panel paints itself; there is no file.
@@ -154,6 +158,14 @@ void SetFocusPolicy(QWidget& widget, FormId form, int tab_index) {
 template <class Entry>
 void TellClick(const Entry& entry, const QWidget& widget) {
   if (widget.isEnabled() && !BehindDialog(widget)) entry.Tell(EventKind::Click);
+}
+
+// True, and the widget as it was, when an assistive tool changed it behind a dialog. What else the change
+// does to the widget or to its neighbours comes first.
+bool Refused(MirroredControl& entry, QWidget& widget) {
+  if (!BehindDialog(widget)) return false;
+  QTimer::singleShot(0, &widget, [&entry] { entry.Restore(); });
+  return true;
 }
 
 // A button pressed by its letter has not taken the focus; a text box must learn that it is left.
@@ -202,6 +214,7 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
   QObject::connect(widget, &QRadioButton::toggled,
                    [entry = mirrored.get(), widget, id, unchoose = context.unchoose_others](bool checked) {
                      SetTabStop(*widget);
+                     if (Refused(*entry, *widget)) return;
                      if (!checked || entry->Control().value) return;
                      LeaveTextBox(*widget);
                      unchoose(id);
@@ -216,6 +229,7 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
                                                                   *widget, ShowCheckBox);
   SetFocusPolicy(*widget, context.form, control.tab_index);
   QObject::connect(widget, &QCheckBox::toggled, [entry = mirrored.get(), widget](bool checked) {
+    if (Refused(*entry, *widget)) return;
     LeaveTextBox(*widget);
     entry->UserChanged(&CheckBox::value, checked, EventKind::Click);
   });
@@ -229,6 +243,7 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
                                                                 *widget, ShowList);
   // A click on the line that is selected already counts as one, too.
   const auto selected = [entry = mirrored.get(), widget] {
+    if (Refused(*entry, *widget)) return;
     entry->UserChanged(&ListBox::index, widget->Selected(), EventKind::Click);
   };
   QObject::connect(widget, &LineList::itemSelectionChanged, selected);
@@ -261,13 +276,11 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
 }
 
 MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, Slider& control) {
-  auto* widget = new QSlider(Qt::Horizontal, parent);
-  widget->setPageStep(1);
-  widget->setTickPosition(QSlider::TicksBelow);
-  widget->setTickInterval(1);
-  auto mirrored = std::make_unique<Mirrored<Slider, QSlider>>(context.form, id, context.sink, control,
-                                                              *widget, ShowSlider);
-  QObject::connect(widget, &QSlider::valueChanged, [entry = mirrored.get()](int value) {
+  auto* widget = new StepSlider(parent);
+  auto mirrored = std::make_unique<Mirrored<Slider, StepSlider>>(context.form, id, context.sink, control,
+                                                                 *widget, ShowSlider);
+  QObject::connect(widget, &StepSlider::valueChanged, [entry = mirrored.get(), widget](int value) {
+    if (Refused(*entry, *widget)) return;
     entry->UserChanged(&Slider::value, value, EventKind::Change);
   });
   return mirrored;
@@ -294,6 +307,11 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
   QObject::connect(widget, &PictureButton::clicked,
                    [entry = mirrored.get(), widget] { TellClick(*entry, *widget); });
   return mirrored;
+}
+
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, PageView& control) {
+  return std::make_unique<Mirrored<PageView, PagePreview>>(context.form, id, context.sink, control,
+                                                           *new PagePreview(parent), ShowPage);
 }
 
 MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, WebView& control) {

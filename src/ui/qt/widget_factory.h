@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "forms/event.h"
+#include "forms/page_view.h"
 #include "ui/qt/mirrored.h"
 
 namespace kestrel {
@@ -37,6 +38,7 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
 MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, ProgressBar& control);
 MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, StatusPanel& control);
 MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, Picture& control);
+MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, PageView& control);
 MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, WebView& control);
 MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, Timer& control);
 

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+// The program's windows for assistive tools. Used by the front end.
+#pragma once
+
+namespace kestrel {
+
+// Makes Qt describe the forms as the windows and dialogs that they are, without what is only there while the
+// program starts.
+void InstallWindowAccess();
+
+}  // namespace kestrel
