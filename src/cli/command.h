@@ -37,6 +37,7 @@ struct CliPorts {
 
 extern const CommandSpec kRateSpec;
 extern const CommandSpec kSolveSpec;
+extern const CommandSpec kExplainSpec;
 extern const CommandSpec kGenerateSpec;
 extern const CommandSpec kPrintSpec;
 extern const CommandSpec kStockNewSpec;
@@ -48,6 +49,7 @@ extern const CommandSpec kStockExportSpec;
 // Each reads its options first; when they are wrong it does nothing else and leaves the error in `arguments`.
 ExitStatus RateCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus SolveCommand(Arguments& arguments, CliPorts& ports);
+ExitStatus ExplainCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus GenerateCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus PrintCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus StockNewCommand(Arguments& arguments, CliPorts& ports);

@@ -15,9 +15,10 @@ struct Command {
   ExitStatus (*run)(Arguments&, CliPorts&);
 };
 
-constexpr std::array<Command, 9> kCommands{{
+constexpr std::array<Command, 10> kCommands{{
     {&kRateSpec, RateCommand},
     {&kSolveSpec, SolveCommand},
+    {&kExplainSpec, ExplainCommand},
     {&kGenerateSpec, GenerateCommand},
     {&kPrintSpec, PrintCommand},
     {&kStockNewSpec, StockNewCommand},

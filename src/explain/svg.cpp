@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "explain/svg.h"
 
-#include <array>
-#include <cstdio>
+#include <cmath>
+#include <cstdlib>
 
 namespace kestrel {
 namespace {
@@ -24,10 +24,11 @@ std::string Look(const Stroke& look) {
 }  // namespace
 
 std::string SvgNumber(double value) {
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%.1f", value);
-  std::string number = text.data();
-  if (number.ends_with(".0")) number.resize(number.size() - 2);
+  const long tenths = std::lround(value * 10);
+  const long whole = std::labs(tenths) / 10;
+  const long rest = std::labs(tenths) % 10;
+  std::string number = (tenths < 0 ? "-" : "") + std::to_string(whole);
+  if (rest != 0) number += '.' + std::to_string(rest);
   return number;
 }
 

@@ -5,10 +5,11 @@
 #include <array>
 #include <string_view>
 
+#include "core/level_names.h"
+
 namespace kestrel::texts {
 
-inline constexpr std::array<std::string_view, 5> kLevelNames = {"Very Easy", "Easy", "Medium", "Hard",
-                                                                "Very Hard"};
+using kestrel::kLevelNames;
 
 // Main window
 inline constexpr std::string_view kProductName = "Kestrel Sudoku";

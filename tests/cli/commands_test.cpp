@@ -11,6 +11,7 @@
 #include "cli/progress.h"
 #include "cli/puzzle_reader.h"
 #include "core/text.h"
+#include "explain/walkthrough.h"
 #include "support/plain_solver.h"
 #include "support/temp_folder.h"
 #include "support/test_puzzles.h"
@@ -190,6 +191,43 @@ TEST(Solve, SaysEveryStepInWords) {
     EXPECT_NE(solved.out.find(Fields(line)[1] + "\n"), std::string::npos) << line;
   }
   EXPECT_EQ(sentences, 47);
+}
+
+// Every stored puzzle's page tells of the steps of the trace in their order, and nothing that it removes or places
+// goes against the solution.
+TEST(Explain, TellsTheStepsOfTheTraceAndKeepsToTheSolution) {
+  std::ifstream file(KESTREL_SOURCE_DIR "/data/sudstock.kpz", std::ios::binary);
+  NeverStop yield;
+  std::vector<std::uint8_t> bytes(kRecordBytes);
+  int puzzles = 0;
+  for (; file.read(reinterpret_cast<char*>(bytes.data()), kRecordBytes); ++puzzles) {
+    const SudokuRecord record = DecodeRecord(std::span(bytes).first<kRecordBytes>());
+    const std::string puzzle = GridText(record.GivenCells) + '\n';
+    const std::optional<Walkthrough> walkthrough = ExplainPuzzle(record.GivenCells, yield);
+    for (const Example& step : walkthrough->steps) {
+      const Finding& f = step.finding;
+      for (const Removal& r : f.removals)
+        EXPECT_FALSE(HasDigit(r.digits, record.SolutionCells[r.cell])) << puzzle;
+      if (f.placed_cell >= 0) {
+        EXPECT_EQ(f.placed_digit, record.SolutionCells[f.placed_cell]) << puzzle;
+      }
+    }
+    const std::string page =
+        RunWith({"explain", "--steps", puzzles % 2 == 0 ? "all" : "gathered"}, puzzle).out;
+    std::istringstream trace(RunWith({"solve", "--trace"}, puzzle).out);
+    std::size_t at = 0;
+    int count = 0;
+    for (int step = 0; trace >> step;) {
+      std::string start = "id=\"step-" + std::to_string(++count) + "\"><b>";
+      at = page.find(start.append(RowOf(TechniqueOfStep(step)).caption), at);
+      ASSERT_NE(at, std::string::npos) << puzzle << count;
+    }
+    EXPECT_EQ(page.find("id=\"step-" + std::to_string(count + 1)), std::string::npos);
+    EXPECT_TRUE(page.find("http://") == page.find("http://www.w3.org/2000/svg") &&
+                page.find("<script") == std::string::npos);
+  }
+  EXPECT_EQ(puzzles, 500);
+  EXPECT_EQ(RunWith({"explain"}, "\n").status, 1);
 }
 
 TEST(Generate, SameSeedSamePuzzlesWhateverTheJobs) {
