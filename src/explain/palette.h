@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The colours of the pictures. A picture is drawn in one palette and carries plain colour values: the help window's
-// renderer knows no style sheets. No two colours of the light palette are the same, so that a page can put the dark
-// ones in their place by style (DarkPictureStyle).
+// renderer knows no style sheets. Two colours are the same in the light palette only if they are in the dark one, so
+// that a page can put the dark ones in their place by style.
 #pragma once
 
 namespace kestrel {
@@ -22,8 +22,8 @@ struct Palette {
 };
 
 inline constexpr Palette kLightPalette{"#ffffff", "#20262d", "#9aa3ad", "#4a4f57", "#0000a0", "#000000",
-                                       "#1a56a8", "#fefefe", "#b3261e", "#fdeceb", "#e3edfa", "#fbf1d9"};
+                                       "#1a56a8", "#ffffff", "#b3261e", "#fdeceb", "#e3edfa", "#fbf1d9"};
 inline constexpr Palette kDarkPalette{"#1e2227", "#e4e7eb", "#59626d", "#b6bec8", "#93bbff", "#f3f5f7",
-                                      "#7db1f7", "#10151b", "#ff9087", "#4b2624", "#25374f", "#483d20"};
+                                      "#7db1f7", "#1e2227", "#ff9087", "#4b2624", "#25374f", "#483d20"};
 
 }  // namespace kestrel
