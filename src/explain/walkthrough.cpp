@@ -2,6 +2,7 @@
 #include "explain/walkthrough.h"
 
 #include <array>
+#include <cstdint>
 #include <utility>
 
 #include "core/level_names.h"
