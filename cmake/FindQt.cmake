@@ -2,7 +2,7 @@
 # Sets KESTREL_WITH_QT: whether the window is built.
 set(KESTREL_WITH_QT OFF)
 if(NOT KESTREL_QT STREQUAL "OFF")
-  find_package(Qt6 6.4 QUIET COMPONENTS Widgets PrintSupport Multimedia)
+  find_package(Qt6 6.4 QUIET COMPONENTS Widgets DBus PrintSupport Multimedia)
   if(Qt6_FOUND)
     set(KESTREL_WITH_QT ON)
   elseif(KESTREL_QT STREQUAL "ON")

@@ -13,15 +13,16 @@ allowed() {
     host | forms | solver) echo core ;;
     hint | generator | explain) echo core solver ;;
     media) echo core forms ;;
+    view) echo core forms solver ;;
     stock) echo core solver generator ;;
     players) echo core forms media ;;
     print) echo core forms solver ;;
     game) echo "$logic" explain players print ;;
     cli) echo core host forms solver generator explain print stock ;;
     ui/memory) echo "$logic" players print game ;;
-    ui/qt) echo "$logic" host explain players print game ;;
+    ui/qt) echo "$logic" host explain view players print game ;;
     ui/script) echo "$logic" host players print game ui/memory ;;
-    app) echo "$logic" host explain stock players print game cli ui/memory ui/qt ui/script ;;
+    app) echo "$logic" host explain view stock players print game cli ui/memory ui/qt ui/script ;;
     *) echo "unknown folder $1" >&2; exit 1 ;;
   esac
 }

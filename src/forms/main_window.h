@@ -4,9 +4,11 @@
 #pragma once
 
 #include <concepts>
+#include <cstdint>
 #include <type_traits>
 #include <utility>
 
+#include "core/cell_set.h"
 #include "core/grid.h"
 #include "core/technique.h"
 #include "forms/control.h"
@@ -30,6 +32,9 @@ inline constexpr int kListPitch = 240;
 
 // Digits with which Mark can be indexed: Mark(d)(cell) is the pencil mark of digit d, named Mark1 .. Mark9.
 using MarkArray = ControlArray<Label, 0, kCells>;
+
+// How the open puzzle ended.
+enum class PuzzleEnd : std::uint8_t { None, Solved, Revealed };
 
 struct MainWindow {
   Window window;
@@ -63,6 +68,10 @@ struct MainWindow {
   Button cmdPlayers;
   ControlArray<StatusPanel, 1, 5> StatusBar;
   Timer Timer1;
+
+  // What the board as a whole shows beside its controls.
+  PuzzleEnd end = PuzzleEnd::None;
+  CellSet filled_in;  // where Solution put a digit that the player had not found
 
   friend bool operator==(const MainWindow&, const MainWindow&) = default;
 };

@@ -7,6 +7,8 @@
 namespace kestrel {
 
 void Board::ClearGrid() {
+  main_.end = PuzzleEnd::None;
+  main_.filled_in = CellSet();
   for (int cell = 0; cell < kCells; ++cell) {
     for (int digit = 1; digit <= 9; ++digit) {
       Label& mark = main_.Mark(digit)(cell);
@@ -89,7 +91,9 @@ void Board::LayOutGiven(int digit, int cell) {
 }
 
 void Board::ShowSolution() {
+  main_.end = PuzzleEnd::Revealed;
   for (int cell = 0; cell < kCells; ++cell) {
+    if (puzzle_.CurrentDigits[cell] != puzzle_.SolutionDigits[cell]) main_.filled_in.Add(cell);
     HideMarks(kAllDigits, cell);
     SetDigit(puzzle_.SolutionDigits[cell], cell);
   }

@@ -29,6 +29,7 @@ bool NewBestTime(Session& session) {
 
 void ZetOpgelost(Session& session) {
   session.clock.Stop();
+  session.forms.main.end = PuzzleEnd::Solved;
   session.sounds.Speel(Sound::Applause);
   const bool named = session.players.CurrentPlayer > 0;
   if (named && IsNewBestTime(session.puzzle, session.clock.ElapsedSeconds) && !NewBestTime(session)) return;

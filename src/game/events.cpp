@@ -10,6 +10,7 @@
 #include "game/opening.h"
 #include "game/options.h"
 #include "media/web_link.h"
+#include "solver/technique_table.h"
 
 namespace kestrel {
 
@@ -72,6 +73,7 @@ void Game::Click(ControlId control) {
   if (row != kCommands.end()) return row->command(session_);
   if (control.name == "OptionType") return SelectLevel(session_, control.index);
   if (control.name == "RenewLevel") return renewal_.Click(control.index);
+  if (control.name == "LabelCount") return OpenTechniquePage(session_, control.index % kTechniques + 1);
   if (control.name == "cmdPlayers") return RunPlayersDialog();
   if (control.name == "CommandPrint") return RunPrintDialog();
 }

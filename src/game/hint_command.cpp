@@ -52,7 +52,11 @@ void Hint(Session& session) {
 }
 
 void OpenHintPage(Session& session) {
-  const Technique technique = TechniqueOfStep(WholeNumber(session.forms.main.LabelHint.tag).value_or(0));
+  OpenTechniquePage(session, WholeNumber(session.forms.main.LabelHint.tag).value_or(0));
+}
+
+void OpenTechniquePage(Session& session, int step) {
+  const Technique technique = TechniqueOfStep(step);
   if (technique != Technique::None) session.help.ShowPage(RowOf(technique).help_page);
 }
 

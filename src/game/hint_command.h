@@ -13,4 +13,7 @@ void Hint(Session& session);
 // A click on the marker: opens the help page of the marked technique.
 void OpenHintPage(Session& session);
 
+// A click on a row of the technique list: the help page of step 1..22, nothing for other numbers.
+void OpenTechniquePage(Session& session, int step);
+
 }  // namespace kestrel

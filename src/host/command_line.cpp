@@ -8,11 +8,12 @@ namespace kestrel {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, double>, 4> kScales = {
-    {{"1", 1}, {"1.25", 1.25}, {"1.5", 1.5}, {"2", 2}}};
+constexpr std::array<std::pair<std::string_view, double>, 5> kScales = {
+    {{"0.75", 0.75}, {"1", 1}, {"1.25", 1.25}, {"1.5", 1.5}, {"2", 2}}};
 
 constexpr std::array<OptionSpec, 6> kGameOptions{{
-    {"scale", "1|1.25|1.5|2", "size of everything, times the desktop's own scale; remembered"},
+    {"scale", "0.75|1|1.25|1.5|2",
+     "size of everything, times the desktop's own scale;\nremembered, and changed in the View menu"},
     {"screenshot", "FILE",
      "open the next puzzle off screen, save its picture, and end;\nthe settings stay as they are"},
     {"home", "DIR", "keep puzzles and, unless --settings is given, settings\n(settings.ini) in this folder"},
@@ -28,14 +29,6 @@ std::optional<double> ParseScale(std::string_view text) {
     if (text == name) return value;
   }
   return std::nullopt;
-}
-
-double FittingScale(double wanted, double room) {
-  double fitting = 1;
-  for (const auto& [name, value] : kScales) {
-    if (value <= wanted && value <= room) fitting = value;
-  }
-  return fitting;
 }
 
 const CommandSpec kGameSpec{
@@ -60,7 +53,7 @@ std::optional<GameOptions> ParseGameArguments(std::span<const std::string> words
   options.version = arguments.Has("version");
   if (arguments.Has("scale")) {
     options.scale = ParseScale(arguments.Text("scale", ""));
-    if (!options.scale) arguments.FailValue("scale", "1, 1.25, 1.5 or 2");
+    if (!options.scale) arguments.FailValue("scale", "0.75, 1, 1.25, 1.5 or 2");
   }
   error = arguments.Error();
   if (!error.empty()) return std::nullopt;

@@ -28,11 +28,8 @@ std::optional<GameOptions> ParseGameArguments(std::span<const std::string> words
 
 extern const CommandSpec kGameSpec;
 
-// A scale as the option and the setting spell it; nothing for all but "1", "1.25", "1.5" and "2".
+// A scale as the option and the setting spell it; nothing for all but "0.75", "1", "1.25", "1.5" and
+// "2".
 std::optional<double> ParseScale(std::string_view text);
-
-// The largest scale up to the wanted one that is not above `room`, the scale at which the window would just
-// fill the screen; at least 1.
-double FittingScale(double wanted, double room);
 
 }  // namespace kestrel

@@ -11,15 +11,6 @@ namespace {
 
 constexpr std::string_view kSettingsFolder = "Grendale";  // the application's name in the settings store
 constexpr std::string_view kSettingsFile = "settings.ini";
-constexpr std::string_view kOptions = "Options";
-constexpr std::string_view kScale = "Scale";
-
-std::string ScaleText(double scale) {
-  std::string text = std::to_string(scale);  // "1.250000"
-  text.erase(text.find_last_not_of('0') + 1);
-  if (text.ends_with('.')) text.pop_back();
-  return text;
-}
 
 }  // namespace
 
@@ -56,14 +47,6 @@ std::string SettingsPath(const GameOptions& options, const std::string& home, Ho
   // Where it cannot be made, the settings last for this run.
   (void)files.MakeFolders(folder);
   return folder + '\\' + std::string(kSettingsFile);
-}
-
-double ChooseScale(const GameOptions& options, Settings& settings) {
-  if (options.scale) {
-    (void)settings.Write(kOptions, kScale, ScaleText(*options.scale));
-    return *options.scale;
-  }
-  return ParseScale(settings.Read(kOptions, kScale, "1")).value_or(1);
 }
 
 }  // namespace kestrel

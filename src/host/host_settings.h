@@ -45,8 +45,4 @@ class SettingsInMemory final : public Settings {
 // user's configuration folder. Makes that folder and the one of the user's data where they are missing.
 std::string SettingsPath(const GameOptions& options, const std::string& home, HostFiles& files);
 
-// The scale of the command line, which is remembered, or else the one remembered; 1 where that makes no
-// sense.
-double ChooseScale(const GameOptions& options, Settings& settings);
-
 }  // namespace kestrel

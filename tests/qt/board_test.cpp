@@ -117,6 +117,7 @@ TEST(Board, ShowsWhatCanBeClicked) {
 
 TEST(Board, PaintsOnlyWhatChanged) {
   Play play(3);
+  play.game.front_end.Choices().SetDigitLens(false);
   BoardWidget& board = *play.game.front_end.Windows().Board();
   QTest::mouseMove(play.game.Window().windowHandle(), QPoint(1, 1));
   play.game.Settle();
@@ -135,6 +136,47 @@ TEST(Board, PaintsOnlyWhatChanged) {
   play.game.clock.now += 61;
   EXPECT_TRUE(play.game.WaitFor([&] { return play.game.Main().LabelTijd.caption == "01:01"; }));
   EXPECT_TRUE(watch.painted.isEmpty());
+}
+
+// The state that makes board and clock look solved, and where it must not be.
+TEST(Board, KnowsHowAPuzzleEnded) {
+  Play play(1);
+  const auto fill = [&](int shift) {
+    const int cell = play.game.EmptyCell();
+    play.game.ClickMark(cell, (play.game.SolutionOf(cell) + shift - 1) % 9 + 1);
+  };
+  fill(1);
+  while (play.game.EmptyCell() >= 0) fill(0);
+  EXPECT_EQ(play.game.Main().end, PuzzleEnd::None);  // full, but wrong
+  while (play.Steps() > 0) play.game.ClickControl("CommandUndo");
+  while (play.game.EmptyCell() >= 0) fill(0);
+  EXPECT_EQ(play.game.Main().end, PuzzleEnd::Solved);
+  EXPECT_TRUE(play.game.Main().filled_in.Empty());
+  play.game.ClickControl("CommandNew");
+  EXPECT_EQ(play.game.Main().end, PuzzleEnd::None);
+  play.game.ClickControl("CommandSolution");
+  EXPECT_EQ(play.game.Main().end, PuzzleEnd::Revealed);
+  EXPECT_FALSE(play.game.Main().filled_in.Empty());
+}
+
+TEST(Board, FollowsTheViewMenuAtOnce) {
+  Play play(3);
+  ViewChoices& choices = play.game.front_end.Choices();
+  choices.SetSize(150);
+  choices.SetColours(ColourChoice::Dark);
+  play.game.Settle();
+  EXPECT_EQ(play.game.Window().size(), QSize(1152, 987));
+  EXPECT_EQ(play.game.Window().palette().color(QPalette::Window), QColor(ColoursOf(Scheme::Dark).window));
+  // A mark is where it is painted.
+  const QPoint middle = (play.corner + QPoint(8, 8)) * 1.5;
+  QTest::mouseMove(play.game.Window().windowHandle(), middle);
+  BoardWidget& board = *play.game.front_end.Windows().Board();
+  EXPECT_TRUE(play.game.WaitFor([&] { return board.Lens().has_value(); }));
+  EXPECT_EQ(board.Lens()->digit, play.digit);
+  play.game.Click(middle);
+  EXPECT_EQ(play.Digit(), play.digit);
+  choices.SetSize(100);
+  choices.SetColours(ColourChoice::Light);
 }
 
 }  // namespace

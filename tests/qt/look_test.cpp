@@ -15,42 +15,80 @@
 namespace kestrel::testing {
 namespace {
 
-constexpr double kScales[] = {1, 1.25, 1.5, 2};
+constexpr double kScales[] = {0.75, 1, 1.25, 1.5, 2};
+constexpr Scheme kSchemes[] = {Scheme::Light, Scheme::Dark, Scheme::HighContrast};
 
-TEST(Look, AllTextsCanBeRead) {
-  // The measure itself: black on white, and a pair known to miss the mark.
-  EXPECT_NEAR(ContrastRatio(Qt::black, Qt::white), 21, 0.01);
-  EXPECT_NEAR(ContrastRatio(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.01);
-  using namespace colours;
-  for (const auto& [text, ground] : {std::pair{kMark, kPaper},
-                                     {kMark, kHover},
-                                     {kMark, kPressed},
-                                     {kDeafMark, kPaper},
-                                     {kText, kTrack},
-                                     {kDisabledText, kDisabledButton},
-                                     {kAccentText, kWarning},
-                                     {kAccentText, kTargetCell}}) {
-    EXPECT_GE(ContrastRatio(text, ground), 4.5);
+// Colours that meet on the screen: an ink and the grounds that it is painted on.
+using Meetings = std::vector<std::pair<QColor, std::vector<QColor>>>;
+
+Meetings TextsOf(const Colours& c) {
+  Meetings texts = {
+      {c.text, {c.window, c.paper, c.lines, c.lens, c.hover, c.pressed, c.tooltip, c.note, c.button}},
+      {c.text, {c.white, c.light_yellow, c.light_green, c.light_cyan, c.light_blue, c.light_red}},
+      {c.disabled_text, {c.window, c.disabled_button}},
+      {c.given, {c.given_cell, c.given_lines, c.lens}},
+      {c.mark, {c.paper, c.lines, c.lens}},
+      {c.black, {c.window, c.hover}},
+      {c.selected_header, {c.selected_ground}},
+      {c.link, {c.window}},
+      {c.accent_text, {c.accent, c.warning, c.target}}};
+  for (const QColor face : {QColor(c.light_green), QColor(c.light_red)}) {
+    texts.push_back({c.text, {HoverFace(face), PressedFace(face)}});
+    texts.push_back({c.disabled_text, {DisabledFace(c, face)}});
   }
-  for (const QColor& face :
-       {QColor(colours::kButton), QColor(colours::kWindow), ToQColor(kLightGreen, colours::kButton),
-        ToQColor(kLightRed, colours::kButton)}) {
-    EXPECT_GE(ContrastRatio(colours::kBorder, face), 3);
+  return texts;
+}
+
+Meetings LinesOf(const Colours& c) {
+  Meetings lines = {{c.border, {c.button, c.window, c.paper, c.light_green, c.light_red}},
+                    {c.solved, {c.light_green, c.window}},
+                    {c.accent, {c.window, c.paper, c.track}}};
+  for (const QColor line : {c.thin_line, c.thick_line, c.solved, c.target}) {
+    lines.push_back({line, {c.paper, c.given_cell, c.lines, c.lens}});
+  }
+  return lines;
+}
+
+void ExpectContrast(const Meetings& meetings, double least) {
+  for (const auto& [ink, grounds] : meetings) {
+    for (const QColor& ground : grounds) {
+      EXPECT_GE(ContrastRatio(ink, ground), least) << qPrintable(ink.name() + " on " + ground.name());
+    }
   }
 }
 
-// Every text and ground that the palette of the widgets combines.
-TEST(Look, PaletteIsLightInAllStates) {
-  const QPalette palette = QApplication::palette();
-  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-    for (const auto& [text, ground] : {std::pair{QPalette::WindowText, QPalette::Window},
-                                       {QPalette::Text, QPalette::Base},
-                                       {QPalette::ButtonText, QPalette::Button},
-                                       {QPalette::ToolTipText, QPalette::ToolTipBase},
-                                       {QPalette::HighlightedText, QPalette::Highlight}}) {
-      EXPECT_GE(ContrastRatio(palette.color(group, text), palette.color(group, ground)), 4.5)
-          << group << " " << text;
+TEST(Look, EverythingCanBeSeenInEveryPalette) {
+  // The measure itself: black on white, and a pair known to miss the mark.
+  EXPECT_NEAR(ContrastRatio(Qt::black, Qt::white), 21, 0.01);
+  EXPECT_NEAR(ContrastRatio(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.01);
+  for (const Scheme scheme : kSchemes) {
+    const Colours& colours = ColoursOf(scheme);
+    const double least = scheme == Scheme::HighContrast ? 7 : 4.5;
+    ExpectContrast(TextsOf(colours), least);
+    ExpectContrast(LinesOf(colours), 3);
+    // Every text and ground that the palette of the widgets combines.
+    const QPalette palette = ToQPalette(colours);
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+      for (const auto& [text, ground] : {std::pair{QPalette::WindowText, QPalette::Window},
+                                         {QPalette::Text, QPalette::Base},
+                                         {QPalette::ButtonText, QPalette::Button},
+                                         {QPalette::ToolTipText, QPalette::ToolTipBase},
+                                         {QPalette::HighlightedText, QPalette::Highlight}}) {
+        EXPECT_GE(ContrastRatio(palette.color(group, text), palette.color(group, ground)), least) << text;
+      }
     }
+  }
+}
+
+// A colour that the game names is itself in the light palette, and of the same hue in all.
+TEST(Look, NamedColoursKeepTheirHue) {
+  for (const Colour named : {kRed, kLightYellow, kLightGreen, kLightCyan, kLightBlue, kLightRed, kDarkBlue}) {
+    const QColor light = ColoursOf(Scheme::Light).Of(named, 0);
+    EXPECT_EQ(light, ToQColor(named, 0));
+    EXPECT_NEAR(light.hue(), ColoursOf(Scheme::Dark).Of(named, 0).hue(), named == kDarkBlue ? 30 : 20);
+    // There the givens are yellow: blue cannot be bright.
+    if (named == kDarkBlue) continue;
+    EXPECT_NEAR(light.hue(), ColoursOf(Scheme::HighContrast).Of(named, 0).hue(), 20) << named;
   }
 }
 
@@ -103,34 +141,38 @@ void HideMarks(MainWindow& main) {
   }
 }
 
-QImage Paint(const MainWindow& main, double scale) {
+QImage Paint(const MainWindow& main, double scale, const Colours& colours = ColoursOf(Scheme::Light)) {
   QImage image(QSize(587, 591) * scale, QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
-  BoardPainter(main, scale).Paint(painter, QRegion(image.rect()), {}, false);
+  BoardPainter(main, scale, colours).Paint(painter, QRegion(image.rect()));
   return image;
 }
 
 // Paints the board with and without marks: where a line is, nothing may differ, and every mark shows.
+void ExpectWholeMarks(double scale, const Colours& colours) {
+  MainWindow main = MakeMainWindow();
+  const QImage full = Paint(main, scale, colours);
+  HideMarks(main);
+  const QImage empty = Paint(main, scale, colours);
+  const BoardPainter places(main, scale, colours);
+  int on_lines = 0;
+  for (int y = 0; y < full.height(); ++y) {
+    for (int x = 0; x < full.width(); ++x) {
+      const bool line = empty.pixel(x, y) == colours.thin_line || empty.pixel(x, y) == colours.thick_line;
+      if (line && full.pixel(x, y) != empty.pixel(x, y)) ++on_lines;
+    }
+  }
+  EXPECT_EQ(on_lines, 0) << scale;
+  for (int digit = 1; digit <= 9; ++digit) {
+    const QRect place = places.MarkRect(digit, 40);
+    EXPECT_NE(full.copy(place), empty.copy(place)) << digit << " at " << scale;
+  }
+}
+
 TEST(Look, NoLineCutsAMark) {
   for (const double scale : kScales) {
-    MainWindow main = MakeMainWindow();
-    const QImage full = Paint(main, scale);
-    HideMarks(main);
-    const QImage empty = Paint(main, scale);
-    const BoardPainter places(main, scale);
-    int on_lines = 0;
-    for (int y = 0; y < full.height(); ++y) {
-      for (int x = 0; x < full.width(); ++x) {
-        const bool line = empty.pixel(x, y) == colours::kThinLine || empty.pixel(x, y) == colours::kThickLine;
-        if (line && full.pixel(x, y) != empty.pixel(x, y)) ++on_lines;
-      }
-    }
-    EXPECT_EQ(on_lines, 0) << scale;
-    for (int digit = 1; digit <= 9; ++digit) {
-      const QRect place = places.MarkRect(digit, 40);
-      EXPECT_NE(full.copy(place), empty.copy(place)) << digit << " at " << scale;
-    }
+    for (const Scheme scheme : kSchemes) ExpectWholeMarks(scale, ColoursOf(scheme));
   }
 }
 

@@ -27,6 +27,6 @@ int main(int argc, char** argv) {
   QApplication::setDesktopSettingsAware(false);
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   const QApplication application(argc, argv);
-  kestrel::SetUpLook();
+  kestrel::SetUpApplication();
   return RUN_ALL_TESTS();
 }

@@ -45,7 +45,9 @@ int ExpectAllShown(QtGame& game) {
     EXPECT_EQ(widget->isEnabled(), control.enabled);
     EXPECT_EQ(!widget->isHidden(), control.visible);
     EXPECT_EQ(widget->mapTo(&game.Window(), QPoint(0, 0)), QtGame::Corner(control));
-    EXPECT_EQ(widget->toolTip(), ToQString(control.tooltip));
+    const TipState state{game.State().puzzle.MarksAreCandidates(), 0};
+    const std::string tip = StateTip(game.Main(), state, id);
+    EXPECT_EQ(widget->toolTip(), ToQString(tip.empty() ? control.tooltip : tip));
     EXPECT_FALSE(widget->accessibleName().isEmpty() && !widget->isHidden() && id.name != "StatusBar");
     ExpectShown(*widget, control);
   });

@@ -25,33 +25,8 @@ TEST(Start, TakesTheArgumentsApart) {
   EXPECT_TRUE(Parse({"--version"}, error)->version);
   EXPECT_TRUE(Parse({"--help"}, error)->help);
   EXPECT_FALSE(Parse({"--scale", "3"}, error));
-  EXPECT_EQ(error, "option '--scale' needs 1, 1.25, 1.5 or 2, not '3'");
-  EXPECT_EQ(FittingScale(2, 2), 2);
-  EXPECT_EQ(FittingScale(2, 1.6), 1.5);
-  EXPECT_EQ(FittingScale(1.25, 0.9), 1);
+  EXPECT_EQ(error, "option '--scale' needs 0.75, 1, 1.25, 1.5 or 2, not '3'");
   EXPECT_FALSE(Parse({"puzzle.kpz"}, error));
-}
-
-TEST(Start, RemembersTheScale) {
-  const TempFolder folder;
-  SystemCalls calls;
-  HostFiles files(calls);
-  SettingsFile settings(files, folder.Written("settings.ini"));
-  GameOptions options;
-  EXPECT_EQ(ChooseScale(options, settings), 1);
-  options.scale = 1.5;
-  EXPECT_EQ(ChooseScale(options, settings), 1.5);
-  EXPECT_EQ(ChooseScale(GameOptions(), settings), 1.5);
-  for (const char* damaged : {"", "0", "1e9", "-2", "two"}) {
-    (void)settings.Write("Options", "Scale", damaged);
-    EXPECT_EQ(ChooseScale(GameOptions(), settings), 1) << damaged;
-  }
-  // What the picture's taker chooses stays in memory.
-  SettingsInMemory kept(settings);
-  options.scale = 2;
-  EXPECT_EQ(ChooseScale(options, kept), 2);
-  EXPECT_EQ(ChooseScale(GameOptions(), kept), 2);
-  EXPECT_EQ(ChooseScale(GameOptions(), settings), 1);
 }
 
 TEST(Start, TakesAPicture) {

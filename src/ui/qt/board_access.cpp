@@ -9,6 +9,7 @@
 #include "core/cell_names.h"
 #include "ui/qt/board_widget.h"
 #include "ui/qt/texts.h"
+#include "view/play_state.h"
 
 namespace kestrel {
 

@@ -3,13 +3,11 @@
 
 #include "core/grid.h"
 #include "ui/qt/fonts.h"
-#include "ui/qt/palette.h"
+#include "view/play_state.h"
 
 namespace kestrel {
 
 namespace {
-
-using namespace colours;
 
 constexpr double kHalfGap = (840 - kCellSize) / 2.0;           // from a cell to the thin line
 constexpr double kHalfBoxGap = (840 + 120 - kCellSize) / 2.0;  // from a cell to the thick line
@@ -27,12 +25,9 @@ QString Caption(const std::string& caption) {
 
 }  // namespace
 
-bool ShowsGiven(const Label& cell) {
-  return cell.fore == kDarkBlue && !cell.caption.empty();
-}
-
-BoardPainter::BoardPainter(const MainWindow& main, double ratio)
+BoardPainter::BoardPainter(const MainWindow& main, double ratio, const Colours& colours)
     : main_(main),
+      colours_(colours),
       grid_(ratio),
       mark_font_(ToQFont(main.Mark(1)(0).font, ratio)),
       digit_font_(ToQFont(main.Grid(0).font, ratio)),
@@ -70,41 +65,35 @@ QRect BoardPainter::SpotRect(const BoardSpot& spot) const {
   return {};
 }
 
-std::optional<int> BoardPainter::TargetCell() const {
-  int row = -1;
-  int column = -1;
-  for (int line = 0; line < kUnitSize; ++line) {
-    if (main_.LabelRow(line).fore == kRed) row = line;
-    if (main_.LabelColumn(line).fore == kRed) column = line;
-  }
-  if (row < 0 || column < 0 || !main_.CommandResetCell.enabled) return std::nullopt;
-  return row * kUnitSize + column;
-}
-
-void BoardPainter::Paint(QPainter& painter, const QRegion& region, const BoardSpot& hover,
-                         bool pressed) const {
+void BoardPainter::Paint(QPainter& painter, const QRegion& region, const BoardPointer& pointer) const {
   painter.setClipRegion(region);
-  PaintGround(painter, region);
+  PaintGround(painter, region, pointer.lens);
   PaintLines(painter);
   PaintTarget(painter);
-  if (hover.kind == BoardSpot::Kind::Mark) PaintSpot(painter, hover, pressed);
-  PaintMarks(painter, region);
+  PaintMarks(painter, region, pointer);
   PaintDigits(painter, region);
-  PaintHeaders(painter, region, hover, pressed);
+  PaintHeaders(painter, region, pointer);
 }
 
-void BoardPainter::PaintGround(QPainter& painter, const QRegion& region) const {
-  painter.fillRect(region.boundingRect(), QColor(kWindow));
-  painter.fillRect(BoardRect(), QColor(kPaper));
+QColor BoardPainter::CellGround(int cell) const {
+  const Label& label = main_.Grid(cell);
+  if (ShowsGiven(label)) return colours_.given_cell;
+  return label.transparent ? QColor(colours_.paper) : colours_.Of(label.back, colours_.paper);
+}
+
+void BoardPainter::PaintGround(QPainter& painter, const QRegion& region,
+                               const std::optional<DigitLens>& lens) const {
+  painter.fillRect(region.boundingRect(), QColor(colours_.window));
+  painter.fillRect(BoardRect(), QColor(colours_.paper));
+  const CellSet lines = lens ? lens->Lines() : CellSet();
+  const CellSet equal = lens ? lens->DigitsOf(main_) : CellSet();
   for (int cell = 0; cell < kCells; ++cell) {
-    const Label& label = main_.Grid(cell);
     const QRect place = CellRect(cell);
     if (!region.intersects(place)) continue;
-    if (ShowsGiven(label)) {
-      painter.fillRect(place, QColor(kGivenCell));
-    } else if (!label.transparent && label.back != kWindowColour) {
-      painter.fillRect(place, ToQColor(label.back, kPaper));
-    }
+    QColor ground = CellGround(cell);
+    if (lines.Has(cell)) ground = ShowsGiven(main_.Grid(cell)) ? colours_.given_lines : colours_.lines;
+    if (equal.Has(cell)) ground = colours_.lens;
+    painter.fillRect(place, ground);
   }
 }
 
@@ -112,50 +101,61 @@ void BoardPainter::PaintLines(QPainter& painter) const {
   const int thin = grid_.Pixels(1);
   const int thick = grid_.Pixels(2);
   const QRect board = BoardRect();
+  // The sign of a solved puzzle; one that Solution filled in, or that is full but wrong, has none.
+  const QColor box_line = main_.end == PuzzleEnd::Solved ? colours_.solved : colours_.thick_line;
   for (int line = 0; line < kUnitSize; ++line) {
     if (line % 3 == 0) continue;
     const int at = LineStart(grid_, CellEdge(line) - kHalfGap, thin);
     for (int box = 0; box < 3; ++box) {
       const int from = grid_.At(CellEdge(3 * box) - kHalfGap);
       const int length = grid_.At(CellEdge(3 * box + 2) + kCellSize + kHalfGap) - from;
-      painter.fillRect(at, from, thin, length, QColor(kThinLine));
-      painter.fillRect(from, at, length, thin, QColor(kThinLine));
+      painter.fillRect(at, from, thin, length, QColor(colours_.thin_line));
+      painter.fillRect(from, at, length, thin, QColor(colours_.thin_line));
     }
   }
   for (int box = 0; box <= 3; ++box) {
     const double twips = box == 3 ? kBoardEnd : CellEdge(3 * box) - kHalfBoxGap;
     const int at = LineStart(grid_, twips, thick);
-    painter.fillRect(at, board.top(), thick, board.height(), QColor(kThickLine));
-    painter.fillRect(board.left(), at, board.width(), thick, QColor(kThickLine));
+    painter.fillRect(at, board.top(), thick, board.height(), box_line);
+    painter.fillRect(board.left(), at, board.width(), thick, box_line);
   }
 }
 
 void BoardPainter::PaintTarget(QPainter& painter) const {
-  const std::optional<int> cell = TargetCell();
-  if (!cell) return;
+  const int cell = ResetTarget(main_);
+  if (cell < 0) return;
   const int thin = grid_.Pixels(1);
   const int line = grid_.Pixels(2);
-  QRect place = CellRect(*cell).adjusted(thin, thin, -thin, -thin);
+  QRect place = CellRect(cell).adjusted(thin, thin, -thin, -thin);
   for (int i = 0; i < line; ++i) {
-    painter.setPen(QColor(kTargetCell));
+    painter.setPen(QColor(colours_.target));
     painter.drawRect(place.adjusted(i, i, -i - 1, -i - 1));
   }
 }
 
-void BoardPainter::PaintSpot(QPainter& painter, const BoardSpot& spot, bool pressed) const {
-  PaintRounded(painter, SpotRect(spot), grid_.Pixels(4), pressed ? kPressed : kHover);
+// Unmistakable before the click: a ground of its own with an outline.
+void BoardPainter::PaintHoveredMark(QPainter& painter, const QRect& place, bool pressed) const {
+  PaintRounded(painter, place, grid_.Pixels(4), pressed ? colours_.pressed : colours_.hover, colours_.accent,
+               grid_.Pixels(1));
 }
 
-void BoardPainter::PaintMarks(QPainter& painter, const QRegion& region) const {
+void BoardPainter::PaintMarks(QPainter& painter, const QRegion& region, const BoardPointer& pointer) const {
   painter.setFont(mark_font_);
+  const CellSet equal = pointer.lens ? pointer.lens->MarksOf(main_) : CellSet();
   for (int cell = 0; cell < kCells; ++cell) {
     if (!region.intersects(CellRect(cell))) continue;
     for (int digit = 1; digit <= 9; ++digit) {
       const Label& mark = main_.Mark(digit)(cell);
-      if (!mark.visible) continue;
       const QRect place = grid_.Place(mark);
-      if (!region.intersects(place)) continue;
-      painter.setPen(ToQColor(mark.fore, mark.enabled ? kMark : kDeafMark));
+      if (!mark.visible || !region.intersects(place)) continue;
+      QColor ink = colours_.Of(mark.fore, mark.enabled ? colours_.mark : colours_.ghost);
+      if (pointer.hover == BoardSpot{BoardSpot::Kind::Mark, cell, digit}) {
+        PaintHoveredMark(painter, place, pointer.pressed);
+        ink = colours_.text;
+      } else if (pointer.lens && digit == pointer.lens->digit && equal.Has(cell)) {
+        PaintRounded(painter, place, grid_.Pixels(4), colours_.lens);
+      }
+      painter.setPen(ink);
       PaintText(painter, place, mark.align, Caption(mark.caption));
     }
   }
@@ -167,32 +167,30 @@ void BoardPainter::PaintDigits(QPainter& painter, const QRegion& region) const {
     const Label& label = main_.Grid(cell);
     const QRect place = grid_.Place(label);
     if (label.caption.empty() || !label.visible || !region.intersects(place)) continue;
-    painter.setPen(ToQColor(label.fore, kText));
+    painter.setPen(colours_.Of(label.fore, main_.filled_in.Has(cell) ? colours_.mark : colours_.text));
     PaintText(painter, place, label.align, Caption(label.caption));
   }
 }
 
-void BoardPainter::PaintHeaders(QPainter& painter, const QRegion& region, const BoardSpot& hover,
-                                bool pressed) const {
+void BoardPainter::PaintHeaders(QPainter& painter, const QRegion& region, const BoardPointer& pointer) const {
   painter.setFont(header_font_);
   for (int line = 0; line < kUnitSize; ++line) {
     const BoardSpot row{BoardSpot::Kind::Row, line, 0};
     const BoardSpot column{BoardSpot::Kind::Column, line, 0};
-    if (region.intersects(SpotRect(row))) PaintHeader(painter, main_.LabelRow(line), row, hover, pressed);
-    if (region.intersects(SpotRect(column))) {
-      PaintHeader(painter, main_.LabelColumn(line), column, hover, pressed);
-    }
+    if (region.intersects(SpotRect(row))) PaintHeader(painter, main_.LabelRow(line), row, pointer);
+    if (region.intersects(SpotRect(column))) PaintHeader(painter, main_.LabelColumn(line), column, pointer);
   }
 }
 
 void BoardPainter::PaintHeader(QPainter& painter, const Label& header, const BoardSpot& spot,
-                               const BoardSpot& hover, bool pressed) const {
+                               const BoardPointer& pointer) const {
   if (header.fore == kRed) {
-    PaintRounded(painter, SpotRect(spot), grid_.Pixels(5), kSelectedHeader);
-  } else if (spot == hover) {
-    PaintRounded(painter, SpotRect(spot), grid_.Pixels(5), pressed ? kPressed : kHover);
+    PaintRounded(painter, SpotRect(spot), grid_.Pixels(5), colours_.selected_ground);
+  } else if (spot == pointer.hover) {
+    PaintRounded(painter, SpotRect(spot), grid_.Pixels(5),
+                 pointer.pressed ? colours_.pressed : colours_.hover);
   }
-  painter.setPen(ToQColor(header.fore, kText));
+  painter.setPen(colours_.Of(header.fore, colours_.text));
   PaintText(painter, SpotRect(spot), header.align, Caption(header.caption));
 }
 

@@ -18,6 +18,8 @@
 
 #include "forms/main_window.h"
 #include "ui/qt/device_painter.h"
+#include "ui/qt/palette.h"
+#include "view/digit_lens.h"
 
 namespace kestrel {
 
@@ -30,20 +32,20 @@ struct BoardSpot {
   friend bool operator==(const BoardSpot&, const BoardSpot&) = default;
 };
 
+// What the pointer does to the board's look.
+struct BoardPointer {
+  BoardSpot hover;
+  bool pressed = false;
+  std::optional<DigitLens> lens;
+};
+
 class BoardPainter {
  public:
-  // `main` must outlive the painter.
-  BoardPainter(const MainWindow& main, double ratio);
+  // `main` and `colours` must outlive the painter.
+  BoardPainter(const MainWindow& main, double ratio, const Colours& colours);
 
   // Paints what lies in `region` (device pixels) on a painter that works in device pixels.
-  void Paint(QPainter& painter, const QRegion& region, const BoardSpot& hover, bool pressed) const;
-
-  // The stages of Paint, from the ground up; the caller sets the clip.
-  void PaintGround(QPainter& painter, const QRegion& region) const;
-  void PaintLines(QPainter& painter) const;
-  void PaintMarks(QPainter& painter, const QRegion& region) const;
-  void PaintDigits(QPainter& painter, const QRegion& region) const;
-  void PaintHeaders(QPainter& painter, const QRegion& region, const BoardSpot& hover, bool pressed) const;
+  void Paint(QPainter& painter, const QRegion& region, const BoardPointer& pointer = {}) const;
 
   // The places of things, lines included for a cell and for the whole.
   [[nodiscard]] QRect CellRect(int cell) const;
@@ -51,21 +53,23 @@ class BoardPainter {
   [[nodiscard]] QRect SpotRect(const BoardSpot& spot) const;
   [[nodiscard]] QRect BoardRect() const;
 
-  // The cell whose row and column headers are both selected, while Reset Cell could empty it.
-  [[nodiscard]] std::optional<int> TargetCell() const;
-
  private:
-  void PaintSpot(QPainter& painter, const BoardSpot& spot, bool pressed) const;
+  // The stages of Paint, from the ground up.
+  void PaintGround(QPainter& painter, const QRegion& region, const std::optional<DigitLens>& lens) const;
+  void PaintLines(QPainter& painter) const;
   void PaintTarget(QPainter& painter) const;
-  void PaintHeader(QPainter& painter, const Label& header, const BoardSpot& spot, const BoardSpot& hover,
-                   bool pressed) const;
+  void PaintMarks(QPainter& painter, const QRegion& region, const BoardPointer& pointer) const;
+  void PaintDigits(QPainter& painter, const QRegion& region) const;
+  void PaintHeaders(QPainter& painter, const QRegion& region, const BoardPointer& pointer) const;
+  void PaintHeader(QPainter& painter, const Label& header, const BoardSpot& spot,
+                   const BoardPointer& pointer) const;
+  void PaintHoveredMark(QPainter& painter, const QRect& place, bool pressed) const;
+  [[nodiscard]] QColor CellGround(int cell) const;
 
   const MainWindow& main_;
+  const Colours& colours_;
   PixelGrid grid_;
   QFont mark_font_, digit_font_, header_font_;
 };
-
-// True for a cell that shows a given digit.
-bool ShowsGiven(const Label& cell);
 
 }  // namespace kestrel

@@ -9,10 +9,15 @@
 #include <cmath>
 
 #include "core/grid.h"
+#include "core/text.h"
 #include "ui/qt/board_access.h"
 #include "ui/qt/form_window.h"
-#include "ui/qt/palette.h"
+#include "ui/qt/look.h"
+#include "ui/qt/text_conversion.h"
 #include "ui/qt/texts.h"
+#include "ui/qt/view_choices.h"
+#include "view/play_state.h"
+#include "view/texts.h"
 
 namespace kestrel {
 
@@ -20,10 +25,11 @@ namespace {
 
 constexpr int kBoardWidth = 8790;  // headers, cells, outer line; the technique list's marker begins here
 constexpr int kBoardHeight = 8850;
+constexpr int kRest = 150;         // milliseconds without another digit under the pointer
 constexpr int kTooManyRects = 60;  // from here on one big rectangle is cheaper
 
-int Twips(double logical) {
-  return static_cast<int>(std::floor(logical * kTwipsPerPixel));
+int TwipsAt(double logical) {
+  return static_cast<int>(std::floor(logical * kTwipsPerPixel / TheLook().zoom));
 }
 
 bool Contains(const Control& control, int x, int y) {
@@ -67,28 +73,38 @@ struct BoardWidget::Shown {
   ControlArray<MarkArray, 1, 9> Mark;
   ControlArray<Label, 0, 9> LabelRow;
   ControlArray<Label, 0, 9> LabelColumn;
-  std::optional<int> target;
+  int target = -1;
+  PuzzleEnd end = PuzzleEnd::None;
 };
 
 BoardWidget::BoardWidget(MainWindow& main, EventSink& sink, std::function<bool()> marks_are_candidates,
-                         QWidget* parent)
+                         ViewChoices& choices, QWidget* parent)
     : QWidget(parent),
       main_(main),
       sink_(sink),
       marks_are_candidates_(std::move(marks_are_candidates)),
-      shown_(std::make_unique<Shown>(Shown{main.Grid, main.Mark, main.LabelRow, main.LabelColumn, {}})),
+      choices_(choices),
+      shown_(std::make_unique<Shown>(Shown{main.Grid, main.Mark, main.LabelRow, main.LabelColumn})),
       items_(MakeBoardItems(*this)) {
   setObjectName("Board");
   setAccessibleName(texts::kBoard);
-  setGeometry(0, 0, kBoardWidth / kTwipsPerPixel, kBoardHeight / kTwipsPerPixel);
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
+  rest_.setSingleShot(true);
+  rest_.setInterval(kRest);
+  connect(&rest_, &QTimer::timeout, this, [this] { UpdateLens(); });
+  ApplyLook();
+}
+
+void BoardWidget::ApplyLook() {
+  setGeometry(0, 0, Logical(kBoardWidth), Logical(kBoardHeight));
+  update();
 }
 
 BoardWidget::~BoardWidget() = default;
 
 QRect BoardWidget::PlaceOf(const Control& control) const {
-  return PixelGrid(1).Place(control);
+  return PixelGrid(TheLook().zoom).Place(control);
 }
 
 // ---- showing ----
@@ -108,7 +124,7 @@ bool BoardWidget::SyncLabel(const Label& now, Label& shown, const QRect& place) 
 }
 
 void BoardWidget::SyncLabels(int& changed) {
-  const BoardPainter painter(main_, devicePixelRatioF());
+  const BoardPainter painter(main_, devicePixelRatioF() * TheLook().zoom, TheColours());
   for (int cell = 0; cell < kCells; ++cell) {
     bool spoken = SyncLabel(main_.Grid(cell), shown_->Grid(cell), painter.CellRect(cell));
     changed += spoken ? 1 : 0;
@@ -124,21 +140,22 @@ void BoardWidget::SyncLabels(int& changed) {
 }
 
 void BoardWidget::Sync() {
-  const BoardPainter painter(main_, devicePixelRatioF());
+  const BoardPainter painter(main_, devicePixelRatioF() * TheLook().zoom, TheColours());
   int changed = 0;
   SyncLabels(changed);
-  const std::optional<int> target = painter.TargetCell();
-  bool headers = target != shown_->target;
+  const int target = ResetTarget(main_);
+  bool whole = target != shown_->target || main_.end != shown_->end;
   shown_->target = target;
+  shown_->end = main_.end;
   for (int line = 0; line < kUnitSize; ++line) {
     const BoardSpot row{BoardSpot::Kind::Row, line, 0};
     const BoardSpot column{BoardSpot::Kind::Column, line, 0};
-    headers |= SyncLabel(main_.LabelRow(line), shown_->LabelRow(line), painter.SpotRect(row));
-    headers |= SyncLabel(main_.LabelColumn(line), shown_->LabelColumn(line), painter.SpotRect(column));
+    whole |= SyncLabel(main_.LabelRow(line), shown_->LabelRow(line), painter.SpotRect(row));
+    whole |= SyncLabel(main_.LabelColumn(line), shown_->LabelColumn(line), painter.SpotRect(column));
   }
-  if (dirty_.isEmpty() && !headers) return;
+  if (dirty_.isEmpty() && !whole) return;
   // The frame of the cell that both headers name moves with them.
-  if (headers || changed > kTooManyRects) {
+  if (whole || changed > kTooManyRects) {
     update();
   } else {
     update(dirty_);
@@ -149,14 +166,13 @@ void BoardWidget::Sync() {
 
 void BoardWidget::paintEvent(QPaintEvent* event) {
   DevicePainter surface(*this);
-  const double ratio = surface.Grid().Ratio();
+  const double ratio = devicePixelRatioF();
   QRegion region;
   for (const QRect& rect : event->region()) {
     region += QRectF(rect.x() * ratio, rect.y() * ratio, rect.width() * ratio, rect.height() * ratio)
                   .toAlignedRect();
   }
-  BoardPainter(main_, ratio)
-      .Paint(surface.Painter(), region, hover_, captured_.kind != BoardSpot::Kind::None);
+  BoardPainter(main_, surface.Grid().Ratio(), TheColours()).Paint(surface.Painter(), region, pointer_look_);
 }
 
 // ---- mouse ----
@@ -173,8 +189,8 @@ const Label& BoardWidget::ControlOf(const BoardSpot& spot) const {
 }
 
 BoardSpot BoardWidget::SpotAt(QPointF point) const {
-  const int x = Twips(point.x());
-  const int y = Twips(point.y());
+  const int x = TwipsAt(point.x());
+  const int y = TwipsAt(point.y());
   for (int line = 0; line < kUnitSize; ++line) {
     if (Reachable(main_.LabelRow(line), x, y)) return {BoardSpot::Kind::Row, line, 0};
     if (Reachable(main_.LabelColumn(line), x, y)) return {BoardSpot::Kind::Column, line, 0};
@@ -194,8 +210,8 @@ BoardSpot BoardWidget::LiveSpotAt(QPointF point) const {
   if (spot.kind == BoardSpot::Kind::None) return spot;
   const Label& control = ControlOf(spot);
   const int limit = spot.kind == BoardSpot::Kind::Mark ? kMarkPitch : kHeaderSize;
-  const int x = Twips(point.x()) - control.left;
-  const int y = Twips(point.y()) - control.top;
+  const int x = TwipsAt(point.x()) - control.left;
+  const int y = TwipsAt(point.y()) - control.top;
   return x > 0 && x < limit && y > 0 && y < limit ? spot : BoardSpot{};
 }
 
@@ -220,8 +236,8 @@ void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (spot.kind == BoardSpot::Kind::None) return;
   const Label& control = ControlOf(spot);
   update(PlaceOf(control));
-  SendRelease(spot, ToMouseButton(event->button()), Twips(pointer_.x()) - control.left,
-              Twips(pointer_.y()) - control.top);
+  SendRelease(spot, ToMouseButton(event->button()), TwipsAt(pointer_.x()) - control.left,
+              TwipsAt(pointer_.y()) - control.top);
 }
 
 void BoardWidget::SendRelease(const BoardSpot& spot, MouseButton button, int x, int y) {
@@ -233,7 +249,9 @@ void BoardWidget::SendRelease(const BoardSpot& spot, MouseButton button, int x, 
   event.button = button;
   event.x = x;
   event.y = y;
+  const int steps_before = WholeNumber(main_.LabelStap.caption).value_or(0);
   sink_.Send(event);
+  if (WholeNumber(main_.LabelStap.caption).value_or(0) > steps_before) choices_.MarkClicked();
 }
 
 void BoardWidget::Click(const BoardSpot& spot, MouseButton button) {
@@ -258,15 +276,41 @@ void BoardWidget::FollowPointer() {
   BoardSpot spot = inside_ ? LiveSpotAt(pointer_) : BoardSpot{};
   // With a button down only the mark that was pressed reacts, for as long as letting go would count.
   if (captured_.kind != BoardSpot::Kind::None && spot != captured_) spot = {};
+  pointer_look_.pressed = captured_.kind != BoardSpot::Kind::None;
   SetHover(spot);
+  if (LensUnderPointer() != pointer_look_.lens) {
+    if (!rest_.isActive()) rest_.start();
+  } else {
+    rest_.stop();
+  }
+}
+
+std::optional<DigitLens> BoardWidget::LensUnderPointer() const {
+  if (!inside_ || !choices_.Now().digit_lens) return std::nullopt;
+  const int x = TwipsAt(pointer_.x());
+  const int y = TwipsAt(pointer_.y());
+  for (int cell = 0; cell < kCells; ++cell) {
+    if (!Contains(main_.Grid(cell), x, y)) continue;
+    const BoardSpot spot = SpotAt(pointer_);
+    return LensOver(main_, cell, spot.kind == BoardSpot::Kind::Mark ? spot.digit : 0,
+                    marks_are_candidates_());
+  }
+  return std::nullopt;
+}
+
+void BoardWidget::UpdateLens() {
+  const std::optional<DigitLens> lens = LensUnderPointer();
+  if (lens == pointer_look_.lens) return;
+  pointer_look_.lens = lens;
+  update();
 }
 
 void BoardWidget::SetHover(const BoardSpot& spot) {
-  if (spot == hover_) return;
-  for (const BoardSpot& changed : {hover_, spot}) {
+  if (spot == pointer_look_.hover) return;
+  for (const BoardSpot& changed : {pointer_look_.hover, spot}) {
     if (changed.kind != BoardSpot::Kind::None) update(PlaceOf(ControlOf(changed)));
   }
-  hover_ = spot;
+  pointer_look_.hover = spot;
   setCursor(spot.kind == BoardSpot::Kind::None ? Qt::ArrowCursor : Qt::PointingHandCursor);
 }
 
@@ -279,12 +323,17 @@ bool BoardWidget::event(QEvent* event) {
   return QWidget::event(event);
 }
 
-// How to play, on the board's edge and on its lines; over the cells it would be in the way.
+// What a header is for; how to play, on the board's edge and on its lines: over the cells it would be in the
+// way.
 void BoardWidget::ShowHelpTip(QPoint where, QPoint global) {
-  const QRectF board = BoardPainter(main_, 1).BoardRect();
+  const BoardSpot spot = SpotAt(where);
+  if (spot.kind == BoardSpot::Kind::Row || spot.kind == BoardSpot::Kind::Column) {
+    return QToolTip::showText(global, ToQString(texts::kHeaderTip), this);
+  }
+  const QRectF board = BoardPainter(main_, TheLook().zoom, TheColours()).BoardRect();
   bool on_edge = board.adjusted(-8, -8, 8, 8).contains(where) && main_.Mark(1)(0).enabled;
   for (int cell = 0; cell < kCells && on_edge; ++cell) {
-    on_edge = !Contains(main_.Grid(cell), Twips(where.x()), Twips(where.y()));
+    on_edge = !Contains(main_.Grid(cell), TwipsAt(where.x()), TwipsAt(where.y()));
   }
   if (!on_edge) {
     QToolTip::hideText();

@@ -5,6 +5,7 @@
 
 #include <QPointF>
 #include <QRegion>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -17,15 +18,23 @@
 namespace kestrel {
 
 class BoardItem;
+class ViewChoices;
 
 class BoardWidget final : public QWidget {
  public:
-  // Both must outlive the widget. `marks_are_candidates` tells whether marks can be discarded now.
-  BoardWidget(MainWindow& main, EventSink& sink, std::function<bool()> marks_are_candidates, QWidget* parent);
+  // All must outlive the widget. `marks_are_candidates` tells whether marks can be discarded now.
+  BoardWidget(MainWindow& main, EventSink& sink, std::function<bool()> marks_are_candidates,
+              ViewChoices& choices, QWidget* parent);
   ~BoardWidget() override;
 
   // Schedules the repainting of everything that differs from what was shown last.
   void Sync();
+
+  // After a change of the look.
+  void ApplyLook();
+
+  // What stands out now under the digit lens.
+  [[nodiscard]] const std::optional<DigitLens>& Lens() const { return pointer_look_.lens; }
 
   // A click as by the mouse in the middle of a mark or header, for assistive tools; nothing where the mouse
   // would reach nothing.
@@ -60,6 +69,8 @@ class BoardWidget final : public QWidget {
   void SendRelease(const BoardSpot& spot, MouseButton button, int x, int y);
   void SetHover(const BoardSpot& spot);
   void FollowPointer();
+  [[nodiscard]] std::optional<DigitLens> LensUnderPointer() const;
+  void UpdateLens();
   void Invalidate(const QRect& device);
   void ShowHelpTip(QPoint where, QPoint global);
 
@@ -69,11 +80,13 @@ class BoardWidget final : public QWidget {
   MainWindow& main_;
   EventSink& sink_;
   std::function<bool()> marks_are_candidates_;
+  ViewChoices& choices_;
   std::unique_ptr<Shown> shown_;
   std::vector<std::unique_ptr<BoardItem>> items_;
   QRegion dirty_;
   BoardSpot captured_;  // got the press, gets the releases
-  BoardSpot hover_;
+  BoardPointer pointer_look_;
+  QTimer rest_;      // the pointer rests when it runs out
   QPointF pointer_;  // last seen; only valid while the pointer is inside
   bool inside_ = false;
 };

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/qt/look.h"
+
 namespace kestrel {
 
 namespace {
@@ -103,10 +105,11 @@ void UseDevicePixels(QPainter& painter) {
   painter.setWorldTransform(whole * base.inverted());
 }
 
-DevicePainter::DevicePainter(QWidget& widget) : painter_(&widget), grid_(widget.devicePixelRatioF()) {
+DevicePainter::DevicePainter(QWidget& widget)
+    : painter_(&widget), grid_(widget.devicePixelRatioF() * TheLook().zoom) {
   UseDevicePixels(painter_);
   const QPoint corner = widget.mapTo(widget.window(), QPoint(0, 0));
-  const double ratio = grid_.Ratio();
+  const double ratio = widget.devicePixelRatioF();
   const auto round = [ratio](int value) { return static_cast<int>(std::lround(value * ratio)); };
   area_ = QRect(0, 0, round(corner.x() + widget.width()) - round(corner.x()),
                 round(corner.y() + widget.height()) - round(corner.y()));

@@ -47,6 +47,7 @@ class DevicePainter {
   explicit DevicePainter(QWidget& widget);
 
   QPainter& Painter() { return painter_; }
+  // Of the screen and of the present size together.
   [[nodiscard]] const PixelGrid& Grid() const { return grid_; }
   // The widget's whole area, `shrink` pixels of 96 dpi smaller on every side.
   [[nodiscard]] QRect Area(double shrink = 0) const;

@@ -18,7 +18,8 @@ void InstallFontSubstitutes() {
 
 QFont ToQFont(const Font& font, double ratio) {
   QFont result(QString::fromUtf8(font.family.data(), static_cast<qsizetype>(font.family.size())));
-  result.setPixelSize(static_cast<int>(std::lround(font.size * 96 / 72 * ratio)));
+  // Halves go down: a text must not grow more than its control.
+  result.setPixelSize(static_cast<int>(std::ceil(font.size * 96 / 72 * ratio - 0.5)));
   result.setBold(font.bold);
   if (font.family == "Courier New") {
     result.setStyleHint(QFont::Monospace);
@@ -26,10 +27,6 @@ QFont ToQFont(const Font& font, double ratio) {
     result.setStyleHint(font.family == "Times New Roman" ? QFont::Serif : QFont::SansSerif);
   }
   return result;
-}
-
-QFont WindowFont() {
-  return ToQFont(Font{}, 1);
 }
 
 }  // namespace kestrel

@@ -17,7 +17,4 @@ void InstallFontSubstitutes();
 // not know it either.
 QFont ToQFont(const Font& font, double ratio);
 
-// The default font of the windows, for message boxes and tooltips.
-QFont WindowFont();
-
 }  // namespace kestrel

@@ -4,23 +4,24 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPixmap>
-#include <QToolTip>
 #include <cstdio>
 
 #include "host/command_line.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/form_window.h"
-#include "ui/qt/palette.h"
 #include "ui/qt/small_widgets.h"
-#include "ui/qt/style.h"
 #include "ui/qt/text_conversion.h"
 #include "ui/qt/window_access.h"
 
 namespace kestrel {
 
 FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool unattended)
-    : mirror_(dispatcher_, {[this] { return game_.State().puzzle.MarksAreCandidates(); },
-                            QString::fromStdString(help_folder)}),
+    : choices_(host.settings, desktop_),
+      mirror_(dispatcher_, {[this] {
+                              const Session& state = game_.State();
+                              return TipState{state.puzzle.MarksAreCandidates(), state.RenewingLevel};
+                            },
+                            choices_, QString::fromStdString(help_folder)}),
       asker_(mirror_, dispatcher_),
       screen_(mirror_, dispatcher_),
       help_(mirror_),
@@ -30,10 +31,13 @@ FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool u
                   shell_, printer_}) {
   mirror_.Attach(game_.Controls());
   dispatcher_.Attach(game_, [this] { mirror_.Sync(); });
+  choices_.on_look = [this] { mirror_.ApplyLook(); };
 }
 
 int FrontEnd::Run() {
   if (!dispatcher_.Start()) return dispatcher_.ExitStatus();
+  // Once the window is painted.
+  QTimer::singleShot(0, [this] { desktop_.Watch(); });
   const int status = QApplication::exec();
   return dispatcher_.Ended() ? dispatcher_.ExitStatus() : status;
 }
@@ -52,15 +56,11 @@ int FrontEnd::TakeScreenshot(const std::string& file) {
   return kExitUsage;
 }
 
-void SetUpLook() {
+void SetUpApplication(const Look& look) {
   InstallFontSubstitutes();
   InstallLabelAccess();
   InstallWindowAccess();
-  QApplication::setStyle(new CalmStyle);
-  QApplication::setPalette(CalmPalette());
-  QApplication::setFont(WindowFont());
-  QToolTip::setPalette(CalmPalette());
-  QToolTip::setFont(WindowFont());
+  SetUpLook(look);
   QIcon icon;
   for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
     icon.addFile(QStringLiteral(":/icons/kestrel-sudoku-%1.png").arg(size), QSize(size, size));

@@ -18,6 +18,7 @@
 #include "ui/qt/qt_printer.h"
 #include "ui/qt/qt_shell.h"
 #include "ui/qt/qt_sound_device.h"
+#include "ui/qt/view_choices.h"
 
 namespace kestrel {
 
@@ -40,6 +41,7 @@ class FrontEnd {
   [[nodiscard]] Game& TheGame() { return game_; }
   [[nodiscard]] Mirror& Windows() { return mirror_; }
   [[nodiscard]] Dispatcher& Events() { return dispatcher_; }
+  [[nodiscard]] ViewChoices& Choices() { return choices_; }
 
   // Start-up, the main loop until the program ends, and the exit status.
   int Run();
@@ -50,6 +52,8 @@ class FrontEnd {
 
  private:
   Dispatcher dispatcher_;
+  DesktopColours desktop_;
+  ViewChoices choices_;
   Mirror mirror_;
   QtAsker asker_;
   UnattendedAsker unattended_asker_;
@@ -61,7 +65,7 @@ class FrontEnd {
   Game game_;
 };
 
-// Fonts, palette and style of the application, the same on every desktop. Before the first window.
-void SetUpLook();
+// Everything about the application that does not change: fonts, icon; then the look. Before the first window.
+void SetUpApplication(const Look& look = {});
 
 }  // namespace kestrel

@@ -30,7 +30,8 @@ class GameApplication {
  private:
   [[nodiscard]] bool Unattended() const { return !options_.screenshot.empty(); }
   void MakeApplication(char** argv);
-  void MakeApplication(char** argv, double scale);
+  // The colours and the size to start with; a scale of the command line is remembered.
+  [[nodiscard]] Look FirstLook();
 
   GameOptions options_;
   std::string home_;

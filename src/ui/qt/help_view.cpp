@@ -10,6 +10,7 @@
 #include "host/host_files.h"
 #include "media/help.h"
 #include "ui/qt/fonts.h"
+#include "ui/qt/look.h"
 #include "ui/qt/text_conversion.h"
 #include "ui/qt/texts.h"
 
@@ -32,10 +33,14 @@ QString ErrorPage(const QUrl& name) {
 HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
   setOpenLinks(true);
   setFrameShape(QFrame::StyledPanel);
+  FollowLook();
+  document()->setDocumentMargin(kTextMargin);
+}
+
+void HelpView::FollowLook() {
   Font font;
   font.size = 11.25;
-  setFont(ToQFont(font, 1));
-  document()->setDocumentMargin(kTextMargin);
+  setFont(ToQFont(font, TheLook().zoom));
 }
 
 QUrl HelpView::UrlOf(std::string_view page) const {

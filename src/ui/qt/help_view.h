@@ -12,6 +12,9 @@ class HelpView final : public QTextBrowser {
  public:
   explicit HelpView(QWidget* parent);
 
+  // Takes the size of its text from the present look.
+  void FollowLook();
+
   // The host folder that stands for the game's help folder.
   void SetFolder(const QString& folder) { folder_ = folder; }
 

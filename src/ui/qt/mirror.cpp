@@ -4,15 +4,16 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <algorithm>
 #include <map>
 
 #include "ui/qt/board_widget.h"
 #include "ui/qt/form_window.h"
 #include "ui/qt/help_view.h"
+#include "ui/qt/look.h"
+#include "ui/qt/main_extras.h"
 #include "ui/qt/mirrored.h"
-#include "ui/qt/palette.h"
-#include "ui/qt/small_widgets.h"
 #include "ui/qt/texts.h"
 #include "ui/qt/widget_factory.h"
 
@@ -26,20 +27,16 @@ bool OnBoard(ControlId id) {
          id.name == "LabelColumn";
 }
 
-int Logical(int twips) {
-  return twips / kTwipsPerPixel;
-}
-
 // A frame round the technique list, in its own pixels outside the labels.
 void PaintListFrame(QPainter& painter, const MainWindow& main) {
   UseDevicePixels(painter);
-  const PixelGrid grid(painter.device()->devicePixelRatioF());
+  const PixelGrid grid(painter.device()->devicePixelRatioF() * TheLook().zoom);
   const Label& first = main.LabelCount(0);
   const Label& last = main.LabelCount(2 * kTechniques - 1);
   const QRect list = grid.Rect(first.left, first.top, last.left + last.width - first.left,
                                last.top + last.height - first.top);
   const int line = grid.Pixels(1);
-  painter.fillRect(list.adjusted(-line, -line, line, line), QColor(colours::kThinLine));
+  painter.fillRect(list.adjusted(-line, -line, line, line), QColor(TheColours().thin_line));
 }
 
 }  // namespace
@@ -93,6 +90,16 @@ QWidget* Mirror::ParentFor(View& view, ControlId id) {
   return view.window.get();
 }
 
+// The help window is as large as the user makes it, the others as designed.
+void Mirror::SizeWindow(View& view) {
+  const QSize size(Logical(view.control->width), Logical(view.control->height));
+  if (view.form == FormId::Browser) {
+    view.window->resize(size);
+  } else {
+    view.window->setFixedSize(size);
+  }
+}
+
 template <class Form>
 void Mirror::BuildForm(View& view, Form& form) {
   view.control = &form.window;
@@ -101,12 +108,7 @@ void Mirror::BuildForm(View& view, Form& form) {
   view.window = std::make_unique<FormWindow>(view.form, form.window.modal,
                                              form.window.modal ? static_cast<QWidget*>(main) : nullptr);
   view.window->setWindowTitle(ToQString(form.window.caption));
-  const QSize size(Logical(form.window.width), Logical(form.window.height));
-  if (view.form == FormId::Browser) {
-    view.window->resize(size);
-  } else {
-    view.window->setFixedSize(size);
-  }
+  SizeWindow(view);
   // A panel must be there before what stands on it.
   EachControl(form, [&](ControlId id, auto& control) {
     if (id.name != "ProgressBar1") Add(view, id, control);
@@ -120,13 +122,11 @@ void Mirror::BuildForm(View& view, Form& form) {
 
 void Mirror::BuildMain(View& view) {
   BuildForm(view, forms_->main);
-  board_ = new BoardWidget(forms_->main, sink_, surroundings_.marks_are_candidates, view.window.get());
+  board_ = new BoardWidget(
+      forms_->main, sink_, [this] { return surroundings_.state().marks_are_candidates; },
+      surroundings_.choices, view.window.get());
   board_->lower();
   view.window->on_paint = [this](QPainter& painter) { PaintListFrame(painter, forms_->main); };
-  for (int i = 0; i < 2 * kTechniques; ++i) {
-    list_[static_cast<std::size_t>(i)] = dynamic_cast<TextLabel*>(WidgetOf(FormId::Main, {"LabelCount", i}));
-  }
-  SyncList();
 }
 
 void Mirror::BuildBrowser(View& view) {
@@ -156,8 +156,8 @@ void Mirror::ConnectWindow(View& view, Window& window) {
   };
   widget->on_place = [this, &view, &window] {
     if (!view.window->isVisible() || view.window->isMinimized()) return;
-    window.left = view.shown.left = view.window->x() * kTwipsPerPixel;
-    window.top = view.shown.top = view.window->y() * kTwipsPerPixel;
+    window.left = view.shown.left = Twips(view.window->x());
+    window.top = view.shown.top = Twips(view.window->y());
     if (view.form == FormId::Browser) FitHelpView(view);
   };
 }
@@ -165,8 +165,8 @@ void Mirror::ConnectWindow(View& view, Window& window) {
 // The help window's own rule: the view is smaller than the window by a fixed margin.
 void Mirror::FitHelpView(View& view) {
   Window& window = forms_->browser.window;
-  window.width = view.shown.width = view.window->width() * kTwipsPerPixel;
-  window.height = view.shown.height = view.window->height() * kTwipsPerPixel;
+  window.width = view.shown.width = Twips(view.window->width());
+  window.height = view.shown.height = Twips(view.window->height());
   forms_->browser.WebBrowser1.width = window.width - kBrowserMarginX;
   forms_->browser.WebBrowser1.height = window.height - kBrowserMarginY;
   for (const MirroredPtr& control : view.controls) control->Sync();
@@ -189,7 +189,32 @@ void Mirror::Sync() {
     for (const MirroredPtr& control : view->controls) control->Sync();
     SyncWindow(*view);
   }
-  if (board_ != nullptr) SyncList();
+  if (extras_) extras_->Sync();
+}
+
+void Mirror::ApplyLook() {
+  for (const std::unique_ptr<View>& view : views_) {
+    if (!view) continue;
+    if (view->form != FormId::Browser) SizeWindow(*view);
+    for (const MirroredPtr& control : view->controls) control->Refresh();
+    view->window->update();
+  }
+  if (board_ != nullptr) board_->ApplyLook();
+  if (extras_) extras_->ApplyLook();
+  if (help_ != nullptr && ExistingWindow(FormId::Browser)->isVisible()) FitHelpView(ViewOf(FormId::Browser));
+  Sync();
+  KeepOnScreen();
+}
+
+// A main window that has grown keeps its title bar and, if it can, its lower edge on the screen.
+void Mirror::KeepOnScreen() {
+  FormWindow* window = ExistingWindow(FormId::Main);
+  if (window == nullptr || !window->isVisible()) return;
+  const QRect screen = window->screen()->availableGeometry();
+  const QSize frame = window->size() + (window->frameGeometry().size() - window->geometry().size());
+  const int left = std::max(screen.left(), std::min(window->x(), screen.right() + 1 - window->width()));
+  const int top = std::max(screen.top(), std::min(window->y(), screen.bottom() + 1 - frame.height()));
+  if (QPoint(left, top) != window->pos()) window->move(left, top);
 }
 
 void Mirror::SyncWindow(View& view) {
@@ -199,21 +224,6 @@ void Mirror::SyncWindow(View& view) {
   if (now.caption != before.caption) view.window->setWindowTitle(ToQString(now.caption));
   if (now.left != before.left || now.top != before.top) {
     view.window->move(Logical(now.left), Logical(now.top));
-  }
-}
-
-// The technique list as a whole: a hairline where the tier changes, and counts that are read with their
-// names.
-void Mirror::SyncList() {
-  for (int slot = 0; slot < kTechniques; ++slot) {
-    const Label& name = forms_->main.LabelCount(slot);
-    const Label& count = forms_->main.LabelCount(kTechniques + slot);
-    const bool rule = slot > 0 && name.back != forms_->main.LabelCount(slot - 1).back;
-    list_[static_cast<std::size_t>(slot)]->SetRule(rule);
-    TextLabel* number = list_[static_cast<std::size_t>(kTechniques + slot)];
-    number->SetRule(rule);
-    const QString spoken = ToQString(name.caption) + QStringLiteral(": ") + ToQString(count.caption);
-    if (number->accessibleName() != spoken) number->setAccessibleName(spoken);
   }
 }
 
@@ -227,6 +237,9 @@ Mirror::View& Mirror::ViewOf(FormId form) {
   switch (form) {
     case FormId::Main:
       BuildMain(*view);
+      extras_ = std::make_unique<MainExtras>(
+          *this, forms_->main, *view->window,
+          MainExtras::Surroundings{surroundings_.state, surroundings_.choices, sink_});
       break;
     case FormId::Names:
       BuildForm(*view, forms_->names);

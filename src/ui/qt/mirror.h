@@ -11,6 +11,7 @@
 
 #include "forms/forms.h"
 #include "ui/qt/event_sink.h"
+#include "view/state_tips.h"
 
 class QWidget;
 
@@ -19,14 +20,16 @@ namespace kestrel {
 class BoardWidget;
 class FormWindow;
 class HelpView;
+class MainExtras;
 class MirroredControl;
-class TextLabel;
+class ViewChoices;
 
 class Mirror {
  public:
   struct Surroundings {
-    std::function<bool()> marks_are_candidates;  // of the open puzzle
-    QString help_folder;                         // host path of the installed help pages
+    std::function<TipState()> state;  // of play
+    ViewChoices& choices;
+    QString help_folder;  // host path of the installed help pages
   };
 
   // The sink must outlive the mirror.
@@ -43,6 +46,9 @@ class Mirror {
   // Brings everything on the screen in line with the controls.
   void Sync();
 
+  // The same after a change of the look, which touches everything.
+  void ApplyLook();
+
   // The window of a form, made if need be.
   FormWindow& WindowOf(FormId form);
   // Null while the window was never needed.
@@ -51,6 +57,8 @@ class Mirror {
   QWidget* WidgetOf(FormId form, ControlId control);
   [[nodiscard]] BoardWidget* Board() const { return board_; }
   [[nodiscard]] HelpView* Help() const { return help_; }
+  // Null before the main window was made.
+  [[nodiscard]] MainExtras* Extras() const { return extras_.get(); }
 
   // Gives the keyboard to the first control of a dialog, to nothing in the main window.
   void FocusFirst(FormId form);
@@ -72,7 +80,8 @@ class Mirror {
   void BuildBrowser(View& view);
   void FitHelpView(View& view);
   void SyncWindow(View& view);
-  void SyncList();
+  void SizeWindow(View& view);
+  void KeepOnScreen();
   QWidget* ParentFor(View& view, ControlId id);
 
   Forms* forms_ = nullptr;
@@ -81,7 +90,7 @@ class Mirror {
   std::array<std::unique_ptr<View>, 4> views_;
   BoardWidget* board_ = nullptr;
   HelpView* help_ = nullptr;
-  std::array<TextLabel*, 2 * kTechniques> list_{};  // the technique list: names, then counts
+  std::unique_ptr<MainExtras> extras_;
 };
 
 }  // namespace kestrel

@@ -2,6 +2,7 @@
 #include "ui/qt/mirrored.h"
 
 #include "ui/qt/device_painter.h"
+#include "ui/qt/look.h"
 
 namespace kestrel {
 
@@ -24,7 +25,7 @@ void TakeFocusBack(QWidget& widget) {
 void ShowCommon(QWidget& widget, const Control& now, const Control* before, const QString& caption) {
   if (before == nullptr || !SamePlace(now, *before)) {
     // Inside Picture3 places are still those of the window.
-    QRect place = PixelGrid(1).Place(now);
+    QRect place = PixelGrid(TheLook().zoom).Place(now);
     if (QWidget* parent = widget.parentWidget(); parent != nullptr && !parent->isWindow()) {
       place.translate(-parent->pos());
     }

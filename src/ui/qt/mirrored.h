@@ -26,6 +26,8 @@ class MirroredControl {
   virtual ~MirroredControl() = default;
 
   virtual void Sync() = 0;
+  // Shows everything anew, after a change of the look.
+  virtual void Refresh() {}
   [[nodiscard]] virtual QWidget* Widget() const { return nullptr; }
   // Takes the choice from an option button because another of its array was chosen.
   virtual void Unchoose() {}
@@ -71,6 +73,8 @@ class Mirrored final : public MirroredControl {
     const C before = std::exchange(shown_, control_);
     Apply(&before);
   }
+
+  void Refresh() override { Apply(nullptr); }
 
   [[nodiscard]] QWidget* Widget() const override { return &widget_; }
 

@@ -1,50 +1,67 @@
 // SPDX-License-Identifier: MIT
-// The one palette of the program, light whatever the desktop's theme is. Used by everything that paints.
+// The colours of the windows: three palettes, the same roles in each. Everything that paints takes its
+// colours from the palette of the present look (look.h).
 #pragma once
 
 #include <QColor>
 #include <QPalette>
+#include <cstdint>
 
 #include "forms/control.h"
 
 namespace kestrel {
 
-namespace colours {
+enum class Scheme : std::uint8_t { Light, Dark, HighContrast };
 
-inline constexpr QRgb kWindow = 0xFFF2F3F5;
-inline constexpr QRgb kPaper = 0xFFFFFFFF;  // cells, lists, text boxes
-inline constexpr QRgb kText = 0xFF1B1F24;
-inline constexpr QRgb kDisabledText = 0xFF5A6169;  // still readable: disabled buttons keep their meaning
-inline constexpr QRgb kMark = 0xFF4A4F57;
-inline constexpr QRgb kDeafMark = 0xFF6B727A;   // while the board takes no clicks
-inline constexpr QRgb kGivenCell = 0xFFF4F6FA;  // givens differ from own digits by more than their hue
-inline constexpr QRgb kThinLine = 0xFF9AA3AD;
-inline constexpr QRgb kThickLine = 0xFF20262D;
-inline constexpr QRgb kHover = 0xFFE8F0FE;  // under a mark or header that can be clicked
-inline constexpr QRgb kPressed = 0xFFCFE0FC;
-inline constexpr QRgb kSelectedHeader = 0xFF0D1117;  // dark enough for the pure red of a selected header
-inline constexpr QRgb kTargetCell = 0xFFC62828;      // frame of the cell that Reset Cell works on
-inline constexpr QRgb kLink = 0xFF1A4FA0;
-inline constexpr QRgb kAccent = 0xFF2B62B8;  // selection, progress, focus
-inline constexpr QRgb kAccentText = 0xFFFFFFFF;
-inline constexpr QRgb kWarning = 0xFFB45309;
-inline constexpr QRgb kButton = 0xFFFFFFFF;
-inline constexpr QRgb kDisabledButton = 0xFFECEEF1;
-inline constexpr QRgb kBorder = 0xFF474F58;  // 3 to 1 on every button face and on the window
-inline constexpr QRgb kDisabledBorder = 0xFFB4BBC3;
-inline constexpr QRgb kTooltip = 0xFFFFFDF0;
-inline constexpr QRgb kTrack = 0xFFDDE1E6;  // the empty part of progress bars and sliders
+struct Colours {
+  QRgb window;         // the ground of the windows
+  QRgb text;           // on window and paper; own digits
+  QRgb disabled_text;  // still readable: disabled buttons keep their meaning
+  QRgb paper;          // cells, lists, text boxes
+  QRgb given_cell;     // ground of the givens, which differ from own digits by more than their hue
+  QRgb given;          // a given's digit
+  QRgb mark;
+  QRgb ghost;        // marks while no puzzle is open: there, but not alive
+  QRgb hover;        // under a mark, header or button that can be clicked
+  QRgb pressed;      // the same while the button is down
+  QRgb lens;         // under the equals of the digit below the pointer
+  QRgb lines;        // under the cells of its row, column and box
+  QRgb given_lines;  // the same under a given
+  QRgb thin_line, thick_line;
+  QRgb selected_header;  // ink, and the ground that it needs
+  QRgb selected_ground;
+  QRgb target;  // frame of the cell that Reset Cell works on; sign of an error
+  QRgb solved;  // the board's lines and the clock's frame once the puzzle is solved
+  QRgb link;
+  QRgb accent, accent_text;  // selection, progress, focus, signs
+  QRgb warning;
+  QRgb button, disabled_button;
+  QRgb border;  // 3 to 1 on every button face and on the window
+  QRgb disabled_border;
+  QRgb tooltip;
+  QRgb track;  // the empty part of progress bars and sliders
+  QRgb note;   // ground of the guide's line
+  // What the game's named colours are here: hue and meaning stay, the lightness follows the palette.
+  QRgb black, white, light_yellow, light_green, light_cyan, light_blue, light_red;
 
-}  // namespace colours
+  // A colour of a control; `fallback` stands for the window's own ground or text.
+  [[nodiscard]] QColor Of(Colour colour, QRgb fallback) const;
+};
 
-// A colour of a control as the screen shows it; `fallback` stands for the window's own ground or text.
+const Colours& ColoursOf(Scheme scheme);
+
+// A colour of a control as it is, for paper; `fallback` stands for the window's own ground or text.
 QColor ToQColor(Colour colour, QRgb fallback);
 
-// The ground of a disabled button whose face is `face`: the same hue, paler.
-QColor DisabledFace(const QColor& face);
+// The ground of a disabled button whose face is `face`: the same hue, nearer to the plain one.
+QColor DisabledFace(const Colours& colours, const QColor& face);
+
+// The ground of a coloured button under the pointer, and while it is pressed: further from its text.
+QColor HoverFace(const QColor& face);
+QColor PressedFace(const QColor& face);
 
 // The palette of all widgets, the disabled group included.
-QPalette CalmPalette();
+QPalette ToQPalette(const Colours& colours);
 
 // Contrast of two colours after WCAG 2.1, from 1 (none) to 21 (black on white).
 double ContrastRatio(const QColor& one, const QColor& other);

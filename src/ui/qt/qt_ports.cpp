@@ -16,6 +16,7 @@
 
 #include "ui/qt/form_window.h"
 #include "ui/qt/help_view.h"
+#include "ui/qt/look.h"
 #include "ui/qt/shortcuts.h"
 #include "ui/qt/text_conversion.h"
 
@@ -23,7 +24,7 @@ namespace kestrel {
 
 namespace {
 
-constexpr int kBoxWidth = 340;  // room for the titles
+constexpr int kBoxWidth = 5100;  // twips; room for the titles
 
 QMessageBox::Icon ToQtIcon(MessageIcon icon) {
   switch (icon) {
@@ -83,7 +84,7 @@ Answer QtAsker::Message(const MessageBox& box) {
     widget.addButton(each.button)->setText(QLatin1String(each.caption));
   }
   if (auto* grid = qobject_cast<QGridLayout*>(widget.layout())) {
-    grid->addItem(new QSpacerItem(kBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    grid->addItem(new QSpacerItem(Logical(kBoxWidth), 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
   widget.setDefaultButton((box.cancel_is_default ? buttons.back() : buttons.front()).button);
   widget.setEscapeButton(buttons.back().button);
@@ -106,7 +107,7 @@ std::optional<std::string> QtAsker::Input(const InputBox& box) {
   widget.setOkButtonText(QStringLiteral("&OK"));
   widget.setCancelButtonText(QStringLiteral("&Cancel"));
   if (auto* field = widget.findChild<QLineEdit*>()) {
-    field->setMinimumWidth(kBoxWidth);
+    field->setMinimumWidth(Logical(kBoxWidth));
     field->selectAll();
   }
   const bool accepted = widget.exec() == QDialog::Accepted;
@@ -128,11 +129,11 @@ std::optional<std::string> UnattendedAsker::Input(const InputBox& /*box*/) {
 // ---- QtScreen ----
 
 int QtScreen::Width() {
-  return QApplication::primaryScreen()->availableGeometry().width() * kTwipsPerPixel;
+  return Twips(QApplication::primaryScreen()->availableGeometry().width());
 }
 
 int QtScreen::Height() {
-  return QApplication::primaryScreen()->availableGeometry().height() * kTwipsPerPixel;
+  return Twips(QApplication::primaryScreen()->availableGeometry().height());
 }
 
 void QtScreen::Show(FormId form) {
@@ -142,7 +143,7 @@ void QtScreen::Show(FormId form) {
   FormWindow& widget = mirror_.WindowOf(form);
   mirror_.Sync();
   mirror_.FocusFirst(form);
-  QPoint corner(window.left / kTwipsPerPixel, window.top / kTwipsPerPixel);
+  QPoint corner(Logical(window.left), Logical(window.top));
   if (form == FormId::Main) {
     InstallShortcuts(mirror_);
     // The title bar stays in reach where the window is larger than the screen.

@@ -11,16 +11,15 @@
 #include "host/host_files.h"
 #include "ui/qt/device_painter.h"
 #include "ui/qt/fonts.h"
-#include "ui/qt/palette.h"
+#include "ui/qt/look.h"
 #include "ui/qt/text_conversion.h"
 
 namespace kestrel {
 
 namespace {
 
-using namespace colours;
-
 constexpr int kPadding = 5;  // between a ground's edge and its text, pixels of 96 dpi
+constexpr int kTickWidth = 12;
 
 bool OnlyDigitsAndColon(const QString& text) {
   for (const QChar letter : text) {
@@ -32,7 +31,7 @@ bool OnlyDigitsAndColon(const QString& text) {
 void PaintFocusRing(QPainter& painter, const PixelGrid& grid, const QRect& area) {
   painter.setRenderHint(QPainter::Antialiasing);
   const double line = grid.Pixels(1);
-  painter.setPen(QPen(QColor(kAccent), line));
+  painter.setPen(QPen(QColor(TheColours().accent), line));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(QRectF(area).adjusted(line / 2, line / 2, -line / 2, -line / 2), grid.Pixels(3),
                           grid.Pixels(3));
@@ -64,6 +63,24 @@ void UseFontThatFits(QPainter& painter, QFont font, const QString& digits, int w
   painter.setFont(font);
 }
 
+// The frame of the clock of a solved puzzle, and a tick left of the time.
+void PaintTick(QPainter& painter, const PixelGrid& grid, const QRect& area) {
+  const QColor colour(TheColours().solved);
+  const int line = grid.Pixels(2);
+  const QRect inner = area.adjusted(line, line, -line, -line);
+  painter.save();
+  painter.setClipRegion(QRegion(area) - inner);
+  painter.fillRect(area, colour);
+  painter.setClipping(false);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double unit = grid.Ratio();
+  const QPointF middle(area.left() + 11 * unit, area.top() + area.height() / 2.0);
+  painter.setPen(QPen(colour, 3 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(QPolygonF({middle + QPointF(-4.5, 0.5) * unit, middle + QPointF(-1.5, 4) * unit,
+                                  middle + QPointF(5, -4.5) * unit}));
+  painter.restore();
+}
+
 }  // namespace
 
 void InstallLabelAccess() {
@@ -84,19 +101,73 @@ void TextLabel::SetRule(bool on) {
   update();
 }
 
+void TextLabel::SetClick(std::function<void()> click) {
+  click_ = std::move(click);
+  setCursor(Qt::PointingHandCursor);
+}
+
+void TextLabel::SetFrame(RowFrame frame) {
+  if (frame_ == frame) return;
+  frame_ = frame;
+  update();
+}
+
+void TextLabel::SetSolved(bool on) {
+  if (solved_ == on) return;
+  solved_ = on;
+  update();
+}
+
+void TextLabel::enterEvent(QEnterEvent* event) {
+  if (click_) update();
+  QWidget::enterEvent(event);
+}
+
+void TextLabel::leaveEvent(QEvent* event) {
+  if (click_) update();
+  QWidget::leaveEvent(event);
+}
+
+void TextLabel::mouseReleaseEvent(QMouseEvent* event) {
+  if (click_ && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) click_();
+}
+
+void TextLabel::PaintGround(QPainter& painter, const PixelGrid& grid, const QRect& area) const {
+  const Colours& colours = TheColours();
+  const bool ground = !label_.transparent && label_.back != kWindowColour;
+  const bool hovered = click_ && underMouse();
+  if (ground)
+    painter.fillRect(area, hovered ? QColor(colours.hover) : colours.Of(label_.back, colours.window));
+  if (rule_) {
+    painter.fillRect(area.left(), area.top(), area.width(), grid.Pixels(1), QColor(colours.thin_line));
+  }
+}
+
+void TextLabel::PaintFrame(QPainter& painter, const PixelGrid& grid, const QRect& area) const {
+  if (frame_ == RowFrame::None) return;
+  const int line = grid.Pixels(2);
+  const QColor colour(TheColours().accent);
+  painter.fillRect(area.left(), area.top(), area.width(), line, colour);
+  painter.fillRect(area.left(), area.top() + area.height() - line, area.width(), line, colour);
+  const int end = frame_ == RowFrame::LeftEnd ? area.left() : area.left() + area.width() - line;
+  painter.fillRect(end, area.top(), line, area.height(), colour);
+}
+
 void TextLabel::paintEvent(QPaintEvent* /*event*/) {
   DevicePainter surface(*this);
   QPainter& painter = surface.Painter();
+  const PixelGrid& grid = surface.Grid();
+  const Colours& colours = TheColours();
   QRect area = surface.Area();
-  const bool ground = !label_.transparent && label_.back != kWindowColour;
-  if (ground) painter.fillRect(area, ToQColor(label_.back, kWindow));
-  if (rule_)
-    painter.fillRect(area.left(), area.top(), area.width(), surface.Grid().Pixels(1), QColor(kThinLine));
-  painter.setFont(ToQFont(label_.font, surface.Grid().Ratio()));
-  painter.setPen(label_.enabled ? ToQColor(label_.fore, kText) : QColor(kDisabledText));
-  const int padding = surface.Grid().Pixels(kPadding);
-  if (ground) area.adjust(padding, 0, -padding, 0);
+  PaintGround(painter, grid, area);
+  PaintFrame(painter, grid, area);
+  if (solved_) PaintTick(painter, grid, area);
+  painter.setFont(ToQFont(label_.font, grid.Ratio()));
+  painter.setPen(label_.enabled ? colours.Of(label_.fore, colours.text) : QColor(colours.disabled_text));
+  const int padding = grid.Pixels(kPadding);
+  if (!label_.transparent && label_.back != kWindowColour) area.adjust(padding, 0, -padding, 0);
   if (OnlyDigitsAndColon(caption_)) {
+    if (solved_) area.setLeft(area.left() + grid.Pixels(kTickWidth));
     UseFontThatFits(painter, painter.font(), caption_, area.width());
     return PaintText(painter, area, label_.align, caption_, Digits::OneWidth);
   }
@@ -142,7 +213,7 @@ void LinkLabel::keyPressEvent(QKeyEvent* event) {
 void LinkLabel::PaintArrow(QPainter& painter, const QRect& place) const {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(underMouse() ? QColor(kThickLine) : QColor(kAccent));
+  painter.setBrush(QColor(underMouse() ? TheColours().thick_line : TheColours().accent));
   const double size = place.height() * 0.95;
   const QPointF tip(place.right() - size * 0.1, place.top() + place.height() / 2.0);
   const double shaft = size * 0.16;
@@ -164,7 +235,8 @@ void LinkLabel::paintEvent(QPaintEvent* /*event*/) {
   QFont font = ToQFont(label_.font, surface.Grid().Ratio());
   font.setUnderline(isEnabled() && (underMouse() || hasFocus()));
   painter.setFont(font);
-  painter.setPen(isEnabled() ? ToQColor(label_.fore, kLink) : QColor(kDisabledText));
+  const Colours& colours = TheColours();
+  painter.setPen(isEnabled() ? colours.Of(label_.fore, colours.link) : QColor(colours.disabled_text));
   const int inset = surface.Grid().Pixels(2);
   PaintText(painter, area.adjusted(inset, 0, -inset, 0), label_.align, text());
 }
@@ -176,7 +248,7 @@ void PictureButton::Show(const Picture& picture) {
   if (!picture.file.empty()) {
     pixmap_.load(ToQString(ToHostPath(picture.file)));
   } else if (!stand_in_.isEmpty()) {
-    pixmap_ = LoadForRatio(stand_in_, devicePixelRatioF());
+    pixmap_ = LoadForRatio(stand_in_, devicePixelRatioF() * TheLook().zoom);
   }
   const bool acts = picture.tab_index >= 0;
   setFocusPolicy(acts ? Qt::TabFocus : Qt::NoFocus);
@@ -204,8 +276,8 @@ void StartPanel::paintEvent(QPaintEvent* /*event*/) {
   DevicePainter surface(*this);
   QPainter& painter = surface.Painter();
   const QRect area = surface.Area();
-  painter.fillRect(area, QColor(kPaper));
-  painter.setPen(QColor(kText));
+  painter.fillRect(area, QColor(TheColours().paper));
+  painter.setPen(QColor(TheColours().text));
   painter.setFont(ToQFont(Font{"Arial", 30, true}, surface.Grid().Ratio()));
   const QRect upper(area.left(), area.top(), area.width(), area.height() / 2);
   PaintText(painter, upper, Align::Centre, ToQString(texts::kProductName));
@@ -214,7 +286,7 @@ void StartPanel::paintEvent(QPaintEvent* /*event*/) {
     const auto* bar = qobject_cast<const QWidget*>(child);
     if (bar == nullptr) continue;
     const PixelGrid& grid = surface.Grid();
-    const double twips = kTwipsPerPixel;
+    const double twips = kTwipsPerPixel / TheLook().zoom;
     const QRect row =
         grid.Rect(0, (bar->y() - 4) * twips, (bar->x() - 10) * twips, (bar->height() + 8) * twips);
     PaintText(painter, row, Align::Right, bar->accessibleName());
@@ -230,20 +302,27 @@ SlimProgress::SlimProgress(QWidget* parent) : QProgressBar(parent) {
 void SlimProgress::paintEvent(QPaintEvent* /*event*/) {
   DevicePainter surface(*this);
   QPainter& painter = surface.Painter();
-  const QRect area = surface.Area();
-  const double radius = area.height() / 2.0;
-  const int range = std::max(1, maximum() - minimum());
-  const int filled = area.width() * (value() - minimum()) / range;
+  const Colours& colours = TheColours();
+  QRect bar = surface.Area();
   painter.setFont(ToQFont(Font{}, surface.Grid().Ratio()));
-  const bool tells = area.height() > painter.fontMetrics().height() - surface.Grid().Pixels(2);
-  const auto paint = [&](const QRect& part, QRgb ground, QRgb ink) {
-    painter.setClipRect(part);
-    PaintRounded(painter, area, radius, QColor(ground));
-    painter.setPen(QColor(ink));
-    if (tells) PaintText(painter, area, Align::Centre, text());
-  };
-  paint(QRect(area.left(), area.top(), filled, area.height()), kAccent, kAccentText);
-  paint(QRect(area.left() + filled, area.top(), area.width() - filled, area.height()), kTrack, kText);
+  const QFontMetrics metrics(painter.font());
+  if (bar.height() > metrics.height() - surface.Grid().Pixels(2)) {
+    painter.setPen(QColor(colours.text));
+    PaintText(painter, bar, Align::Left, text());
+    // As if all were done, so that the bar does not move while the number grows.
+    const QString longest = format()
+                                .replace(QLatin1String("%v of"), QString::number(maximum()) + " of")
+                                .replace(QLatin1String("%m"), QString::number(maximum()));
+    bar.setLeft(bar.left() + metrics.horizontalAdvance(longest) + surface.Grid().Pixels(6));
+    const int height = surface.Grid().Pixels(8);
+    bar = QRect(bar.left(), bar.top() + (bar.height() - height) / 2, bar.width(), height);
+  }
+  const int range = std::max(1, maximum() - minimum());
+  const int filled = bar.width() * (value() - minimum()) / range;
+  const double radius = bar.height() / 2.0;
+  PaintRounded(painter, bar, radius, colours.track);
+  painter.setClipRect(bar.left(), bar.top(), filled, bar.height());
+  PaintRounded(painter, bar, radius, colours.accent);
 }
 
 // ---- StatusLabel ----
@@ -259,13 +338,14 @@ void StatusLabel::paintEvent(QPaintEvent* /*event*/) {
   QPainter& painter = surface.Painter();
   const QRect area = surface.Area();
   const int line = surface.Grid().Pixels(1);
-  painter.fillRect(area.left(), area.top(), area.width(), line, QColor(kThinLine));
+  painter.fillRect(area.left(), area.top(), area.width(), line, QColor(TheColours().thin_line));
   const int inset = surface.Grid().Pixels(5);
   if (x() > 0) {
-    painter.fillRect(area.left(), area.top() + inset, line, area.height() - 2 * inset, QColor(kThinLine));
+    painter.fillRect(area.left(), area.top() + inset, line, area.height() - 2 * inset,
+                     QColor(TheColours().thin_line));
   }
   painter.setFont(ToQFont(font_, surface.Grid().Ratio()));
-  painter.setPen(QColor(kText));
+  painter.setPen(QColor(TheColours().text));
   const int padding = surface.Grid().Pixels(8);
   PaintText(painter, area.adjusted(padding, line, -line, 0), Align::Left, caption_);
 }

@@ -7,28 +7,48 @@
 #include <QPixmap>
 #include <QProgressBar>
 #include <QWidget>
+#include <cstdint>
+#include <functional>
 #include <string>
 
 #include "forms/control.h"
+#include "ui/qt/device_painter.h"
 
 namespace kestrel {
+
+// A label's part of the frame round a row of two.
+enum class RowFrame : std::uint8_t { None, LeftEnd, RightEnd };
 
 // A text on a ground.
 class TextLabel final : public QWidget {
  public:
   explicit TextLabel(QWidget* parent) : QWidget(parent) {}
   void Show(const Label& label);
+  // Makes the label act: hand pointer, brighter under the pointer.
+  void SetClick(std::function<void()> click);
+  void SetFrame(RowFrame frame);
+  // A frame and a tick, of the clock of a solved puzzle.
+  void SetSolved(bool on);
   // A hairline along the upper edge, where one group of a list ends and the next begins.
   void SetRule(bool on);
   [[nodiscard]] const QString& Caption() const { return caption_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  void PaintGround(QPainter& painter, const PixelGrid& grid, const QRect& area) const;
+  void PaintFrame(QPainter& painter, const PixelGrid& grid, const QRect& area) const;
+
   QString caption_;
   Label label_;
+  std::function<void()> click_;
+  RowFrame frame_ = RowFrame::None;
   bool rule_ = false;
+  bool solved_ = false;
 };
 
 // A text that acts: underlined under the pointer, reached and pressed by the keyboard as well.
@@ -72,7 +92,7 @@ class StartPanel final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 };
 
-// A slim bar; a higher one says "37 of 100" as well.
+// A slim bar; a higher one says "Hard: 37 of 100" beside it as well.
 class SlimProgress final : public QProgressBar {
  public:
   explicit SlimProgress(QWidget* parent);

@@ -16,18 +16,20 @@ namespace kestrel {
 
 namespace {
 
-using namespace colours;
-
 constexpr int kIndicator = 13;    // pixels of 96 dpi
 constexpr int kIndicatorGap = 6;  // to the text
 constexpr int kSignSize = 32;     // in a message box
 constexpr double kButtonRadius = 4;
 
+double ScreenRatio(const QPainter& painter) {
+  return painter.device() != nullptr ? painter.device()->devicePixelRatioF() : 1;
+}
+
 // A painter in device pixels for the duration of one drawing call.
 class DeviceScope {
  public:
   DeviceScope(QPainter& painter, const QWidget* widget)
-      : painter_(painter), grid_(painter.device() != nullptr ? painter.device()->devicePixelRatioF() : 1) {
+      : painter_(painter), screen_(ScreenRatio(painter)), grid_(screen_.Ratio() * TheLook().zoom) {
     painter_.save();
     UseDevicePixels(painter_);
     if (widget != nullptr) painter_.setFont(Scaled(widget->font()));
@@ -36,22 +38,25 @@ class DeviceScope {
   DeviceScope(const DeviceScope&) = delete;
   DeviceScope& operator=(const DeviceScope&) = delete;
 
+  // For lengths of the design, the present size included.
   [[nodiscard]] const PixelGrid& Grid() const { return grid_; }
+  // A place in the widget's own pixels, which know the present size already.
   [[nodiscard]] QRect Map(const QRect& logical) const {
     constexpr double kTwips = kTwipsPerPixel;
-    return grid_.Rect(logical.x() * kTwips, logical.y() * kTwips, logical.width() * kTwips,
-                      logical.height() * kTwips);
+    return screen_.Rect(logical.x() * kTwips, logical.y() * kTwips, logical.width() * kTwips,
+                        logical.height() * kTwips);
   }
 
  private:
   [[nodiscard]] QFont Scaled(QFont font) const {
     if (font.pixelSize() > 0) {
-      font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * grid_.Ratio())));
+      font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * screen_.Ratio())));
     }
     return font;
   }
 
   QPainter& painter_;
+  PixelGrid screen_;
   PixelGrid grid_;
 };
 
@@ -60,7 +65,7 @@ bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
 }
 
 QColor TextColour(const QStyleOption& option) {
-  return Has(option, QStyle::State_Enabled) ? QColor(kText) : QColor(kDisabledText);
+  return Has(option, QStyle::State_Enabled) ? QColor(TheColours().text) : QColor(TheColours().disabled_text);
 }
 
 // The ring round what has the keyboard.
@@ -68,34 +73,49 @@ void PaintFocus(QPainter& painter, const DeviceScope& scope, const QRect& place)
   painter.setRenderHint(QPainter::Antialiasing);
   const double line = scope.Grid().Pixels(1);
   const double radius = scope.Grid().Pixels(3);
-  painter.setPen(QPen(QColor(kAccent), line));
+  painter.setPen(QPen(QColor(TheColours().accent), line));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
 }
 
-QColor ButtonFace(const QStyleOptionButton& option) {
+QColor ButtonFace(const Colours& colours, const QStyleOptionButton& option) {
   const QColor face = option.palette.color(QPalette::Active, QPalette::Button);
-  const bool coloured = face != QColor(kButton);
-  if (!Has(option, QStyle::State_Enabled)) return coloured ? DisabledFace(face) : QColor(kDisabledButton);
-  if (Has(option, QStyle::State_Sunken)) return coloured ? face.darker(115) : QColor(kPressed);
-  if (Has(option, QStyle::State_MouseOver)) return coloured ? face.darker(106) : QColor(kHover);
+  const bool coloured = face != QColor(colours.button);
+  if (!Has(option, QStyle::State_Enabled)) {
+    return coloured ? DisabledFace(colours, face) : QColor(colours.disabled_button);
+  }
+  if (Has(option, QStyle::State_Sunken)) return coloured ? PressedFace(face) : QColor(colours.pressed);
+  if (Has(option, QStyle::State_MouseOver)) return coloured ? HoverFace(face) : QColor(colours.hover);
   return face;
+}
+
+// Makes the painter's font smaller until the text keeps clear of the borders.
+void FitText(QPainter& painter, QString text, int width) {
+  text.remove('&');
+  QFont font = painter.font();
+  while (font.pixelSize() > 6 && QFontMetrics(font).horizontalAdvance(text) > width) {
+    font.setPixelSize(font.pixelSize() - 1);
+  }
+  painter.setFont(font);
 }
 
 void PaintButton(const QStyleOptionButton& option, QPainter& painter, const QWidget* widget) {
   const DeviceScope scope(painter, widget);
+  const Colours& colours = TheColours();
   const QRect place = scope.Map(option.rect);
   const bool enabled = Has(option, QStyle::State_Enabled);
   const bool is_default = (option.features & QStyleOptionButton::DefaultButton) != 0;
-  const QColor border = !enabled ? QColor(kDisabledBorder) : is_default ? QColor(kAccent) : QColor(kBorder);
+  const QColor border = !enabled ? colours.disabled_border : is_default ? colours.accent : colours.border;
   const int line = scope.Grid().Pixels(is_default && enabled ? 2 : 1);
-  PaintRounded(painter, place, kButtonRadius * scope.Grid().Ratio(), ButtonFace(option), border, line);
+  PaintRounded(painter, place, kButtonRadius * scope.Grid().Ratio(), ButtonFace(colours, option), border,
+               line);
   if (Has(option, QStyle::State_HasFocus) && Has(option, QStyle::State_KeyboardFocusChange)) {
     const int inset = scope.Grid().Pixels(is_default ? 3 : 2);
     PaintFocus(painter, scope, place.adjusted(inset, inset, -inset, -inset));
   }
   painter.setPen(TextColour(option));
   const int padding = scope.Grid().Pixels(1);
+  FitText(painter, option.text, place.width() - 2 * (line + padding));
   PaintText(painter, place.adjusted(padding, 0, -padding, 0), Align::Centre, option.text, Digits::AsDesigned,
             true);
 }
@@ -105,16 +125,17 @@ void PaintIndicator(const QStyleOption& option, QPainter& painter, const DeviceS
   const int size = scope.Grid().Pixels(kIndicator);
   const QRect place(row.left(), row.top() + (row.height() - size) / 2, size, size);
   const bool enabled = Has(option, QStyle::State_Enabled);
-  const QColor ground = !enabled                               ? QColor(kDisabledButton)
-                        : Has(option, QStyle::State_Sunken)    ? QColor(kPressed)
-                        : Has(option, QStyle::State_MouseOver) ? QColor(kHover)
-                                                               : QColor(kPaper);
-  const QColor border = enabled ? QColor(kBorder) : QColor(kDisabledBorder);
+  const Colours& colours = TheColours();
+  const QColor ground = !enabled                               ? colours.disabled_button
+                        : Has(option, QStyle::State_Sunken)    ? colours.pressed
+                        : Has(option, QStyle::State_MouseOver) ? colours.hover
+                                                               : colours.paper;
+  const QColor border = enabled ? colours.border : colours.disabled_border;
   PaintRounded(painter, place, round ? size / 2.0 : scope.Grid().Pixels(3), ground, border,
                scope.Grid().Pixels(1));
   if (!Has(option, QStyle::State_On)) return;
   painter.setRenderHint(QPainter::Antialiasing);
-  const QColor ink = enabled ? QColor(kAccent) : QColor(kDisabledText);
+  const QColor ink = enabled ? colours.accent : colours.disabled_text;
   const double unit = size / 13.0;
   if (round) {
     const double inset = 3.5 * unit;
@@ -155,13 +176,13 @@ struct Sign {
 std::optional<Sign> SignOf(QStyle::StandardPixmap standard) {
   switch (standard) {
     case QStyle::SP_MessageBoxInformation:
-      return Sign{kAccent, 'i', false};
+      return Sign{TheColours().accent, 'i', false};
     case QStyle::SP_MessageBoxQuestion:
-      return Sign{kAccent, '?', false};
+      return Sign{TheColours().accent, '?', false};
     case QStyle::SP_MessageBoxWarning:
-      return Sign{kWarning, '!', true};
+      return Sign{TheColours().warning, '!', true};
     case QStyle::SP_MessageBoxCritical:
-      return Sign{kTargetCell, 'x', false};
+      return Sign{TheColours().target, 'x', false};
     default:
       return std::nullopt;
   }
@@ -181,7 +202,7 @@ QPixmap PaintSign(const Sign& sign, int size) {
   } else {
     painter.drawEllipse(QRectF(1, 1, 30, 30));
   }
-  painter.setPen(QPen(QColor(kAccentText), 3.4, Qt::SolidLine, Qt::RoundCap));
+  painter.setPen(QPen(QColor(TheColours().accent_text), 3.4, Qt::SolidLine, Qt::RoundCap));
   if (sign.symbol == 'x') {
     painter.drawLine(QPointF(11, 11), QPointF(21, 21));
     painter.drawLine(QPointF(21, 11), QPointF(11, 21));
@@ -195,7 +216,7 @@ QPixmap PaintSign(const Sign& sign, int size) {
 
 }  // namespace
 
-CalmStyle::CalmStyle() : QProxyStyle(QStringLiteral("Fusion")) {
+CalmStyle::CalmStyle(const Look& look) : QProxyStyle(QStringLiteral("Fusion")), look_(look) {
 }
 
 void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -239,15 +260,22 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-      return kIndicator;
+      return Zoomed(kIndicator);
     case PM_MessageBoxIconSize:
-      return kSignSize;
+      return Zoomed(kSignSize);
     case PM_RadioButtonLabelSpacing:
     case PM_CheckBoxLabelSpacing:
-      return kIndicatorGap;
-    default:
-      return QProxyStyle::pixelMetric(metric, option, widget);
+      return Zoomed(kIndicatorGap);
+    default: {
+      // What is a line stays a line.
+      const int plain = QProxyStyle::pixelMetric(metric, option, widget);
+      return plain > 2 ? Zoomed(plain) : plain;
+    }
   }
+}
+
+int CalmStyle::Zoomed(int length) const {
+  return static_cast<int>(std::lround(length * look_.zoom));
 }
 
 // The whole control answers to the mouse, not only its text.
@@ -268,7 +296,7 @@ QIcon CalmStyle::standardIcon(StandardPixmap standard, const QStyleOption* optio
 QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                   const QWidget* widget) const {
   QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-  if (type == CT_PushButton) size = size.expandedTo(QSize(80, 27));
+  if (type == CT_PushButton) size = size.expandedTo(QSize(Zoomed(80), Zoomed(27)));
   return size;
 }
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The look of the standard widgets: quiet, light, drawn in whole device pixels. Set for the whole
+// The look of the standard widgets: quiet, drawn in whole device pixels. Set for the whole
 // application.
 #pragma once
 
 #include <QProxyStyle>
+
+#include "ui/qt/look.h"
 
 namespace kestrel {
 
@@ -11,7 +13,8 @@ namespace kestrel {
 // Fusion, which is on every system.
 class CalmStyle final : public QProxyStyle {
  public:
-  CalmStyle();
+  explicit CalmStyle(const Look& look);
+  [[nodiscard]] const Look& GetLook() const { return look_; }
 
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
@@ -25,6 +28,12 @@ class CalmStyle final : public QProxyStyle {
                      const QWidget* widget) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                          const QWidget* widget) const override;
+
+ private:
+  // A length of the design in the present size.
+  [[nodiscard]] int Zoomed(int length) const;
+
+  Look look_;
 };
 
 }  // namespace kestrel

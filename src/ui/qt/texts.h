@@ -23,6 +23,23 @@ inline constexpr const char* kMarks = "marks";
 inline constexpr const char* kGiven = "given";
 inline constexpr const char* kMark = "mark";
 
+// View menu
+inline constexpr const char* kView = "Vie&w";
+inline constexpr const char* kViewTip = "Size, colours, digit lens";
+inline constexpr const char* kViewDesktop = "Colours &as the Desktop";
+inline constexpr const char* kViewLight = "&Light";
+inline constexpr const char* kViewDark = "&Dark";
+inline constexpr const char* kViewHighContrast = "&High Contrast";
+inline constexpr const char* kViewLens = "Digit Le&ns";
+inline constexpr const char* kViewRecords = "&Records...";
+
+// Guide
+inline constexpr const char* kCardTitle = "Choose a level and press Next";
+inline constexpr const char* kCardLevel = "Chosen at the right: %1";
+inline constexpr const char* kCardNext = "Next";
+inline constexpr const char* kCardHelp = "Help, at the bottom right, tells all about it";
+inline constexpr const char* kCloseGuide = "Do not show this again";
+
 // Printing
 inline constexpr const char* kSavePdf = "Print into a PDF file";
 inline constexpr const char* kPdfFiles = "PDF files (*.pdf)";

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/widget_factory.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
@@ -12,6 +13,7 @@
 #include "ui/qt/form_window.h"
 #include "ui/qt/help_view.h"
 #include "ui/qt/input_widgets.h"
+#include "ui/qt/look.h"
 #include "ui/qt/page_preview.h"
 #include "ui/qt/palette.h"
 #include "ui/qt/small_widgets.h"
@@ -23,8 +25,8 @@ namespace {
 // ---- showing, one function per kind ----
 
 void SetFace(QWidget& widget, Colour back) {
-  QPalette palette = widget.palette();
-  palette.setColor(QPalette::Button, ToQColor(back, colours::kButton));
+  QPalette palette = QApplication::palette();
+  palette.setColor(QPalette::Button, TheColours().Of(back, TheColours().button));
   widget.setPalette(palette);
 }
 
@@ -61,6 +63,7 @@ void ShowCheckBox(QCheckBox& widget, const CheckBox& now, const CheckBox* before
 }
 
 void ShowList(LineList& widget, const ListBox& now, const ListBox* before) {
+  if (before == nullptr) widget.setFont(ToQFont(now.font, TheLook().zoom));
   if (before == nullptr || now.lines != before->lines) {
     widget.clear();
     for (const std::string& line : now.lines) widget.addItem(ToQString(line));
@@ -78,8 +81,9 @@ void ShowCombo(QComboBox& widget, const ComboBox& now, const ComboBox* before) {
 
 void ShowTextBox(TextField& widget, const TextBox& now, const TextBox* before) {
   if (before == nullptr) {
+    widget.setFont(ToQFont(now.font, TheLook().zoom));
     if (now.max_length > 0) widget.setMaxLength(now.max_length);
-    if (now.digits_only) {
+    if (now.digits_only && widget.validator() == nullptr) {
       widget.setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]*"), &widget));
     }
   }
@@ -121,7 +125,8 @@ void ShowPage(PagePreview& widget, const PageView& now, const PageView* /*before
 void ShowPanelPicture(StartPanel& /*widget*/, const Picture& /*now*/, const Picture* /*before*/) {
 }
 
-void ShowHelpView(HelpView& /*widget*/, const WebView& /*now*/, const WebView* /*before*/) {
+void ShowHelpView(HelpView& widget, const WebView& /*now*/, const WebView* before) {
+  if (before == nullptr) widget.FollowLook();
 }
 
 // A timer without a widget.
@@ -177,8 +182,14 @@ void LeaveTextBox(QWidget& pressed) {
 
 MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, Label& control) {
   if (!control.link) {
-    return std::make_unique<Mirrored<Label, TextLabel>>(context.form, id, context.sink, control,
-                                                        *new TextLabel(parent), ShowText);
+    auto* text = new TextLabel(parent);
+    auto mirrored = std::make_unique<Mirrored<Label, TextLabel>>(context.form, id, context.sink, control,
+                                                                 *text, ShowText);
+    // A row of the technique list opens its page.
+    if (id.name == "LabelCount") {
+      text->SetClick([entry = mirrored.get(), text] { TellClick(*entry, *text); });
+    }
+    return mirrored;
   }
   auto* widget = new LinkLabel(parent);
   auto mirrored = std::make_unique<Mirrored<Label, LinkLabel>>(context.form, id, context.sink, control,
@@ -238,7 +249,6 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
 
 MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, ListBox& control) {
   auto* widget = new LineList(parent);
-  widget->setFont(ToQFont(control.font, 1));
   auto mirrored = std::make_unique<Mirrored<ListBox, LineList>>(context.form, id, context.sink, control,
                                                                 *widget, ShowList);
   // A click on the line that is selected already counts as one, too.
@@ -264,7 +274,6 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
 
 MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlId id, TextBox& control) {
   auto* widget = new TextField(parent);
-  widget->setFont(ToQFont(control.font, 1));
   auto mirrored = std::make_unique<Mirrored<TextBox, TextField>>(context.form, id, context.sink, control,
                                                                  *widget, ShowTextBox);
   auto* entry = mirrored.get();

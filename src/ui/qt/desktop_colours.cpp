@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt/desktop_colours.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QFileInfo>
+
+namespace kestrel {
+
+namespace {
+
+constexpr const char* kService = "org.freedesktop.portal.Desktop";
+constexpr const char* kPath = "/org/freedesktop/portal/desktop";
+constexpr const char* kInterface = "org.freedesktop.portal.Settings";
+constexpr const char* kAppearance = "org.freedesktop.appearance";
+constexpr const char* kColourScheme = "color-scheme";  // 1: dark, 2: light
+constexpr const char* kContrast = "contrast";          // 1: high
+
+// A bus that is there; looking for one must not start one.
+bool HasSessionBus() {
+  if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) return true;
+  const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  return !folder.isEmpty() && QFileInfo::exists(folder + QStringLiteral("/bus"));
+}
+
+// The portal wraps a value once or twice, after its age.
+QVariant Unwrapped(QVariant value) {
+  while (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
+  return value;
+}
+
+}  // namespace
+
+DesktopColours::DesktopColours() {
+  const QString theme = qEnvironmentVariable("GTK_THEME");
+  dark_ = theme.contains(QLatin1String("dark"), Qt::CaseInsensitive);
+  high_contrast_ = theme.contains(QLatin1String("HighContrast"), Qt::CaseInsensitive);
+}
+
+Scheme DesktopColours::SchemeFor(ColourChoice choice) const {
+  switch (choice) {
+    case ColourChoice::Light:
+      return Scheme::Light;
+    case ColourChoice::Dark:
+      return Scheme::Dark;
+    case ColourChoice::HighContrast:
+      return Scheme::HighContrast;
+    case ColourChoice::Desktop:
+      break;
+  }
+  if (high_contrast_) return Scheme::HighContrast;
+  return dark_ ? Scheme::Dark : Scheme::Light;
+}
+
+void DesktopColours::Watch() {
+  if (!HasSessionBus()) return;
+  QDBusConnection bus = QDBusConnection::sessionBus();
+  if (!bus.isConnected()) return;
+  bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+              SLOT(OnSettingChanged(QString, QString, QDBusVariant)));
+  Ask(kColourScheme);
+  Ask(kContrast);
+}
+
+void DesktopColours::Ask(const QString& key) {
+  QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
+  call << QString(kAppearance) << key;
+  auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, key, watcher] {
+    const QDBusPendingReply<QVariant> reply = *watcher;
+    watcher->deleteLater();
+    // A desktop without a portal, or without this setting, leaves what was known.
+    if (!reply.isError()) Take(key, reply.value());
+  });
+}
+
+void DesktopColours::OnSettingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
+  if (group == QLatin1String(kAppearance)) Take(key, value.variant());
+}
+
+void DesktopColours::Take(const QString& key, const QVariant& value) {
+  const bool on = Unwrapped(value).toUInt() == 1;
+  if (key == QLatin1String(kColourScheme)) dark_ = on;
+  if (key == QLatin1String(kContrast)) high_contrast_ = on;
+  if (on_change) on_change();
+}
+
+}  // namespace kestrel

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt/guide_widgets.h"
+
+#include <QPainter>
+
+#include "ui/qt/device_painter.h"
+#include "ui/qt/fonts.h"
+#include "ui/qt/look.h"
+#include "ui/qt/text_conversion.h"
+#include "ui/qt/texts.h"
+
+namespace kestrel {
+
+namespace {
+
+// Twips; the card stands in the middle of the board, the line between board and commands.
+constexpr QRect kCard(2805, 3765, 4005, 2085);
+constexpr QRect kCardNext(1080, 1020, 1845, 525);  // on the card
+constexpr QRect kLine(960, 8745, 7695, 240);
+constexpr int kCross = 240;
+
+QRect LogicalRect(const QRect& twips) {
+  return PixelGrid(TheLook().zoom).Rect(twips.x(), twips.y(), twips.width(), twips.height());
+}
+
+}  // namespace
+
+// ---- CloseCross ----
+
+CloseCross::CloseCross(QWidget* parent) : QAbstractButton(parent) {
+  setObjectName(QStringLiteral("CloseGuide"));
+  setToolTip(QLatin1String(texts::kCloseGuide));
+  setAccessibleName(toolTip());
+  setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);
+}
+
+void CloseCross::enterEvent(QEnterEvent* event) {
+  update();
+  QAbstractButton::enterEvent(event);
+}
+
+void CloseCross::leaveEvent(QEvent* event) {
+  update();
+  QAbstractButton::leaveEvent(event);
+}
+
+void CloseCross::paintEvent(QPaintEvent* /*event*/) {
+  DevicePainter surface(*this);
+  QPainter& painter = surface.Painter();
+  const Colours& colours = TheColours();
+  if (underMouse() || hasFocus()) {
+    PaintRounded(painter, surface.Area(), surface.Grid().Pixels(3),
+                 isDown() ? colours.pressed : colours.hover);
+  }
+  const QRectF cross = QRectF(surface.Area()).adjusted(0, 0, -1, -1);
+  const double inset = cross.width() * 0.32;
+  const QRectF arms = cross.adjusted(inset, inset, -inset, -inset);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(colours.text), 1.3 * surface.Grid().Ratio(), Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(arms.topLeft(), arms.bottomRight());
+  painter.drawLine(arms.topRight(), arms.bottomLeft());
+}
+
+// ---- GuideCard ----
+
+GuideCard::GuideCard(QWidget* parent) : QWidget(parent), next_(this), cross_(this) {
+  setObjectName(QStringLiteral("GuideCard"));
+  setAccessibleName(QLatin1String(texts::kCardTitle));
+  next_.setObjectName(QStringLiteral("GuideNext"));
+  next_.setText(QLatin1String(texts::kCardNext));
+  next_.setAutoDefault(false);
+  next_.setFocusPolicy(Qt::TabFocus);
+  connect(&next_, &QPushButton::clicked, this, [this] { on_next(); });
+  connect(&cross_, &QAbstractButton::clicked, this, [this] { on_close(); });
+  PlaceAll();
+}
+
+void GuideCard::SetLevel(const QString& name) {
+  if (name == level_) return;
+  level_ = name;
+  update();
+}
+
+void GuideCard::PlaceAll() {
+  setGeometry(LogicalRect(kCard));
+  next_.setGeometry(LogicalRect(kCardNext));
+  next_.setFont(ToQFont(Font{"MS Sans Serif", 12, true}, TheLook().zoom));
+  cross_.setGeometry(LogicalRect(QRect(kCard.width() - kCross - 90, 90, kCross, kCross)));
+}
+
+void GuideCard::paintEvent(QPaintEvent* /*event*/) {
+  DevicePainter surface(*this);
+  QPainter& painter = surface.Painter();
+  const PixelGrid& grid = surface.Grid();
+  const Colours& colours = TheColours();
+  PaintRounded(painter, surface.Area(), grid.Pixels(8), colours.paper, colours.thick_line, grid.Pixels(2));
+  painter.setPen(QColor(colours.text));
+  painter.setFont(ToQFont(Font{"MS Sans Serif", 11.25, true}, grid.Ratio()));
+  PaintText(painter, grid.Rect(0, 330, kCard.width(), 300), Align::Centre, QLatin1String(texts::kCardTitle));
+  painter.setFont(ToQFont(Font{"MS Sans Serif", 9, false}, grid.Ratio()));
+  PaintText(painter, grid.Rect(0, 645, kCard.width(), 270), Align::Centre,
+            QLatin1String(texts::kCardLevel).arg(level_));
+  PaintText(painter, grid.Rect(0, 1635, kCard.width(), 300), Align::Centre, QLatin1String(texts::kCardHelp));
+}
+
+// ---- GuideLine ----
+
+GuideLine::GuideLine(QWidget* parent) : QWidget(parent), cross_(this) {
+  setObjectName(QStringLiteral("GuideLine"));
+  connect(&cross_, &QAbstractButton::clicked, this, [this] { on_close(); });
+  PlaceAll();
+  hide();
+}
+
+void GuideLine::Show(const Guide& guide) {
+  text_ = ToQString(guide.line);
+  setAccessibleName(text_);
+  cross_.setVisible(guide.can_close);
+  setVisible(!guide.line.empty());
+  update();
+}
+
+void GuideLine::PlaceAll() {
+  setGeometry(LogicalRect(kLine));
+  cross_.setGeometry(LogicalRect(QRect(kLine.width() - kCross, 0, kCross, kCross)));
+}
+
+void GuideLine::paintEvent(QPaintEvent* /*event*/) {
+  DevicePainter surface(*this);
+  QPainter& painter = surface.Painter();
+  const PixelGrid& grid = surface.Grid();
+  PaintRounded(painter, surface.Area(), grid.Pixels(4), TheColours().note);
+  painter.setPen(QColor(TheColours().text));
+  painter.setFont(ToQFont(Font{}, grid.Ratio()));
+  PaintText(painter, grid.Rect(0, 0, kLine.width(), kLine.height()), Align::Centre, text_);
+}
+
+}  // namespace kestrel

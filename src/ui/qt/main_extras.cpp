@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt/main_extras.h"
+
+#include "core/text.h"
+#include "forms/texts.h"
+#include "solver/technique_table.h"
+#include "ui/qt/form_window.h"
+#include "ui/qt/guide_widgets.h"
+#include "ui/qt/mirror.h"
+#include "ui/qt/small_widgets.h"
+#include "ui/qt/text_conversion.h"
+#include "ui/qt/view_menu.h"
+
+namespace kestrel {
+
+namespace {
+
+// The controls of the main window whose tooltips depend on the state.
+constexpr ControlId kTipped[] = {
+    {"CommandNew"},       {"CommandOpen"},   {"CommandRestart"},  {"CommandUndo"},   {"CommandRedo"},
+    {"CommandResetCell"}, {"CommandHint"},   {"CommandSolution"}, {"chkSound"},      {"OptionType", 1},
+    {"OptionType", 2},    {"OptionType", 3}, {"OptionType", 4},   {"OptionType", 5}, {"RenewLevel", 1},
+    {"RenewLevel", 2},    {"RenewLevel", 3}, {"RenewLevel", 4},   {"RenewLevel", 5}};
+
+void SetTip(QWidget& widget, const std::string& tip) {
+  const QString text = ToQString(tip);
+  if (widget.toolTip() == text) return;
+  widget.setToolTip(text);
+  widget.setAccessibleDescription(text);
+}
+
+// The tooltip that a control has by its design.
+std::string OwnTip(const MainWindow& main, ControlId wanted) {
+  std::string tip;
+  EachControl(main, [&](ControlId id, const auto& control) {
+    if (id == wanted) tip = control.tooltip;
+  });
+  return tip;
+}
+
+}  // namespace
+
+MainExtras::MainExtras(Mirror& mirror, const MainWindow& main, QWidget& window, Surroundings surroundings)
+    : main_(main), mirror_(mirror), surroundings_(std::move(surroundings)) {
+  MakeWidgets(window);
+  for (int i = 0; i < 2 * kTechniques; ++i) {
+    auto* label = dynamic_cast<TextLabel*>(mirror_.WidgetOf(FormId::Main, {"LabelCount", i}));
+    list_[static_cast<std::size_t>(i)] = label;
+    SetTip(*label, StateTip(main_, {}, {"LabelCount", i}));
+  }
+  clock_ = dynamic_cast<TextLabel*>(mirror_.WidgetOf(FormId::Main, {"LabelTijd"}));
+  renewal_ = dynamic_cast<SlimProgress*>(mirror_.WidgetOf(FormId::Main, {"ProgressBar2"}));
+  Sync();
+}
+
+void MainExtras::MakeWidgets(QWidget& window) {
+  ViewChoices& choices = surroundings_.choices;
+  menu_ = new ViewMenu(choices, &window);
+  card_ = new GuideCard(&window);
+  card_->hide();
+  card_->on_next = [this] { PressNext(); };
+  line_ = new GuideLine(&window);
+  card_->on_close = line_->on_close = [this, &choices] {
+    choices.CloseGuide();
+    SyncGuide();
+  };
+}
+
+void MainExtras::PressNext() {
+  if (!main_.CommandNew.enabled || BehindDialog(*card_)) return;
+  Event event;
+  event.control = {"CommandNew"};
+  surroundings_.sink.Send(event);
+}
+
+void MainExtras::ApplyLook() {
+  menu_->PlaceButton();
+  card_->PlaceAll();
+  line_->PlaceAll();
+}
+
+void MainExtras::Sync() {
+  SyncGuide();
+  SyncTips();
+  SyncList();
+  SyncRenewal();
+  clock_->SetSolved(main_.end == PuzzleEnd::Solved);
+}
+
+void MainExtras::SyncGuide() {
+  const TipState state = surroundings_.state();
+  const Guide guide = GuideFor(main_, surroundings_.choices.Now(), state.marks_are_candidates);
+  for (int level = 1; level <= kLevels; ++level) {
+    if (main_.OptionType(level).value) card_->SetLevel(ToQString(main_.OptionType(level).caption));
+  }
+  if (guide == shown_) return;
+  shown_ = guide;
+  card_->setVisible(guide.card);
+  card_->raise();
+  line_->Show(guide);
+}
+
+void MainExtras::SyncTips() {
+  const TipState state = surroundings_.state();
+  for (const ControlId& id : kTipped) {
+    QWidget* widget = mirror_.WidgetOf(FormId::Main, id);
+    const std::string tip = StateTip(main_, state, id);
+    SetTip(*widget, tip.empty() ? OwnTip(main_, id) : tip);
+  }
+}
+
+// The technique list as a whole: a hairline where the tier changes, a frame round the hinted row, and counts
+// that are read with their names.
+void MainExtras::SyncList() {
+  const int hinted = main_.LabelHint.visible ? WholeNumber(main_.LabelHint.tag).value_or(0) - 1 : -1;
+  for (int slot = 0; slot < kTechniques; ++slot) {
+    const Label& name = main_.LabelCount(slot);
+    const Label& count = main_.LabelCount(kTechniques + slot);
+    const bool rule = slot > 0 && name.back != main_.LabelCount(slot - 1).back;
+    TextLabel* left = list_[static_cast<std::size_t>(slot)];
+    TextLabel* right = list_[static_cast<std::size_t>(kTechniques + slot)];
+    left->SetRule(rule);
+    right->SetRule(rule);
+    left->SetFrame(slot == hinted ? RowFrame::LeftEnd : RowFrame::None);
+    right->SetFrame(slot == hinted ? RowFrame::RightEnd : RowFrame::None);
+    const QString spoken = ToQString(name.caption) + QStringLiteral(": ") + ToQString(count.caption);
+    if (right->accessibleName() != spoken) right->setAccessibleName(spoken);
+  }
+}
+
+void MainExtras::SyncRenewal() {
+  const int level = surroundings_.state().renewing_level;
+  if (level == 0) return;
+  const QString format =
+      ToQString(texts::kLevelNames[static_cast<std::size_t>(level - 1)]) + QStringLiteral(": %v of %m");
+  if (renewal_->format() != format) renewal_->setFormat(format);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+// What the window shows beyond its controls, by its state.
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "game/board.h"
+#include "view/digit_lens.h"
+#include "view/guide.h"
+#include "view/state_tips.h"
+#include "view/texts.h"
+#include "view/view_settings.h"
+
+namespace kestrel {
+namespace {
+
+// A board with the digit 5 in A1 and D4 as givens, and in B7 as a wrong digit of the player's.
+struct OpenBoard {
+  explicit OpenBoard(int level) {
+    puzzle.PuzzleLevel = static_cast<std::int16_t>(level);
+    puzzle.GivenDigits[0] = puzzle.GivenDigits[30] = 5;
+    puzzle.SolutionDigits[15] = 6;
+    board.ClearGrid();
+    board.LayOutGivens();
+    board.EnableGrid();
+    for (Button* button : {&main.CommandResetCell, &main.CommandSolution, &main.CommandHint}) {
+      button->enabled = true;
+    }
+    board.HideMarks(511, 15);
+    board.SetDigit(5, 15);
+  }
+  MainWindow main = MakeMainWindow();
+  OpenPuzzle puzzle;
+  Board board{main, puzzle};
+};
+
+TEST(DigitLens, ShowsEqualsMarksAndLines) {
+  OpenBoard open(3);
+  const auto lens = LensOver(open.main, 15, 0, true);
+  ASSERT_TRUE(lens);
+  CellSet fives = CellSet::Of(0);
+  fives.Add(15);
+  fives.Add(30);
+  EXPECT_EQ(lens->DigitsOf(open.main), fives);  // right and wrong ones alike
+  EXPECT_EQ(lens->Lines().Size(), 21);
+  EXPECT_TRUE(lens->Lines().Has(9) && lens->Lines().Has(78) && lens->Lines().Has(26));
+  const CellSet marks = lens->MarksOf(open.main);
+  EXPECT_TRUE(marks.Has(80));
+  EXPECT_FALSE(marks.Has(1));   // the given's row
+  EXPECT_FALSE(marks.Has(15));  // full
+  // Over a mark, its digit counts; over nothing there is no lens.
+  EXPECT_EQ(LensOver(open.main, 80, 7, true)->digit, 7);
+  EXPECT_FALSE(LensOver(open.main, 80, 0, true));
+  // Keys are no candidates: they do not stand out.
+  EXPECT_TRUE(LensOver(open.main, 80, 5, false)->MarksOf(open.main).Empty());
+  open.board.DisableGrid();
+  EXPECT_FALSE(LensOver(open.main, 15, 0, true));
+}
+
+TEST(Guide, LeadsFromTheCardToTheEnd) {
+  MainWindow main = MakeMainWindow();
+  OpenPuzzle puzzle;
+  Board board(main, puzzle);
+  board.DisableGrid();
+  ViewSettings view;
+  EXPECT_EQ(GuideFor(main, view, false), Guide());  // the start-up panel is still there
+  main.Picture3.visible = false;
+  main.CommandNew.enabled = true;
+  EXPECT_TRUE(GuideFor(main, view, false).card);
+  board.EnableGrid();
+  EXPECT_EQ(GuideFor(main, view, false), (Guide{false, texts::kKeypadLine, true}));
+  EXPECT_EQ(GuideFor(main, view, true), (Guide{false, texts::kMarksLine, true}));
+  for (int i = 0; i < kMarksToLearn - 1; ++i) CountMark(view);
+  EXPECT_FALSE(GuideFor(main, view, true).line.empty());
+  CountMark(view);
+  CountMark(view);
+  EXPECT_EQ(GuideFor(main, view, true), Guide());
+  EXPECT_EQ(view.marks_clicked, kMarksToLearn);
+  // One click ends all of it, but not what tells how a puzzle ended.
+  view = ViewSettings();
+  view.guide = false;
+  EXPECT_EQ(GuideFor(main, view, true), Guide());
+  main.end = PuzzleEnd::Solved;
+  EXPECT_EQ(GuideFor(main, view, true), (Guide{false, texts::kSolvedLine, false}));
+}
+
+TEST(Tips, SayWhyNothingHappens) {
+  OpenBoard open(1);
+  const auto tip = [&](ControlId id, const TipState& state = {false, 0}) {
+    return StateTip(open.main, state, id);
+  };
+  open.main.CommandNew.enabled = false;
+  EXPECT_EQ(tip({"CommandNew"}), texts::kFinishFirst);
+  EXPECT_EQ(tip({"CommandHint"}), texts::kHintKeypad);
+  EXPECT_EQ(tip({"CommandHint"}, {true, 0}), "");
+  open.main.OptionType(2).enabled = false;
+  EXPECT_EQ(tip({"OptionType", 2}), texts::kLevelInPlay);
+  EXPECT_EQ(tip({"OptionType", 2}, {false, 2}), texts::kLevelInRenewal);
+  EXPECT_EQ(tip({"LabelCount", 10}), "X-Wing: needed from Hard puzzles on. Click for its help page");
+  // Reset Cell: nothing selected, a given, a cell that it empties, and after the end.
+  EXPECT_EQ(tip({"CommandResetCell"}), texts::kResetHow);
+  open.main.LabelRow(0).fore = open.main.LabelColumn(0).fore = kRed;
+  EXPECT_EQ(tip({"CommandResetCell"}), texts::kResetGiven);
+  open.main.LabelColumn(0).fore = kBlack;
+  open.main.LabelColumn(1).fore = kRed;
+  EXPECT_EQ(tip({"CommandResetCell"}), "");
+  open.board.ShowSolution();
+  open.main.CommandResetCell.enabled = false;
+  EXPECT_EQ(tip({"CommandResetCell"}), texts::kNoPlay);
+  EXPECT_TRUE(open.main.filled_in.Has(15));  // the player's digit was wrong
+  EXPECT_FALSE(open.main.filled_in.Has(1));
+}
+
+TEST(WindowSize, FitsTheScreen) {
+  // 1280 x 800, 1920 x 1080 and 2560 x 1440, and the first with a factor of 2.
+  EXPECT_EQ(ComfortableSize(800 / 688.0), 100);
+  EXPECT_EQ(ComfortableSize(1080 / 688.0), 125);
+  EXPECT_EQ(ComfortableSize(1440 / 688.0), 150);
+  EXPECT_EQ(ComfortableSize(400 / 688.0), 50);
+  EXPECT_EQ(FittingSize(200, 1.6), 150);
+  EXPECT_EQ(FittingSize(125, 0.8), 75);
+  EXPECT_EQ(NextWindowSize(50, 1), 75);
+  EXPECT_EQ(NextWindowSize(50, -1), 50);
+  EXPECT_EQ(NextWindowSize(150, 1), 200);
+  EXPECT_EQ(NextWindowSize(200, 1), 200);
+  EXPECT_EQ(NextWindowSize(100, -1), 75);
+}
+
+class PlainSettings final : public Settings {
+ public:
+  std::string Read(std::string_view section, std::string_view key, std::string_view fallback) override {
+    const auto found = values.find(std::string(section) + "/" + std::string(key));
+    return found == values.end() ? std::string(fallback) : found->second;
+  }
+  bool Write(std::string_view section, std::string_view key, std::string_view value) override {
+    values[std::string(section) + "/" + std::string(key)] = value;
+    return true;
+  }
+  std::map<std::string, std::string> values;
+};
+
+TEST(ViewSettings, AreRemembered) {
+  PlainSettings settings;
+  EXPECT_EQ(LoadViewSettings(settings), ViewSettings());
+  const ViewSettings chosen{150, ColourChoice::HighContrast, false, false, 7};
+  SaveViewSettings(settings, chosen, ViewSettings());
+  EXPECT_EQ(LoadViewSettings(settings), chosen);
+  settings.values["View/Size"] = "130";
+  settings.values["View/Colours"] = "Pink";
+  settings.values["View/Marks_Clicked"] = "-3";
+  EXPECT_EQ(LoadViewSettings(settings), (ViewSettings{kNoSize, ColourChoice::Desktop, false, false, 0}));
+}
+
+}  // namespace
+}  // namespace kestrel
