@@ -28,12 +28,21 @@ struct BundleResult {
   std::uint64_t bytes = 0;  // of the input, up to the end of this bundle
 };
 
+// What is told of a line that is no puzzle.
+std::string BadLineText(const InputLine& line) {
+  const std::string place = line.line == 0 ? std::string(kProgramName) + ": " + line.file
+                                           : line.file + ":" + std::to_string(line.line);
+  return place + ": " + line.error + "\n";
+}
+
+ExitStatus BadLineStatus(const InputLine& line) {
+  return line.line == 0 ? ExitStatus::kFailure : ExitStatus::kBadInput;
+}
+
 void ReportBadLine(const InputLine& line, bool json, BundleResult& result) {
   const bool whole_file = line.line == 0;
-  result.status = std::max(result.status, whole_file ? ExitStatus::kFailure : ExitStatus::kBadInput);
-  result.err +=
-      whole_file ? std::string(kProgramName) + ": " + line.file : line.file + ":" + std::to_string(line.line);
-  result.err += ": " + line.error + "\n";
+  result.status = std::max(result.status, BadLineStatus(line));
+  result.err += BadLineText(line);
   if (!json) return;
   Json object = JsonLine();
   object["file"] = line.file;
@@ -82,6 +91,11 @@ ExitStatus RunOnPuzzles(const PuzzleRun& run, CliPorts& ports) {
   };
   RunOrdered<Bundle>(run.jobs, read, make_worker, write);
   return status;
+}
+
+ExitStatus TellBadLine(const InputLine& line, CliPorts& ports) {
+  ports.err << BadLineText(line);
+  return BadLineStatus(line);
 }
 
 }  // namespace kestrel

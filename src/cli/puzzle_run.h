@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli/command.h"
+#include "cli/puzzle_reader.h"
 #include "core/grid.h"
 
 namespace kestrel {
@@ -24,5 +25,8 @@ struct PuzzleRun {
 // Runs over all puzzles. Bad lines go to standard error as FILE:LINE: reason, and the rest still runs.
 // kBadInput when there was one; kFailure when a file or the output failed.
 ExitStatus RunOnPuzzles(const PuzzleRun& run, CliPorts& ports);
+
+// Tells of a bad line, or of a file that cannot be read, on standard error; gives the status that it leads to.
+ExitStatus TellBadLine(const InputLine& line, CliPorts& ports);
 
 }  // namespace kestrel

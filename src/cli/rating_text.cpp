@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/rating_text.h"
 
+#include "forms/texts.h"
+
 #include <cstdint>
 
 namespace kestrel {
@@ -36,6 +38,10 @@ DigitGrid SolvedGrid(const SolverState& state) {
   DigitGrid grid{};
   for (int cell = 0; cell < kCells; ++cell) grid[cell] = static_cast<std::uint8_t>(state.CellValue(cell));
   return grid;
+}
+
+std::string RatingName(int level) {
+  return level > kLevels ? "Beyond" : std::string(texts::kLevelNames[static_cast<std::size_t>(level - 1)]);
 }
 
 }  // namespace kestrel

@@ -18,6 +18,9 @@ std::string CountsTsv(const SlotCounts& counts);
 // {"HS":41,"NS":3,...}
 Json CountsJson(const SlotCounts& counts);
 
+// "Medium"; "Beyond" for level 6.
+std::string RatingName(int level);
+
 // The digits of a solver state, 0 for an unsolved cell.
 DigitGrid SolvedGrid(const SolverState& state);
 

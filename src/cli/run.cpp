@@ -15,14 +15,17 @@ struct Command {
   ExitStatus (*run)(Arguments&, CliPorts&);
 };
 
-constexpr std::array<Command, 10> kCommands{{
+constexpr std::array<Command, 13> kCommands{{
     {&kRateSpec, RateCommand},
     {&kSolveSpec, SolveCommand},
     {&kExplainSpec, ExplainCommand},
     {&kGenerateSpec, GenerateCommand},
     {&kPrintSpec, PrintCommand},
+    {&kReportSpec, ReportCommand},
     {&kStockNewSpec, StockNewCommand},
     {&kStockRenewSpec, StockRenewCommand},
+    {&kStockImportSpec, StockImportCommand},
+    {&kStockRepairSpec, StockRepairCommand},
     {&kStockVerifySpec, StockVerifyCommand},
     {&kStockListSpec, StockListCommand},
     {&kStockExportSpec, StockExportCommand},

@@ -83,7 +83,8 @@ ExitStatus WriteRecords(Arguments& arguments, CliPorts& ports, const std::string
   const int only = static_cast<int>(arguments.Number("level", 0, 1, kLevels));
   const std::string path = StockPath(arguments, ports);
   StockTable stock;
-  if (!arguments.Error().empty() || !ReadStockOf(path, ports, stock)) return ExitStatus::kFailure;
+  if (!arguments.Error().empty() || !ReadSoundStock(path, ports, {.level = only}, stock))
+    return ExitStatus::kFailure;
   ports.out << header;
   for (int level = 1; level <= kLevels; ++level) {
     for (int number = 1; number <= kPuzzlesPerLevel; ++number) {

@@ -25,4 +25,11 @@ bool ReadStockOf(const std::string& path, CliPorts& ports, StockTable& stock) {
   return static_cast<bool>(result);
 }
 
+bool ReadSoundStock(const std::string& path, CliPorts& ports, const RecordRange& range, StockTable& stock) {
+  if (!ReadStockOf(path, ports, stock)) return false;
+  const std::string doubt = WhyNoStock(ports.files.Length(path).value_or(0), stock, range);
+  if (!doubt.empty()) PrintError(ports, path + ": " + doubt);
+  return doubt.empty();
+}
+
 }  // namespace kestrel

@@ -6,6 +6,7 @@
 
 #include "cli/command.h"
 #include "core/stock_table.h"
+#include "stock/stock_doubt.h"
 
 namespace kestrel {
 
@@ -18,5 +19,8 @@ std::string WritableStockPath(Arguments& arguments, CliPorts& ports);
 
 // Reads a stock; on failure says so on standard error and returns false.
 bool ReadStockOf(const std::string& path, CliPorts& ports, StockTable& stock);
+
+// The same, and refuses a file that is no stock, or in which the records of the range make no sense.
+bool ReadSoundStock(const std::string& path, CliPorts& ports, const RecordRange& range, StockTable& stock);
 
 }  // namespace kestrel

@@ -13,6 +13,8 @@
 namespace kestrel {
 
 inline constexpr std::string_view kStockFileName = "sudstock.kpz";
+// Behind the name of a stock: the older copy of it that the game keeps.
+inline constexpr std::string_view kOlderStockEnding = ".older";
 
 // Values of StockStatus. Bit L (1..5) says that level L holds a complete set.
 inline constexpr std::int16_t kStockNotRead = 0;

@@ -93,44 +93,125 @@ TEST(StockExport, LinesCanBeRatedAgain) {
   EXPECT_TRUE(json.out.starts_with(R"({"schema":1,"level":1,"number":1,"score":)"));
   // No stock anywhere.
   EXPECT_EQ(RunWith({"stock", "list"}).status, 2);
-  // A stock of nonsense is listed and exported without harm.
+  // A damaged stock shows only the levels that make sense; what is no stock at all shows nothing.
   TempFolder folder;
+  StockTable stock = ReadShipped();
+  stock(3, 9).GivenCells[0] = 77;
+  Save(stock, folder, "damaged");
   folder.Put("junk", std::string(50'000, '\xFE'));
-  EXPECT_EQ(Lines(RunWith({"stock", "export", folder.Path("junk")}).out).size(), 500U);
+  for (const std::string command : {"list", "export"}) {
+    EXPECT_EQ(RunWith({"stock", command, "--level=2", folder.Path("damaged")}).status, 0);
+    for (const char* file : {"damaged", "junk"}) {
+      const CliResult refused = RunWith({"stock", command, folder.Path(file)});
+      EXPECT_TRUE(refused.status == 2 && refused.out.empty() && Lines(refused.err).size() == 1)
+          << refused.err;
+    }
+  }
   EXPECT_EQ(RunWith({"stock", "verify", folder.Path("junk")}).status, 1);
 }
 
+// What a stock holds after each of these commands: `words` go between the command and the stock.
+struct Change {
+  std::string command;
+  std::vector<std::string> words;
+};
+
+class StockChange : public ::testing::TestWithParam<Change> {
+ protected:
+  CliResult Run(FaultyCalls& calls) {
+    std::vector<std::string> words{"stock", GetParam().command, "--jobs", "1"};
+    words.insert(words.end(), GetParam().words.begin(), GetParam().words.end());
+    words.insert(words.end(), {"--stock", folder_.Path("stock")});
+    return RunWith(words, puzzles_, "", "", calls);
+  }
+  TempFolder folder_;
+  std::string puzzles_;
+};
+INSTANTIATE_TEST_SUITE_P(Stock, StockChange,
+                         ::testing::Values(Change{"renew", {"--level", "1", "--seed", "5"}},
+                                           Change{"import", {"--level", "1", "-"}},
+                                           Change{"repair", {"--seed", "5"}}));
+
 // The stock is wholly old or wholly new, and new when that was said.
-TEST(StockRenew, AnyCallMayFailOrBeTheLast) {
-  TempFolder folder;
-  Save(ReadShipped(), folder, "stock");
-  const std::string old_stock = folder.Get("stock");
-  const auto renew = [&](FaultyCalls& calls) {
-    return RunWith({"stock", "renew", "--level", "1", "--seed", "5", "--jobs", "1", folder.Path("stock")}, "",
-                   "", "", calls);
-  };
+TEST_P(StockChange, AnyCallMayFailOrBeTheLast) {
+  StockTable hurt = ReadShipped();
+  if (GetParam().command == "import") puzzles_ = RunWith({"generate", "--count", "20", "--seed", "9"}).out;
+  if (GetParam().command == "repair") hurt(1, 50) = SudokuRecord{};
+  Save(hurt, folder_, "stock");
+  const std::string old_stock = folder_.Get("stock");
   FaultyCalls counted;
-  ASSERT_EQ(renew(counted).status, 0);
-  const std::string new_stock = folder.Get("stock");
+  ASSERT_EQ(Run(counted).status, 0);
+  const std::string new_stock = folder_.Get("stock");
   ASSERT_NE(new_stock, old_stock);
+  EXPECT_EQ(RunWith({"stock", "verify", folder_.Path("stock")}).status, 0);
   for (int n = 1; n <= counted.Count(); ++n) {
     SCOPED_TRACE(n);
     FaultyCalls failing, killing;
     failing.FailAt(n, n % 2 == 0, n % 3 == 0 ? ENOSPC : EIO);
-    folder.Put("stock", old_stock);
-    const CliResult failed = renew(failing);
+    folder_.Put("stock", old_stock);
+    const CliResult failed = Run(failing);
     EXPECT_EQ(failed.status == 0, failed.err.empty()) << failed.err;
-    std::string stock = folder.Get("stock");
+    std::string stock = folder_.Get("stock");
     EXPECT_TRUE(stock == new_stock || (stock == old_stock && failed.status != 0));
-    folder.Put("stock", old_stock);
+    if (GetParam().command == "repair" && n % 4 != 0) continue;  // takes a second each
+    folder_.Put("stock", old_stock);
     killing.KillAt(n);
-    if (fork() == 0) _exit(renew(killing).status);
+    if (fork() == 0) _exit(Run(killing).status);
     int end = 0;
     wait(&end);
     EXPECT_EQ(WEXITSTATUS(end), FaultyCalls::kKilled);
-    stock = folder.Get("stock");
+    stock = folder_.Get("stock");
     EXPECT_TRUE(stock == new_stock || stock == old_stock);
   }
+}
+
+TEST(StockImport, KeepsTimesThatAreSetMeanwhileAndWritesNothingWhenDry) {
+  TempFolder folder;
+  StockTable stock = ReadShipped();
+  stock(1, 3).BestMinutes = 4;
+  Save(stock, folder, "stock");
+  const std::string before = folder.Get("stock");
+  folder.Put("puzzles", RunWith({"generate", "--count", "30", "--seed", "9"}).out + "rubbish\n");
+  const std::vector<std::string> words{"stock", "import", "--stock", folder.Path("stock"),
+                                       folder.Path("puzzles")};
+  auto dry = words;
+  dry.emplace_back("--dry-run");
+  const CliResult planned = RunWith(dry);
+  EXPECT_EQ(planned.status, 1);  // for the bad line
+  EXPECT_NE(planned.err.find("puzzles:31: "), std::string::npos);
+  EXPECT_EQ(folder.Get("stock"), before);
+  EXPECT_EQ(RunWith(words).status, 1);
+  EXPECT_EQ(RunWith({"stock", "verify", folder.Path("stock")}).status, 0);
+  EXPECT_NE(RunWith({"stock", "list", folder.Path("stock")}).out.find("\t4:00\t"), std::string::npos);
+  EXPECT_NE(RunWith(words).out.find("nothing to change"), std::string::npos);
+}
+
+TEST(Report, IsOnePageThatIsValid) {
+  TempFolder folder;
+  StockTable stock = ReadShipped();
+  stock(4, 3).BestMinutes = 71;
+  Save(stock, folder, "<&\">.kpz");
+  folder.Put("puzzles", RunWith({"generate", "--count", "50", "--seed", "3"}).out);
+  folder.Put("none", "# nothing\n");
+  for (const std::vector<std::string>& words : {std::vector<std::string>{"--stock", folder.Path("<&\">.kpz")},
+                                                {folder.Path("puzzles")},
+                                                {folder.Path("none")},
+                                                {folder.Path("puzzles"), folder.Path("none")}}) {
+    std::vector<std::string> all{"report", "--output", folder.Path("page.html")};
+    all.insert(all.end(), words.begin(), words.end());
+    ASSERT_EQ(RunWith(all).status, 0);
+    const std::string page = folder.Get("page.html");
+    EXPECT_EQ(page.find("http"), std::string::npos) << "needs something from elsewhere";
+    EXPECT_EQ(page.find("best times"), words[0] == "--stock" ? page.find("best times") : std::string::npos);
+    const std::string tidy =
+        "command -v tidy >/dev/null || exit 0; tidy -q -e " + folder.Path("page.html").string();
+    EXPECT_EQ(std::system(tidy.c_str()), 0);
+    // Never over a stock.
+    all[2] = folder.Path("<&\">.kpz");
+    EXPECT_EQ(RunWith(all).status, 2);
+  }
+  EXPECT_NE(RunWith({"report", "--stock", folder.Path("<&\">.kpz")}).out.find("Hard 3: 1:11:00, score"),
+            std::string::npos);
 }
 
 }  // namespace

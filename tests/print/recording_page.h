@@ -63,6 +63,7 @@ inline StockTable StockToPrint() {
           static_cast<std::uint8_t>((3 * (cell / 9) + cell / 27 + cell % 9 + k) % 9 + 1);
       if ((cell * 7 + k) % 10 < 3) record.GivenCells[cell] = record.SolutionCells[cell];
     }
+    record.Level = static_cast<std::int16_t>(k / 100 + 1);
     record.TechniqueCount.fill(30);
   }
   return stock;
