@@ -2,6 +2,7 @@
 #include "cli/output_file.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <filesystem>
 #include <fstream>

@@ -3,6 +3,7 @@
 // thin lines. Used by report_page.cpp.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "cli/report_data.h"
