@@ -59,8 +59,9 @@ std::string TwoDigits(std::int64_t value) {
 }
 
 std::string GridText(const DigitGrid& grid) {
-  std::string text;
-  for (const std::uint8_t digit : grid) text += digit <= 9 ? static_cast<char>('0' + digit) : '?';
+  std::string text(kCells, '?');
+  char* next = text.data();
+  for (const std::uint8_t digit : grid) *next++ = digit <= 9 ? static_cast<char>('0' + digit) : '?';
   return text;
 }
 

@@ -69,9 +69,9 @@ bool MayHoldSubset(const NineSets& sets) {
   unsigned small = 0;   // members that are small enough
   unsigned filled = 0;  // sets that are not empty
   for (unsigned i = 0; i < 9; ++i) {
-    const int count = BitCount[sets.set[i]];
-    if (count <= size) small |= 1U << i;
-    if (count != 0) filled |= 1U << i;
+    const int count = BitCount.data()[sets.set.data()[i]];
+    small |= static_cast<unsigned>(count <= size) << i;
+    filled |= static_cast<unsigned>(count != 0) << i;
   }
   small &= sets.members;
   if (BitCount[small] < size) return false;

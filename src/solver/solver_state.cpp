@@ -73,30 +73,45 @@ SolverState::SolverState(const DigitGrid& givens) {
     }
   }
   for (CellSet& cells : cells_) cells &= open_cells;
-  DeriveUnits();
+  for (int unit = 0; unit < kUnits; ++unit) units_[unit].placed = taken[unit];
+  from_digits_ = true;
+  DeriveUnits(open_cells);
 }
 
 SolverState::SolverState(const DigitGrid& digits, const MarkGrid& marks) {
+  CellSet open_cells = CellSet::All();
   for (int c = 0; c < kCells; ++c) {
     cell_value_[c] = DigitOrNone(digits[c]);
-    if (cell_value_[c] != 0) --unsolved_;
+    if (cell_value_[c] != 0) {
+      open_cells.Remove(c);
+      --unsolved_;
+    }
     cell_mask_[c] = marks[c] & kAllDigits;
     for (CandidateMask rest = cell_mask_[c]; rest != 0; rest &= rest - 1) {
       cells_[LowestDigit(rest) - 1].Add(c);
     }
   }
-  DeriveUnits();
+  DeriveUnits(open_cells);
 }
 
 // Fills units_ from cells_, which costs less than adding the candidates one by one.
-void SolverState::DeriveUnits() {
+void SolverState::DeriveUnits(CellSet open_cells) {
+  const std::array<PositionMask, kUnits> open = PlacesOf(open_cells);
+  for (int unit = 0; unit < kUnits; ++unit) units_[unit].open = open[unit];
   for (unsigned d = 0; d < 9; ++d) {
     const std::array<PositionMask, kUnits> places = PlacesOf(cells_[d]);
-    for (int unit = 0; unit < kUnits; ++unit) {
-      units_[unit].places[d] = places[unit];
-      const unsigned lone = BitCount.data()[places[unit]] == 1 ? 1 : 0;
-      units_[unit].lone_digits |= static_cast<CandidateMask>(lone << d);
+    for (int unit = 0; unit < kUnits; ++unit) units_.data()[unit].places.data()[d] = places.data()[unit];
+  }
+  for (int unit = 0; unit < kUnits; ++unit) {
+    // For all digits at once: met in one cell or more, and in two or more.
+    unsigned once = 0;
+    unsigned twice = 0;
+    for (const std::uint8_t cell : kUnitTables.cell.data()[unit]) {
+      const unsigned mask = cell_mask_.data()[cell];
+      twice |= once & mask;
+      once |= mask;
     }
+    units_[unit].lone_digits = static_cast<CandidateMask>(once & ~twice);
   }
 }
 
@@ -114,7 +129,8 @@ inline UnitMask SolverState::ClearPlaces(int digit, int cell) {
     PositionMask& places = unit.places.data()[digit - 1];
     places = Without(places, positions[k]);
     // Without a branch, for the answer is close to random.
-    const unsigned lone = BitCount.data()[places] == 1 ? 1 : 0;
+    const unsigned left = places;
+    const unsigned lone = static_cast<unsigned>(left != 0) & static_cast<unsigned>((left & (left - 1)) == 0);
     unit.lone_digits = static_cast<CandidateMask>((unit.lone_digits & ~bit) | lone << (digit - 1));
     lone_units |= lone << index;
   }
@@ -124,6 +140,11 @@ inline UnitMask SolverState::ClearPlaces(int digit, int cell) {
 void SolverState::PlaceValue(int digit, int cell) {
   if (cell_value_[cell] == 0) --unsolved_;
   cell_value_[cell] = static_cast<std::uint8_t>(digit);
+  for (int k = 0; k < 3; ++k) {
+    UnitCandidates& unit = units_[kUnitTables.unit[cell][k]];
+    unit.open = Without(unit.open, kUnitTables.position[cell][k]);
+    unit.placed |= DigitBit(digit);
+  }
   UnitMask lone_units = 0;
   UnitMask changed_units = kUnitTables.units[cell];
   changed_digits_ |= static_cast<CandidateMask>(cell_mask_[cell] | DigitBit(digit));
@@ -170,6 +191,14 @@ void SolverState::PassOnChanges() {
   for (CandidateMask& digits : digits_to_scan_) digits |= changed_digits_;
   changed_units_ = 0;
   changed_digits_ = 0;
+}
+
+bool SolverState::Even(int unit) const {
+  const UnitCandidates& here = units_[unit];
+  unsigned with_place = 0;
+  for (unsigned d = 0; d < 9; ++d) with_place |= (here.places.data()[d] != 0 ? 1U : 0U) << d;
+  return from_digits_ && with_place == Without(kAllDigits, here.placed) &&
+         BitCount[with_place] == BitCount[here.open];
 }
 
 UnitMask& SolverState::UnitsToScan(UnitScan scan) {

@@ -84,6 +84,11 @@ class SolverState {
   [[nodiscard]] PositionMask Places(int digit, int unit) const { return units_[unit].places[digit - 1]; }
   // The digits that are a candidate in exactly one cell of the unit (0..26).
   [[nodiscard]] CandidateMask LoneDigits(int unit) const { return units_[unit].lone_digits; }
+  // The number of cells of the unit (0..26) without a digit.
+  [[nodiscard]] int OpenCells(int unit) const { return BitCount[units_[unit].open]; }
+  // True when the unit lacks just as many digits as it has open cells, each with a place in it, and nothing else is a
+  // candidate there, as in any unit of a sound puzzle. Never true of a state made from marks.
+  [[nodiscard]] bool Even(int unit) const;
   // True when every cell has a digit.
   [[nodiscard]] bool Solved() const { return unsolved_ == 0; }
 
@@ -134,7 +139,7 @@ class SolverState {
   }
 
  private:
-  void DeriveUnits();
+  void DeriveUnits(CellSet open_cells);
   UnitMask ClearPlaces(int digit, int cell);
   void PassOnChanges();
 
@@ -145,9 +150,13 @@ class SolverState {
   struct UnitCandidates {
     std::array<PositionMask, 9> places{};  // by digit - 1
     CandidateMask lone_digits = 0;
+    PositionMask open = kAllDigits;  // the cells without a digit
+    CandidateMask placed = 0;        // digits that were ever placed here
   };
   std::array<UnitCandidates, kUnits> units_{};
   UnitMask lone_units_ = kAllUnits;
+  // Made from digits alone: no solved cell has a candidate, no unit has one of a digit placed in it.
+  bool from_digits_ = false;
 
   // Changes not yet passed on to the searches' own lists.
   UnitMask changed_units_ = kAllUnits;

@@ -92,12 +92,44 @@ bool FindHiddenInUnit(SolverState& state, const SolverInput& input, int unit) {
   });
 }
 
+// Where a unit lacks n digits in n cells, a naked subset of k is a hidden subset of the n - k other digits in the n - k
+// other cells, and both remove the same candidates. So nothing need be looked for that the search for the other has
+// just looked for without success; that leaves the sizes near half of n. The single is the hidden subset of one.
+template <bool naked, int size>
+bool OtherSideIsDone(SolverState& state, int unit) {
+  const UnitMask bit = UnitMask{1} << static_cast<unsigned>(unit);
+  const auto searched = [&state, bit](UnitScan scan) { return (state.UnitsToScan(scan) & bit) == 0; };
+  bool done = false;
+  switch (state.OpenCells(unit) - size) {
+    case 1:
+      done = naked && (state.LoneUnits() & bit) == 0;
+      break;
+    case 2:
+      done = searched(naked ? UnitScan::HiddenPair : UnitScan::NakedPair);
+      break;
+    case 3:
+      done = searched(naked ? UnitScan::HiddenTriple : UnitScan::NakedTriple);
+      break;
+    case 4:
+      done = !naked && searched(UnitScan::NakedQuad);
+      break;
+    case 5:
+      done = !naked && searched(UnitScan::NakedQuint);
+      break;
+    default:
+      done = state.OpenCells(unit) <= size;
+  }
+  return done && state.Even(unit);
+}
+
 // Both forms go through rows, columns and boxes in this order, which is the order of the units' numbers.
 template <int size>
 bool FindNaked(SolverState& state, const SolverInput& input, UnitScan scan) {
   UnitMask& to_scan = state.UnitsToScan(scan);
   for (; to_scan != 0; to_scan &= to_scan - 1) {
-    if (FindNakedInUnit<size>(state, input, std::countr_zero(to_scan))) return true;
+    const int unit = std::countr_zero(to_scan);
+    if (OtherSideIsDone<true, size>(state, unit)) continue;
+    if (FindNakedInUnit<size>(state, input, unit)) return true;
   }
   return false;
 }
@@ -106,7 +138,9 @@ template <int size>
 bool FindHidden(SolverState& state, const SolverInput& input, UnitScan scan) {
   UnitMask& to_scan = state.UnitsToScan(scan);
   for (; to_scan != 0; to_scan &= to_scan - 1) {
-    if (FindHiddenInUnit<size>(state, input, std::countr_zero(to_scan))) return true;
+    const int unit = std::countr_zero(to_scan);
+    if (OtherSideIsDone<false, size>(state, unit)) continue;
+    if (FindHiddenInUnit<size>(state, input, unit)) return true;
   }
   return false;
 }
