@@ -16,7 +16,7 @@ namespace {
 // Twips; the card stands in the middle of the board, the line between board and commands.
 constexpr QRect kCard(2805, 3765, 4005, 2085);
 constexpr QRect kCardNext(1080, 1020, 1845, 525);  // on the card
-constexpr QRect kLine(960, 8745, 7695, 240);
+constexpr QRect kLine(960, 8805, 7695, 180);
 constexpr int kCross = 240;
 
 QRect LogicalRect(const QRect& twips) {
@@ -53,9 +53,9 @@ void CloseCross::paintEvent(QPaintEvent* /*event*/) {
     PaintRounded(painter, surface.Area(), surface.Grid().Pixels(3),
                  isDown() ? colours.pressed : colours.hover);
   }
-  const QRectF cross = QRectF(surface.Area()).adjusted(0, 0, -1, -1);
-  const double inset = cross.width() * 0.32;
-  const QRectF arms = cross.adjusted(inset, inset, -inset, -inset);
+  const double reach = 3.2 * surface.Grid().Ratio();
+  const QPointF middle = QRectF(surface.Area()).center();
+  const QRectF arms(middle - QPointF(reach, reach), middle + QPointF(reach, reach));
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(QColor(colours.text), 1.3 * surface.Grid().Ratio(), Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(arms.topLeft(), arms.bottomRight());
@@ -123,7 +123,7 @@ void GuideLine::Show(const Guide& guide) {
 
 void GuideLine::PlaceAll() {
   setGeometry(LogicalRect(kLine));
-  cross_.setGeometry(LogicalRect(QRect(kLine.width() - kCross, 0, kCross, kCross)));
+  cross_.setGeometry(LogicalRect(QRect(kLine.width() - kCross, 0, kCross, kLine.height())));
 }
 
 void GuideLine::paintEvent(QPaintEvent* /*event*/) {
@@ -133,7 +133,8 @@ void GuideLine::paintEvent(QPaintEvent* /*event*/) {
   PaintRounded(painter, surface.Area(), grid.Pixels(4), TheColours().note);
   painter.setPen(QColor(TheColours().text));
   painter.setFont(ToQFont(Font{}, grid.Ratio()));
-  PaintText(painter, grid.Rect(0, 0, kLine.width(), kLine.height()), Align::Centre, text_);
+  // A little higher than the middle: what hangs down must fit as well.
+  PaintText(painter, grid.Rect(0, 0, kLine.width(), kLine.height() - 30), Align::Centre, text_);
 }
 
 }  // namespace kestrel

@@ -48,6 +48,13 @@ QPixmap LoadForRatio(const QString& path, double ratio) {
   return pixmap;
 }
 
+// The name beside the logo's sign, which fills a square at its left, in the colour of texts.
+void ColourName(QPixmap& logo) {
+  QPainter painter(&logo);
+  painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+  painter.fillRect(logo.height() + 1, 0, logo.width(), logo.height(), QColor(TheColours().text));
+}
+
 QAccessibleInterface* MakeLabelInterface(const QString& /*class_name*/, QObject* object) {
   if (dynamic_cast<TextLabel*>(object) != nullptr || dynamic_cast<StatusLabel*>(object) != nullptr) {
     return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::StaticText);
@@ -249,6 +256,7 @@ void PictureButton::Show(const Picture& picture) {
     pixmap_.load(ToQString(ToHostPath(picture.file)));
   } else if (!stand_in_.isEmpty()) {
     pixmap_ = LoadForRatio(stand_in_, devicePixelRatioF() * TheLook().zoom);
+    if (!pixmap_.isNull() && TheLook().scheme != Scheme::Light) ColourName(pixmap_);
   }
   const bool acts = picture.tab_index >= 0;
   setFocusPolicy(acts ? Qt::TabFocus : Qt::NoFocus);

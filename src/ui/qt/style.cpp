@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QStyleOption>
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -166,6 +167,52 @@ void PaintChoice(const QStyleOptionButton& option, QPainter& painter, const QWid
   PaintFocus(painter, scope, ring);
 }
 
+QColor BorderColour(const QStyleOption& option) {
+  return Has(option, QStyle::State_Enabled) ? TheColours().border : TheColours().disabled_border;
+}
+
+// The outline of a text box or list; its ground stays as it is.
+void PaintOutline(const QStyleOption& option, QPainter& painter) {
+  const DeviceScope scope(painter, nullptr);
+  const QRect place = scope.Map(option.rect);
+  const int line = scope.Grid().Pixels(1);
+  painter.setClipRegion(QRegion(place) - place.adjusted(line, line, -line, -line));
+  painter.fillRect(place, BorderColour(option));
+}
+
+void PaintComboBox(const QStyleOptionComboBox& option, QPainter& painter) {
+  const DeviceScope scope(painter, nullptr);
+  const Colours& colours = TheColours();
+  const QRect place = scope.Map(option.rect);
+  const bool hovered = Has(option, QStyle::State_MouseOver) && Has(option, QStyle::State_Enabled);
+  PaintRounded(painter, place, kButtonRadius * scope.Grid().Ratio(), hovered ? colours.hover : colours.button,
+               Has(option, QStyle::State_HasFocus) ? QColor(colours.accent) : BorderColour(option),
+               scope.Grid().Pixels(1));
+  const double unit = scope.Grid().Ratio();
+  const QPointF middle(place.right() - 11 * unit, place.center().y() + 0.5);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(TextColour(option), 1.5 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(QPolygonF(
+      {middle + QPointF(-4, -2) * unit, middle + QPointF(0, 2) * unit, middle + QPointF(4, -2) * unit}));
+}
+
+void PaintSlider(const QStyleOptionSlider& option, QPainter& painter, const QRect& groove,
+                 const QRect& handle) {
+  const DeviceScope scope(painter, nullptr);
+  const Colours& colours = TheColours();
+  const QRect track = scope.Map(groove);
+  const QRect grip = scope.Map(handle);
+  const int height = scope.Grid().Pixels(4);
+  const QRect bar(track.left(), grip.center().y() - height / 2, track.width(), height);
+  PaintRounded(painter, bar, height / 2.0, colours.track, BorderColour(option), scope.Grid().Pixels(1));
+  const bool enabled = Has(option, QStyle::State_Enabled);
+  const int size = std::min(grip.width(), grip.height());
+  const QRect knob(grip.center().x() - size / 2, grip.center().y() - size / 2, size, size);
+  PaintRounded(painter, knob, size / 2.0, enabled ? colours.accent : colours.disabled_button,
+               Has(option, QStyle::State_HasFocus) ? QColor(colours.text) : BorderColour(option),
+               scope.Grid().Pixels(Has(option, QStyle::State_HasFocus) ? 2 : 1));
+}
+
 // The sign of a message box: a coloured shape with a white symbol on it.
 struct Sign {
   QRgb colour;
@@ -229,12 +276,26 @@ void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, 
   QProxyStyle::drawControl(element, option, painter, widget);
 }
 
+void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const {
+  if (const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option); box != nullptr) {
+    if (control == CC_ComboBox && !box->editable) return PaintComboBox(*box, *painter);
+  }
+  const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+  if (control == CC_Slider && slider != nullptr && slider->orientation == Qt::Horizontal) {
+    return PaintSlider(*slider, *painter, subControlRect(CC_Slider, option, SC_SliderGroove, widget),
+                       subControlRect(CC_Slider, option, SC_SliderHandle, widget));
+  }
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
 void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
   if (element == PE_FrameFocusRect) {
     const DeviceScope scope(*painter, nullptr);
     return PaintFocus(*painter, scope, scope.Map(option->rect));
   }
+  if (element == PE_FrameLineEdit || element == PE_Frame) return PaintOutline(*option, *painter);
   QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 

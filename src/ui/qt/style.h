@@ -9,7 +9,8 @@
 
 namespace kestrel {
 
-// Buttons, options, check boxes and the signs of message boxes are drawn here; everything else comes from
+// Buttons, options, check boxes, combo boxes, sliders, frames and the signs of message boxes are drawn here, with
+// borders that can be seen in every palette; everything else comes from
 // Fusion, which is on every system.
 class CalmStyle final : public QProxyStyle {
  public:
@@ -18,6 +19,8 @@ class CalmStyle final : public QProxyStyle {
 
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
