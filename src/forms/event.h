@@ -15,10 +15,12 @@ enum class FormId : std::uint8_t { Main, Names, Print, Browser };
 
 inline constexpr int kNoIndex = -1;
 
-// A control by its name (one of the literals in the forms' EachControl) and, in an array, its index.
+// A control by its name (one of the literals in the forms' EachControl) and, in an array, its index. A pencil
+// mark also says its digit, 1..9; its index is the cell.
 struct ControlId {
   std::string_view name;
   int index = kNoIndex;
+  int digit = 0;
   friend bool operator==(const ControlId&, const ControlId&) = default;
 };
 

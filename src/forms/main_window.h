@@ -81,9 +81,9 @@ MainWindow MakeMainWindow();
 
 // Calls visit(ControlId, element) for every element of a control array.
 template <class Array, class Visit>
-void EachElement(std::string_view name, Array& array, Visit&& visit) {
+void EachElement(std::string_view name, Array& array, Visit&& visit, int digit = 0) {
   int index = Array::kFirst;
-  for (auto& item : array.items) visit(ControlId{name, index++}, item);
+  for (auto& item : array.items) visit(ControlId{name, index++, digit}, item);
 }
 
 inline constexpr std::array<std::string_view, 9> kMarkNames = {"Mark1", "Mark2", "Mark3", "Mark4", "Mark5",
@@ -96,7 +96,7 @@ void EachControl(Form& form, Visit&& visit) {
   visit(ControlId{"MainWindow"}, form.window);
   EachElement("Grid", form.Grid, visit);
   for (int digit = 1; digit <= 9; ++digit) {
-    EachElement(kMarkNames[static_cast<std::size_t>(digit - 1)], form.Mark(digit), visit);
+    EachElement(kMarkNames[static_cast<std::size_t>(digit - 1)], form.Mark(digit), visit, digit);
   }
   EachElement("LabelRow", form.LabelRow, visit);
   EachElement("LabelColumn", form.LabelColumn, visit);

@@ -52,58 +52,48 @@ void DoAgain(Board& board, const Step& step) {
 
 }  // namespace
 
-void Undo(Session& session) {
-  session.forms.main.LabelHint.visible = false;
-  session.sounds.Speel(Sound::UndoRedo);
-  TakeBack(session.board, session.history.TakeBack());
-  session.ShowStepCount();
-  session.EnableHistoryButtons();
+void Undo(Play& play, Sounds& sounds) {
+  play.HideHint();
+  sounds.Speel(Sound::UndoRedo);
+  TakeBack(play.board, play.TakeBack());
 }
 
-void Redo(Session& session) {
-  session.forms.main.LabelHint.visible = false;
-  session.sounds.Speel(Sound::UndoRedo);
-  DoAgain(session.board, session.history.DoAgain());
-  session.ShowStepCount();
-  session.EnableHistoryButtons();
+void Redo(Play& play, Sounds& sounds) {
+  play.HideHint();
+  sounds.Speel(Sound::UndoRedo);
+  DoAgain(play.board, play.DoAgain());
 }
 
-void Restart(Session& session) {
-  MainWindow& main = session.forms.main;
-  main.Timer1.enabled = false;
-  session.sounds.Speel(Sound::Discard);
-  session.history.Clear();
-  session.ClearGrid();
-  session.board.EnableGrid();
-  main.LabelHint.visible = false;
-  session.board.LayOutGivens();
-  session.EnableHistoryButtons();
-  main.CommandResetCell.enabled = true;
-  main.CommandSolution.enabled = true;
-  main.CommandHint.enabled = true;
-  session.clock.Start();
+void Restart(Play& play, Sounds& sounds) {
+  sounds.Speel(Sound::Discard);
+  play.ForgetSteps();
+  play.ClearGrid();
+  play.board.EnableGrid();
+  play.HideHint();
+  play.board.LayOutGivens();
+  play.clock.Start();
 }
 
-void ResetCell(Session& session) {
-  if (session.SelectedColumn == kNoHeader || session.SelectedRow == kNoHeader) return;
-  const int cell = RowCell[session.SelectedRow][session.SelectedColumn];
-  if (session.puzzle.GivenDigits[cell] != 0) return;
-  Step* step = session.RecordStep(cell);
+void ResetCell(Play& play, const HeaderChoice& headers, Sounds& sounds) {
+  if (headers.SelectedColumn == kNoHeader || headers.SelectedRow == kNoHeader) return;
+  const int cell = RowCell[headers.SelectedRow][headers.SelectedColumn];
+  if (play.puzzle.GivenDigits[cell] != 0) return;
+  Step* step = play.RecordStep(cell);
   if (step == nullptr) return;
-  session.forms.main.LabelHint.visible = false;
-  session.sounds.Speel(Sound::ResetCell);
-  step->Action = static_cast<std::int16_t>(kResetAction + session.puzzle.CurrentDigits[cell]);
-  step->CellMarks = static_cast<CandidateMask>(kAllDigits & ~session.puzzle.PencilMask[cell]);
-  session.board.ShowMarks(kAllDigits, cell);
-  session.board.SetDigit(0, cell);
+  play.HideHint();
+  sounds.Speel(Sound::ResetCell);
+  step->Action = static_cast<std::int16_t>(kResetAction + play.puzzle.CurrentDigits[cell]);
+  step->CellMarks = static_cast<CandidateMask>(kAllDigits & ~play.puzzle.PencilMask[cell]);
+  play.board.ShowMarks(kAllDigits, cell);
+  play.board.SetDigit(0, cell);
 }
 
-void ShowSolution(Session& session) {
-  session.clock.Stop();
-  session.sounds.Speel(Sound::Solution);
-  session.forms.main.LabelHint.visible = false;
-  session.board.ShowSolution();
-  session.EndPlay();
+void ShowSolution(Play& play, Sounds& sounds) {
+  play.clock.Stop();
+  sounds.Speel(Sound::Solution);
+  play.HideHint();
+  play.board.ShowSolution();
+  play.phase = PlayPhase::Over;
 }
 
 }  // namespace kestrel

@@ -3,8 +3,6 @@
 
 #include <cstdint>
 
-#include "game/completion.h"
-
 namespace kestrel {
 
 namespace {
@@ -32,51 +30,49 @@ void HideInPeers(Board& board, int digit, Step& step) {
   }
 }
 
-void Assign(Session& session, int digit, int cell) {
-  Step* step = session.RecordStep(cell);
+void Assign(Play& play, Sounds& sounds, int digit, int cell) {
+  Step* step = play.RecordStep(cell);
   if (step == nullptr) return;
-  session.forms.main.LabelHint.visible = false;
+  play.HideHint();
   step->Action = static_cast<std::int16_t>(digit);
-  step->CellMarks = session.puzzle.PencilMask[cell];
-  session.board.HideMarks(kAllDigits, cell);
-  session.sounds.Speel(Sound::Assign);
-  session.board.SetDigit(digit, cell);
-  if (session.puzzle.MarksAreCandidates()) HideInPeers(session.board, digit, *step);
+  step->CellMarks = play.puzzle.PencilMask[cell];
+  play.board.HideMarks(kAllDigits, cell);
+  sounds.Speel(Sound::Assign);
+  play.board.SetDigit(digit, cell);
+  if (play.puzzle.MarksAreCandidates()) HideInPeers(play.board, digit, *step);
 }
 
-void Discard(Session& session, int digit, int cell) {
-  Step* step = session.RecordStep(cell);
+void Discard(Play& play, Sounds& sounds, int digit, int cell) {
+  Step* step = play.RecordStep(cell);
   if (step == nullptr) return;
-  session.forms.main.LabelHint.visible = false;
-  session.sounds.Speel(Sound::Discard);
+  play.HideHint();
+  sounds.Speel(Sound::Discard);
   step->Action = static_cast<std::int16_t>(-digit);
   step->CellMarks = DigitBit(digit);
-  session.board.HideMark(digit, cell);
+  play.board.HideMark(digit, cell);
 }
 
 }  // namespace
 
-void MarkMouseUp(Session& session, int digit, int cell, MouseButton button, int x, int y) {
-  if (Inside(x, y, kMarkPitch)) {
-    if (button == MouseButton::Left) Assign(session, digit, cell);
-    if (button == MouseButton::Right && session.puzzle.MarksAreCandidates()) Discard(session, digit, cell);
-  }
-  if (session.board.Complete()) ZetOpgelost(session);
+void MarkMouseUp(Play& play, Sounds& sounds, int digit, int cell, MouseButton button, int x, int y) {
+  if (!Inside(x, y, kMarkPitch)) return;
+  if (button == MouseButton::Left) Assign(play, sounds, digit, cell);
+  if (button == MouseButton::Right && play.puzzle.MarksAreCandidates()) Discard(play, sounds, digit, cell);
 }
 
-void HeaderMouseUp(Session& session, HeaderKind kind, int index, MouseButton button, int x, int y) {
+void HeaderMouseUp(HeaderChoice& headers, MainWindow& main, Sounds& sounds, HeaderKind kind, int index,
+                   MouseButton button, int x, int y) {
   if (!Inside(x, y, kHeaderSize) || button != MouseButton::Left) return;
-  MainWindow& main = session.forms.main;
-  auto& headers = kind == HeaderKind::Row ? main.LabelRow : main.LabelColumn;
-  int& selected = kind == HeaderKind::Row ? session.SelectedRow : session.SelectedColumn;
-  if (headers(index).fore == kRed) {
-    headers(index).fore = kBlack;
+  auto& labels = kind == HeaderKind::Row ? main.LabelRow : main.LabelColumn;
+  int& selected = kind == HeaderKind::Row ? headers.SelectedRow : headers.SelectedColumn;
+  if (labels(index).fore == kRed) {
+    labels(index).fore = kBlack;
     selected = kNoHeader;
     return;
   }
-  session.sounds.Speel(Sound::Label);
-  for (Label& header : headers.items) header.fore = kBlack;
-  headers(index).fore = kRed;
+  sounds.Speel(Sound::Label);
+  for (Label& label : labels.items) label.fore = kBlack;
+  labels(index).fore = kRed;
   selected = index;
 }
 

@@ -11,29 +11,29 @@ namespace {
 
 // Enters the new best time and congratulates. The stock is written first: what the player was told is on the
 // disk. False: the program is ending.
-bool NewBestTime(Session& session) {
-  const int level = session.SelectedLevel;  // cannot change during play
-  EnterBestTime((*session.stock)(level, session.puzzle.PuzzleNumber), session.puzzle,
-                session.clock.ElapsedSeconds, session.players.CurrentPlayer);
-  if (!session.SaveStock()) return false;
+bool NewBestTime(Play& play, int level, const BestTimeDesk& desk) {
+  StockTable& stock = *desk.stockroom.stock;
+  EnterBestTime(stock(level, play.puzzle.PuzzleNumber), play.puzzle, play.clock.ElapsedSeconds,
+                desk.players.CurrentPlayer);
+  if (!desk.stockroom.Save(desk.files, desk.asker)) return false;
   const Answer answer =
-      session.asker.Message({std::string(texts::kNewBestTimeTitle), std::string(texts::kNewBestTime),
-                             MessageIcon::Information, MessageButtons::Ok});
+      desk.asker.Message({std::string(texts::kNewBestTimeTitle), std::string(texts::kNewBestTime),
+                          MessageIcon::Information, MessageButtons::Ok});
   if (answer == Answer::Ended) return false;
-  ShowBestTime(session);
-  ShowLevelTimes(session, level);
+  ShowBestTime(desk.main, play.puzzle, desk.players);
+  ShowLevelTimes(desk.main, stock, level);
   return true;
 }
 
 }  // namespace
 
-void ZetOpgelost(Session& session) {
-  session.clock.Stop();
-  session.forms.main.end = PuzzleEnd::Solved;
-  session.sounds.Speel(Sound::Applause);
-  const bool named = session.players.CurrentPlayer > 0;
-  if (named && IsNewBestTime(session.puzzle, session.clock.ElapsedSeconds) && !NewBestTime(session)) return;
-  session.EndPlay();
+void ZetOpgelost(Play& play, int level, Sounds& sounds, const BestTimeDesk& desk) {
+  play.clock.Stop();
+  desk.main.end = PuzzleEnd::Solved;
+  sounds.Speel(Sound::Applause);
+  const bool is_new = desk.players.CurrentPlayer > 0 && IsNewBestTime(play.puzzle, play.clock.ElapsedSeconds);
+  if (is_new && !NewBestTime(play, level, desk)) return;
+  play.phase = PlayPhase::Over;
 }
 
 }  // namespace kestrel

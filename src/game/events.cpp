@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 
+#include "core/check.h"
 #include "game/board_commands.h"
 #include "game/cell_input.h"
+#include "game/completion.h"
 #include "game/game.h"
 #include "game/hint_command.h"
 #include "game/opening.h"
@@ -17,6 +19,11 @@ namespace kestrel {
 void Game::Handle(const Event& event) {
   if (session_.ending.IsSet()) return;
   const Busy busy(depth_);
+  HandleForm(event);
+  ShowControls();
+}
+
+void Game::HandleForm(const Event& event) {
   switch (event.form) {
     case FormId::Main:
       return HandleMain(event);
@@ -37,7 +44,7 @@ void Game::HandleMain(const Event& event) {
     case EventKind::Release:
       return Release(event);
     case EventKind::Timer:
-      return session_.clock.Tick();
+      return session_.play.clock.Tick();
     case EventKind::Resize:
       return Resize(session_.forms.main.window.state);
     case EventKind::Close:
@@ -47,65 +54,81 @@ void Game::HandleMain(const Event& event) {
   }
 }
 
+// A name without a row is a mistake of the program.
 void Game::Click(ControlId control) {
-  using Command = void (*)(Session&);
+  using Command = void (*)(Game&, Session&, int index);
   struct Row {
     std::string_view name;
     Command command;
   };
-  constexpr auto kHelp = [](Session& session) { session.help.ShowPage(kHelpIndex); };
-  constexpr auto kWeb = [](Session& session) {
-    OpenWebSite(kWebSite, session.ProgramFolder, session.ports.files, session.ports.shell, session.asker);
-  };
-  static constexpr std::array<Row, 12> kCommands{{{"CommandNew", NextPuzzle},
-                                                  {"CommandOpen", OpenPuzzleByNumber},
-                                                  {"CommandRestart", Restart},
-                                                  {"CommandUndo", Undo},
-                                                  {"CommandRedo", Redo},
-                                                  {"CommandResetCell", ResetCell},
-                                                  {"CommandHint", Hint},
-                                                  {"CommandSolution", ShowSolution},
-                                                  {"CommandHelp", kHelp},
-                                                  {"LabelHint", OpenHintPage},
-                                                  {"Picture1", kWeb},
-                                                  {"chkSound", SoundsClick}}};
+  static constexpr auto kCommands = std::to_array<Row>({
+      {"CommandNew", [](Game&, Session& s, int) { NextPuzzle(s.play, s.choices, s.ports.settings); }},
+      {"CommandOpen",
+       [](Game&, Session& s, int) { OpenPuzzleByNumber(s.play, s.choices, s.ports.settings, s.asker); }},
+      {"CommandRestart", [](Game&, Session& s, int) { Restart(s.play, s.sounds); }},
+      {"CommandUndo", [](Game&, Session& s, int) { Undo(s.play, s.sounds); }},
+      {"CommandRedo", [](Game&, Session& s, int) { Redo(s.play, s.sounds); }},
+      {"CommandResetCell", [](Game&, Session& s, int) { ResetCell(s.play, s.headers, s.sounds); }},
+      {"CommandHint", [](Game&, Session& s, int) { Hint(s.play, s.forms.main, s.sounds, s.yield, s.asker); }},
+      {"CommandSolution", [](Game&, Session& s, int) { ShowSolution(s.play, s.sounds); }},
+      {"CommandPrint", [](Game& game, Session&, int) { game.RunPrintDialog(); }},
+      {"CommandHelp", [](Game&, Session& s, int) { s.help.ShowPage(kHelpIndex); }},
+      {"LabelCount",
+       [](Game&, Session& s, int index) { OpenTechniquePage(index % kTechniques + 1, s.help); }},
+      {"LabelHint", [](Game&, Session& s, int) { OpenHintPage(s.forms.main, s.help); }},
+      {"OptionType",
+       [](Game&, Session& s, int level) {
+         SelectLevel(s.choices, level, s.sounds, s.forms.main, s.ports.settings);
+       }},
+      {"RenewLevel", [](Game& game, Session& s,
+                        int level) { game.renewal_.Click(level, s.choices.SelectedLevel, s.asker); }},
+      {"cmdPlayers", [](Game& game, Session&, int) { game.RunPlayersDialog(); }},
+      {"Picture1",
+       [](Game&, Session& s,
+          int) { OpenWebSite(kWebSite, s.ProgramFolder, s.ports.files, s.ports.shell, s.asker); }},
+      {"chkSound",
+       [](Game&, Session& s, int) { SoundsClick(s.sounds, s.choices, s.forms.main, s.ports.settings); }},
+  });
   const auto row = std::ranges::find(kCommands, control.name, &Row::name);
-  if (row != kCommands.end()) return row->command(session_);
-  if (control.name == "OptionType") return SelectLevel(session_, control.index);
-  if (control.name == "RenewLevel") return renewal_.Click(control.index);
-  if (control.name == "LabelCount") return OpenTechniquePage(session_, control.index % kTechniques + 1);
-  if (control.name == "cmdPlayers") return RunPlayersDialog();
-  if (control.name == "CommandPrint") return RunPrintDialog();
+  Require(row != kCommands.end());
+  row->command(*this, session_, control.index);
 }
 
 void Game::Release(const Event& event) {
-  const auto mark = std::ranges::find(kMarkNames, event.control.name);
-  if (mark != kMarkNames.end()) {
-    const int digit = static_cast<int>(mark - kMarkNames.begin()) + 1;
-    MarkMouseUp(session_, digit, event.control.index, event.button, event.x, event.y);
-  } else if (event.control.name == "LabelRow") {
-    HeaderMouseUp(session_, HeaderKind::Row, event.control.index, event.button, event.x, event.y);
-  } else if (event.control.name == "LabelColumn") {
-    HeaderMouseUp(session_, HeaderKind::Column, event.control.index, event.button, event.x, event.y);
+  const ControlId& control = event.control;
+  if (control.digit != 0) {
+    MarkMouseUp(session_.play, session_.sounds, control.digit, control.index, event.button, event.x, event.y);
+    if (session_.play.board.Complete()) {
+      ShowControls();  // a box may open before this event has ended
+      ZetOpgelost(
+          session_.play, session_.choices.SelectedLevel, session_.sounds,
+          {session_.players, session_.stockroom, session_.ports.files, session_.asker, session_.forms.main});
+    }
+    return;
   }
+  Require(control.name == "LabelRow" || control.name == "LabelColumn");
+  const HeaderKind kind = control.name == "LabelRow" ? HeaderKind::Row : HeaderKind::Column;
+  HeaderMouseUp(session_.headers, session_.forms.main, session_.sounds, kind, control.index, event.button,
+                event.x, event.y);
 }
 
 // A stopped clock is paused, too, which changes nothing that one can see: its timer is off. Behind the print
 // dialog the clock stands already.
 void Game::Resize(WindowState state) {
   if (session_.forms.print.window.open) return;
-  if (state == WindowState::Minimized) session_.clock.Pause();
-  if (state == WindowState::Normal && session_.clock.ClockPaused) session_.clock.Resume();
+  PlayClock& clock = session_.play.clock;
+  if (state == WindowState::Minimized) clock.Pause();
+  if (state == WindowState::Normal && clock.ClockPaused) clock.Resume();
 }
 
 void Game::RunPlayersDialog() {
-  if (session_.players_dialog.Run(session_.forms.main.window)) session_.ShowPlayer();
+  if (session_.players_dialog.Run(session_.forms.main.window)) ShowPlayer();
 }
 
 void Game::RunPrintDialog() {
-  PlayClock& clock = session_.clock;
+  PlayClock& clock = session_.play.clock;
   if (!clock.ClockStopped) clock.Pause();
-  if (!session_.print_dialog.Run(session_.SelectedLevel, session_.ProgramFolder)) return;
+  if (!session_.print_dialog.Run(session_.choices.SelectedLevel, session_.ProgramFolder)) return;
   if (!clock.ClockStopped) clock.Resume();
   // The dialog was closed while the window is minimised: the clock stands on.
   if (session_.forms.main.window.state == WindowState::Minimized) clock.Pause();

@@ -2,8 +2,11 @@
 // Start-up, rounds and the end.
 #include "game/game.h"
 
+#include <optional>
+
 #include "core/files.h"
 #include "core/global.h"
+#include "game/controls.h"
 #include "game/names.h"
 #include "game/opening.h"
 #include "game/options.h"
@@ -13,17 +16,17 @@ namespace kestrel {
 
 void Game::Start() {
   const Busy busy(depth_);
-  Window& window = session_.forms.main.window;
-  window.left = (session_.screen.Width() - window.width) / 2;
-  window.top = (session_.screen.Height() - window.height) / 2;
+  MainWindow& main = session_.forms.main;
+  main.window.left = (session_.screen.Width() - main.window.width) / 2;
+  main.window.top = (session_.screen.Height() - main.window.height) / 2;
   FindFolders();
   session_.sounds.Init_Sound(session_.ProgramFolder);
-  LoadSettings(session_);
+  LoadSettings(session_.choices, session_.sounds, main, session_.ports.settings);
   session_.players.Setup_Players(session_.ports.settings, session_.forms.names);
-  session_.ShowPlayer();
+  ShowPlayer();
   LoadStock();
   if (session_.ending.IsSet()) return;
-  LoadLastPuzzles(session_);
+  LoadLastPuzzles(session_.choices, session_.ports.settings);
   session_.print_dialog.Load();
   ResetPlay();
   session_.screen.Show(FormId::Main);
@@ -32,19 +35,17 @@ void Game::Start() {
 void Game::FindFolders() {
   session_.ProgramFolder = AddBackslash(session_.ports.program.folder);
   const std::string local = AddBackslash(GetSpecialFolder(session_.ports.folders, kLocalAppData));
-  session_.DataFolder = local + std::string(names::kDataFolder);
+  const std::string data = local + std::string(names::kDataFolder);
   // A folder that cannot be made shows in the stock that cannot be read.
-  (void)session_.ports.files.MakeFolder(session_.DataFolder);
-  session_.DataFolder = AddBackslash(session_.DataFolder);
+  (void)session_.ports.files.MakeFolder(data);
+  session_.stockroom.DataFolder = AddBackslash(data);
 }
 
 void Game::LoadStock() {
   Files& files = session_.ports.files;
-  session_.StockStatus = kStockNotRead;
-  CopyStockIfMissing(files, session_.ProgramFolder, session_.DataFolder);
-  if (ReadStock(files, session_.DataFolder, *session_.stock, session_.StockStatus, *session_.known_stock)) {
-    return;
-  }
+  Stockroom& room = session_.stockroom;
+  CopyStockIfMissing(files, session_.ProgramFolder, room.DataFolder);
+  if (ReadStock(files, room.DataFolder, *room.stock, room.StockStatus, *room.known)) return;
   const auto tell = [this](std::string_view title, std::string_view text, MessageIcon icon) {
     return session_.asker.Message({std::string(title), std::string(text), icon, MessageButtons::Ok});
   };
@@ -54,35 +55,60 @@ void Game::LoadStock() {
 }
 
 void Game::ResetPlay() {
-  session_.ClearGrid();
-  session_.board.DisableGrid();
-  session_.ClearSudokuData();
+  session_.play.ClearGrid();
+  session_.play.board.DisableGrid();
+  session_.play.ClearSudokuData();
 }
 
 bool Game::WorkLeft() const {
-  return !session_.ending.IsSet() && (session_.StockStatus == kStockComplete || session_.RedisplayPending);
+  const bool work =
+      session_.stockroom.StockStatus == kStockComplete || session_.play.phase == PlayPhase::Chosen;
+  return !session_.ending.IsSet() && work;
 }
 
 bool Game::Round() {
   if (session_.ending.IsSet() || depth_ > 0) return false;
   const Busy busy(depth_);
   RunRound();
-  return !session_.ending.IsSet() && (WorkLeft() || session_.Renewing());
+  return !session_.ending.IsSet() && (WorkLeft() || session_.stockroom.Renewing());
 }
 
 void Game::RunRound() {
-  renewal_.ForgetPuzzle();
   if (!session_.yield.KeepGoing()) return;
-  if (session_.StockStatus == kStockComplete) {
-    renewal_.Acknowledge();
-  } else if (session_.Renewing()) {
-    renewal_.MakePuzzle();
-  } else if (session_.clock.ClockStopped) {
+  std::optional<RatedNewPuzzle> puzzle;
+  if (session_.stockroom.StockStatus == kStockComplete) {
+    Acknowledge();
+  } else if (session_.stockroom.Renewing()) {
+    puzzle = renewal_.MakePuzzle(session_.yield);
+  } else if (session_.play.clock.ClockStopped) {
     (void)session_.yield.KeepGoing();
   }
   if (session_.ending.IsSet()) return;
-  if (session_.RedisplayPending) ShowPuzzle(session_, session_.SelectedLevel);
-  renewal_.File();
+  if (session_.play.phase == PlayPhase::Chosen) {
+    ShowPuzzle(session_.play, session_.forms.main, session_.choices, *session_.stockroom.stock,
+               session_.players);
+  }
+  ShowControls();
+  // A stock that could not be written was reported; it is written with the next success.
+  if (puzzle && renewal_.File(*puzzle)) (void)session_.stockroom.Save(session_.ports.files, session_.asker);
+}
+
+void Game::Acknowledge() {
+  renewal_.Acknowledge();
+  if (session_.play.phase != PlayPhase::Starting) return;
+  session_.forms.main.Picture3.visible = false;
+  session_.play.phase = PlayPhase::NoPuzzle;
+}
+
+void Game::ShowControls() {
+  EnableControls(session_.forms.main, session_.play.phase, session_.play.history,
+                 session_.stockroom.RenewingLevel);
+}
+
+void Game::ShowPlayer() {
+  const Players& players = session_.players;
+  session_.forms.main.window.caption =
+      texts::Caption(players.CurrentPlayer > 0, players.Name(players.CurrentPlayer));
 }
 
 void Game::AskToQuit() {

@@ -41,7 +41,11 @@ class Game final : public GameLoop {
   void LoadStock();
   void ResetPlay();
   void RunRound();
+  void Acknowledge();
+  void ShowPlayer();
+  void ShowControls();
 
+  void HandleForm(const Event& event);
   void HandleMain(const Event& event);
   void Click(ControlId control);
   void Release(const Event& event);
@@ -51,7 +55,7 @@ class Game final : public GameLoop {
   void RunPrintDialog();
 
   Session session_;
-  Renewal renewal_{session_};
+  Renewal renewal_{session_.stockroom, session_.forms.main, session_.ports.seeds};
   int depth_ = 0;
 };
 

@@ -16,48 +16,45 @@ namespace kestrel {
 
 namespace {
 
-void MarkTechnique(Session& session, Technique technique) {
-  session.sounds.Speel(Sound::Hint);
-  Label& marker = session.forms.main.LabelHint;
+void MarkTechnique(PlayClock& clock, Label& marker, Technique technique) {
   marker.top = kListTop + kListPitch * SlotOf(technique);
   marker.tag = std::to_string(StepOf(technique));
   marker.spoken = texts::HelpOn(RowOf(technique).caption);
   marker.visible = true;
-  session.clock.AddPenalty(StepOf(technique));
+  clock.AddPenalty(StepOf(technique));
 }
 
-void ReportMistake(Session& session, const std::string& text) {
-  session.sounds.Speel(Sound::Error);
+void ReportMistake(Asker& asker, const std::string& text) {
   // Nothing follows, whether the box was answered or the program is ending.
-  (void)session.asker.Message(
-      {std::string(texts::kBadCell), text, MessageIcon::Critical, MessageButtons::Ok});
+  (void)asker.Message({std::string(texts::kBadCell), text, MessageIcon::Critical, MessageButtons::Ok});
 }
 
 }  // namespace
 
-void Hint(Session& session) {
-  session.forms.main.LabelHint.visible = false;
-  const std::uint64_t changes = session.history.Changes();
-  const std::optional<HintCode> found = FindHint(session.puzzle, session.yield);
+void Hint(Play& play, MainWindow& main, Sounds& sounds, Yield& yield, Asker& asker) {
+  play.HideHint();
+  const std::uint64_t changes = play.history.Changes();
+  const std::optional<HintCode> found = FindHint(play.puzzle, yield);
   if (!found || *found == kNoHint || *found == kNoHintsAtThisLevel) return;
-  // What waited behind the click has changed the board or ended play: the hint is for a board that is gone.
-  if (session.history.Changes() != changes || session.clock.ClockStopped) return;
-  if (*found < kFirstWrongDigit) {
-    MarkTechnique(session, TechniqueOfStep(*found));
+  if (play.history.Changes() != changes || play.phase != PlayPhase::InPlay) return;
+  const bool is_technique = *found < kFirstWrongDigit;
+  sounds.Speel(is_technique ? Sound::Hint : Sound::Error);
+  if (is_technique) {
+    MarkTechnique(play.clock, main.LabelHint, TechniqueOfStep(*found));
   } else if (*found < kFirstErasedMark) {
-    ReportMistake(session, texts::WrongDigit(CellName(*found - kFirstWrongDigit)));
+    ReportMistake(asker, texts::WrongDigit(CellName(*found - kFirstWrongDigit)));
   } else {
-    ReportMistake(session, texts::ErasedMark(CellName(*found - kFirstErasedMark)));
+    ReportMistake(asker, texts::ErasedMark(CellName(*found - kFirstErasedMark)));
   }
 }
 
-void OpenHintPage(Session& session) {
-  OpenTechniquePage(session, WholeNumber(session.forms.main.LabelHint.tag).value_or(0));
+void OpenHintPage(const MainWindow& main, Help& help) {
+  OpenTechniquePage(WholeNumber(main.LabelHint.tag).value_or(0), help);
 }
 
-void OpenTechniquePage(Session& session, int step) {
+void OpenTechniquePage(int step, Help& help) {
   const Technique technique = TechniqueOfStep(step);
-  if (technique != Technique::None) session.help.ShowPage(RowOf(technique).help_page);
+  if (technique != Technique::None) help.ShowPage(RowOf(technique).help_page);
 }
 
 }  // namespace kestrel

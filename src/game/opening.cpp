@@ -14,24 +14,14 @@ namespace kestrel {
 
 namespace {
 
-void EnableLevels(MainWindow& main, bool enabled) {
-  for (OptionButton& option : main.OptionType.items) option.enabled = enabled;
-}
-
 // Blanks the board and makes everything wait for the next round.
-void Choose(Session& session, int number) {
-  session.ClearGrid();
-  session.board.DisableGrid();
-  session.ClearSudokuData();
-  MainWindow& main = session.forms.main;
-  EnableLevels(main, false);
-  for (Button* button : {&main.CommandRestart, &main.CommandUndo, &main.CommandRedo, &main.CommandResetCell,
-                         &main.CommandSolution, &main.CommandHint, &main.CommandNew, &main.CommandOpen}) {
-    button->enabled = false;
-  }
-  session.CurrentNumber(session.SelectedLevel) = number;
-  SaveLastPuzzles(session);
-  session.RedisplayPending = true;
+void Choose(Play& play, Choices& choices, Settings& settings, int number) {
+  play.ClearGrid();
+  play.board.DisableGrid();
+  play.ClearSudokuData();
+  choices.CurrentNumber(choices.SelectedLevel) = number;
+  SaveLastPuzzles(choices, settings);
+  play.phase = PlayPhase::Chosen;
 }
 
 void TakeOver(OpenPuzzle& puzzle, const SudokuRecord& record, int number) {
@@ -46,41 +36,36 @@ void TakeOver(OpenPuzzle& puzzle, const SudokuRecord& record, int number) {
 
 }  // namespace
 
-void NextPuzzle(Session& session) {
-  const int last = session.CurrentNumber(session.SelectedLevel);
-  Choose(session, last == kPuzzlesPerLevel ? 1 : last + 1);
+void NextPuzzle(Play& play, Choices& choices, Settings& settings) {
+  const int last = choices.CurrentNumber(choices.SelectedLevel);
+  Choose(play, choices, settings, last == kPuzzlesPerLevel ? 1 : last + 1);
 }
 
-void OpenPuzzleByNumber(Session& session) {
+void OpenPuzzleByNumber(Play& play, Choices& choices, Settings& settings, Asker& asker) {
   for (;;) {
     const std::optional<std::string> answer =
-        session.asker.Input({std::string(texts::kSudokuNumber), std::string(texts::kEnterNumber),
-                             std::string(texts::kProposedNumber), session.SelectedLevel});
+        asker.Input({std::string(texts::kSudokuNumber), std::string(texts::kEnterNumber),
+                     std::string(texts::kProposedNumber), choices.SelectedLevel});
     if (!answer || answer->empty()) return;
     const int number = LeadingNumber(*answer);
-    if (number >= 1 && number <= kPuzzlesPerLevel) return Choose(session, number);
+    if (number >= 1 && number <= kPuzzlesPerLevel) return Choose(play, choices, settings, number);
   }
 }
 
-void ShowPuzzle(Session& session, int level) {
-  MainWindow& main = session.forms.main;
-  const SudokuRecord& record = (*session.stock)(level, session.CurrentNumber(level));
-  TakeOver(session.puzzle, record, session.CurrentNumber(level));
-  session.clock.ClearPause();
-  ShowStatus(session, level);
+void ShowPuzzle(Play& play, MainWindow& main, const Choices& choices, const StockTable& stock,
+                const Players& players) {
+  const int level = choices.SelectedLevel;
+  const SudokuRecord& record = stock(level, choices.CurrentNumber(level));
+  TakeOver(play.puzzle, record, choices.CurrentNumber(level));
+  play.clock.ClearPause();
+  ShowStatus(main, play.puzzle, stock, players, level);
   for (int slot = 0; slot < kTechniques; ++slot) {
     main.LabelCount(kTechniques + slot).caption = std::to_string(record.TechniqueCount[slot]);
   }
-  session.board.LayOutGivens();
-  session.clock.Start();
-  session.RedisplayPending = false;
-  session.board.EnableGrid();
-  main.CommandNew.enabled = false;
-  main.CommandOpen.enabled = false;
-  main.CommandResetCell.enabled = true;
-  main.CommandSolution.enabled = true;
-  main.CommandHint.enabled = true;
-  EnableLevels(main, false);
+  play.board.LayOutGivens();
+  play.clock.Start();
+  play.board.EnableGrid();
+  play.phase = PlayPhase::InPlay;
 }
 
 }  // namespace kestrel

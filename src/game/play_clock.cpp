@@ -19,6 +19,7 @@ void PlayClock::Show(std::int32_t seconds) {
 }
 
 void PlayClock::Reset() {
+  Stop();
   Show(0);
 }
 

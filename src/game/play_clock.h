@@ -15,7 +15,7 @@ class PlayClock {
   // Both must outlive this object.
   PlayClock(Clock& clock, MainWindow& main) : clock_(clock), main_(main) {}
 
-  // No time has been played; the label says so.
+  // Stopped at 00:00.
   void Reset();
 
   // Starts at 00:00.

@@ -6,7 +6,11 @@
 
 #include <optional>
 
-#include "game/session.h"
+#include "core/random_source.h"
+#include "core/yield.h"
+#include "forms/asker.h"
+#include "forms/main_window.h"
+#include "game/stockroom.h"
 #include "generator/generator.h"
 #include "generator/level_renewal.h"
 
@@ -14,31 +18,28 @@ namespace kestrel {
 
 class Renewal {
  public:
-  // The session must outlive this object.
-  explicit Renewal(Session& session) : session_(session), generator_(session.ports.seeds) {}
+  // All must outlive this object.
+  Renewal(Stockroom& stockroom, MainWindow& main, SeedSource& seeds)
+      : stockroom_(stockroom), main_(main), generator_(seeds) {}
 
   // A click on a level's label: asks, then starts to renew it. The selected level cannot be renewed; it is
   // the one in play, if any is.
-  void Click(int level);
+  void Click(int level, int selected_level, Asker& asker);
 
-  // Makes and rates one puzzle, and keeps it for File when it has the level that is being renewed.
-  void MakePuzzle();
+  // Makes and rates one puzzle. Nothing when it has not the level that is being renewed, or when the yield
+  // said stop.
+  [[nodiscard]] std::optional<RatedNewPuzzle> MakePuzzle(Yield& yield);
 
-  // Forgets the puzzle that MakePuzzle has kept.
-  void ForgetPuzzle() { puzzle_.reset(); }
-
-  // Files the kept puzzle, if there is one. After the hundredth the stock is written.
-  void File();
+  // Files a puzzle into its level. True: the stock is complete and is to be saved.
+  [[nodiscard]] bool File(const RatedNewPuzzle& puzzle);
 
   // The stock is complete and the main loop has seen it: the end of start-up or of a renewal.
   void Acknowledge();
 
  private:
-  void EnableLabels(bool enabled);
-
-  Session& session_;
+  Stockroom& stockroom_;
+  MainWindow& main_;
   Generator generator_;
-  std::optional<RatedNewPuzzle> puzzle_;  // to be filed
 };
 
 }  // namespace kestrel

@@ -29,7 +29,7 @@ LevelTimes TimesOfLevel(const StockTable& stock, int level) {
   for (int number = 1; number <= kPuzzlesPerLevel; ++number) {
     const SudokuRecord& record = stock(level, number);
     if (record.BestMinutes <= 0 && record.BestSeconds <= 0) continue;
-    const std::int32_t seconds = record.BestMinutes * 60 + record.BestSeconds;
+    const std::int32_t seconds = BestTime(record);
     best = count == 0 ? seconds : std::min(best, seconds);
     sum += seconds;
     ++count;
@@ -37,27 +37,25 @@ LevelTimes TimesOfLevel(const StockTable& stock, int level) {
   return {best, count == 0 ? 0 : WholeParts(sum, count)};
 }
 
-void ShowStatus(Session& session, int level) {
-  auto& panels = session.forms.main.StatusBar;
-  const OpenPuzzle& puzzle = session.puzzle;
+void ShowStatus(MainWindow& main, const OpenPuzzle& puzzle, const StockTable& stock, const Players& players,
+                int level) {
+  auto& panels = main.StatusBar;
   panels(1).caption = texts::LevelPanel(texts::kLevelNames[static_cast<std::size_t>(level - 1)]);
   panels(2).caption = texts::NumberPanel(puzzle.PuzzleNumber);
-  ShowBestTime(session);
+  ShowBestTime(main, puzzle, players);
   if (puzzle.PuzzleBestMinutes <= 0 && puzzle.PuzzleBestSeconds <= 0) panels(3).caption = texts::kNoBestTime;
-  ShowLevelTimes(session, level);
+  ShowLevelTimes(main, stock, level);
 }
 
-void ShowBestTime(Session& session) {
-  const OpenPuzzle& puzzle = session.puzzle;
-  session.forms.main.StatusBar(3).caption = texts::BestTimePanel(
-      puzzle.PuzzleBestMinutes, puzzle.PuzzleBestSeconds, session.players.Name(puzzle.PuzzleBestPlayer));
+void ShowBestTime(MainWindow& main, const OpenPuzzle& puzzle, const Players& players) {
+  main.StatusBar(3).caption = texts::BestTimePanel(puzzle.PuzzleBestMinutes, puzzle.PuzzleBestSeconds,
+                                                   players.Name(puzzle.PuzzleBestPlayer));
 }
 
-void ShowLevelTimes(Session& session, int level) {
-  auto& panels = session.forms.main.StatusBar;
-  const LevelTimes times = TimesOfLevel(*session.stock, level);
-  panels(4).caption = texts::LevelBestPanel(TimeOfSeconds(times.best));
-  panels(5).caption = texts::LevelAveragePanel(TimeOfSeconds(times.average));
+void ShowLevelTimes(MainWindow& main, const StockTable& stock, int level) {
+  const LevelTimes times = TimesOfLevel(stock, level);
+  main.StatusBar(4).caption = texts::LevelBestPanel(TimeOfSeconds(times.best));
+  main.StatusBar(5).caption = texts::LevelAveragePanel(TimeOfSeconds(times.average));
 }
 
 }  // namespace kestrel

@@ -5,8 +5,10 @@
 #include <cstdint>
 #include <string>
 
+#include "core/open_puzzle.h"
 #include "core/stock_table.h"
-#include "game/session.h"
+#include "forms/main_window.h"
+#include "players/players.h"
 
 namespace kestrel {
 
@@ -19,12 +21,13 @@ struct LevelTimes {
 LevelTimes TimesOfLevel(const StockTable& stock, int level);
 
 // All five panels for the open puzzle, which was taken from `level`.
-void ShowStatus(Session& session, int level);
+void ShowStatus(MainWindow& main, const OpenPuzzle& puzzle, const StockTable& stock, const Players& players,
+                int level);
 
 // Panel 3 with the best time and its holder, also when that is 0:00.
-void ShowBestTime(Session& session);
+void ShowBestTime(MainWindow& main, const OpenPuzzle& puzzle, const Players& players);
 
 // Panels 4 and 5: the level's best and average time.
-void ShowLevelTimes(Session& session, int level);
+void ShowLevelTimes(MainWindow& main, const StockTable& stock, int level);
 
 }  // namespace kestrel

@@ -60,7 +60,7 @@ class RandomUser : public std::streambuf, public Yield {
     std::array<CandidateMask, kCells> marks;
     bool operator==(const Position&) const = default;
   };
-  Position Now() const { return {state_->puzzle.CurrentDigits, state_->puzzle.PencilMask}; }
+  Position Now() const { return {state_->play.puzzle.CurrentDigits, state_->play.puzzle.PencilMask}; }
 
   const MainWindow& Main() const { return state_->forms.main; }
 
@@ -72,7 +72,7 @@ class RandomUser : public std::streambuf, public Yield {
   }
 
   std::string NextLine() {
-    if (!opened_ || state_->history.StepTop() == 0) opened_ = Now();
+    if (!opened_ || state_->play.history.StepTop() == 0) opened_ = Now();
     const std::string box = OpenBox();
     output_->str("-\n");  // so that it stays short, and an old box does not count
     output_->seekp(0, std::ios::end);
@@ -89,7 +89,7 @@ class RandomUser : public std::streambuf, public Yield {
   std::string PlanClicksInYields() {
     const int count = static_cast<int>(controls_.size());
     const std::string control = "press " + controls_[static_cast<std::size_t>(sweep_ % count)];
-    const bool renewing = state_->RenewingLevel != 0;
+    const bool renewing = state_->stockroom.RenewingLevel != 0;
     const bool hint = random_.Below(3) > 0;
     const std::string yield =
         "at " + (renewing && !hint ? Number(700, 1) : std::to_string(1 + sweep_ / count % 3)) + " ";
@@ -103,9 +103,9 @@ class RandomUser : public std::streambuf, public Yield {
 
   // Puts the right digit into the first empty cell.
   std::string SoundMove() const {
-    const auto& digits = state_->puzzle.CurrentDigits;
+    const auto& digits = state_->play.puzzle.CurrentDigits;
     const auto cell = std::ranges::find(digits, 0) - digits.begin();
-    const int digit = cell == kCells ? 0 : state_->puzzle.SolutionDigits[cell];
+    const int digit = cell == kCells ? 0 : state_->play.puzzle.SolutionDigits[cell];
     if (digit < 1 || digit > 9) return "tick";
     return "mark " + std::to_string(cell) + " " + std::to_string(digit);
   }
@@ -141,7 +141,7 @@ class RandomUser : public std::streambuf, public Yield {
 
   // Takes every step back, compares with the opened board, and does everything again.
   std::string PlanUndoAndRedo() {
-    const int count = state_->history.StepCount();
+    const int count = state_->play.history.StepCount();
     const Position here = Now();
     const Position opened = *opened_;
     for (int i = 0; i < count; ++i) planned_.emplace_back([] { return "press CommandUndo"; });
@@ -153,7 +153,7 @@ class RandomUser : public std::streambuf, public Yield {
     }
     planned_.emplace_back([this, here, count] {
       EXPECT_EQ(Now(), here) << "done again";
-      EXPECT_EQ(state_->history.StepCount(), count);
+      EXPECT_EQ(state_->play.history.StepCount(), count);
       ++round_trips_;
       return "tick";
     });

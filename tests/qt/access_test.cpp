@@ -72,11 +72,11 @@ TEST(Access, MarksOfferTheirActions) {
   const std::string name = medium.NextMark();
   EXPECT_EQ(Actions(medium, name), QStringList({Press(), "discard"}));
   Do(medium, name, "discard");
-  EXPECT_EQ(medium.State().history.StepCount(), 1);
+  EXPECT_EQ(medium.State().play.history.StepCount(), 1);
   EXPECT_TRUE(Access(medium, name).state().invisible);
   EXPECT_TRUE(Actions(medium, name).isEmpty());
   Do(medium, name, Press());
-  EXPECT_EQ(medium.State().history.StepCount(), 1);
+  EXPECT_EQ(medium.State().play.history.StepCount(), 1);
 
   QtGame easy(2);
   EXPECT_EQ(Actions(easy, easy.NextMark()), QStringList({Press()}));
@@ -86,11 +86,11 @@ TEST(Access, PlaysAGameToTheEnd) {
   QtGame game;
   Do(game, "OptionType(3)", QAccessibleActionInterface::toggleAction());
   Do(game, "CommandNew", Press());  // shows the pressed button for a moment before it acts
-  ASSERT_TRUE(game.WaitFor([&] { return game.State().puzzle.PuzzleLevel == 3; }));
+  ASSERT_TRUE(game.WaitFor([&] { return game.State().play.puzzle.PuzzleLevel == 3; }));
   Do(game, "LabelColumn(4)", Press());
   EXPECT_TRUE(Access(game, "LabelColumn(4)").state().selected);
   while (game.EmptyCell() >= 0) Do(game, game.NextMark(), Press());
-  EXPECT_TRUE(game.State().clock.ClockStopped);
+  EXPECT_TRUE(game.State().play.clock.ClockStopped);
 }
 
 // Everything that can be seen has a name to be read, and a role that says what it is.
@@ -116,11 +116,11 @@ TEST(Access, StopsAtDialogs) {
   QtGame game(3);
   game.Expect([&game](QWidget& dialog) {
     Do(game, game.NextMark(), Press());
-    EXPECT_EQ(game.State().history.StepCount(), 0);
+    EXPECT_EQ(game.State().play.history.StepCount(), 0);
     Do(game, "RenewLevel(5)", Press());  // would ask
     Do(game, "CommandSolution", Press());
-    game.WaitFor([&] { return game.State().clock.ClockStopped; }, 300);
-    EXPECT_FALSE(game.State().clock.ClockStopped);
+    game.WaitFor([&] { return game.State().play.clock.ClockStopped; }, 300);
+    EXPECT_FALSE(game.State().play.clock.ClockStopped);
     dialog.close();
   });
   game.ClickControl("cmdPlayers");
@@ -134,7 +134,7 @@ TEST(Access, StopsAtDialogs) {
   game.Expect([&](QWidget& dialog) {
     Do(game, "chkSound", QAccessibleActionInterface::toggleAction());
     Do(game, "OptionType(2)", QAccessibleActionInterface::toggleAction());
-    EXPECT_TRUE(game.Main().chkSound.value == sounds && game.State().SelectedLevel == 3);
+    EXPECT_TRUE(game.Main().chkSound.value == sounds && game.State().choices.SelectedLevel == 3);
     EXPECT_TRUE(checked("chkSound") == sounds && checked("OptionType(3)") && !checked("OptionType(2)"));
     dialog.close();
   });

@@ -29,8 +29,8 @@ struct Play {
   int digit = game.SolutionOf(cell);
   QPoint corner = QtGame::Corner(game.Main().Mark(digit)(cell));
   QPoint middle = corner + QPoint(8, 8);
-  [[nodiscard]] int Steps() { return game.State().history.StepCount(); }
-  [[nodiscard]] int Digit() { return game.State().puzzle.CurrentDigits[cell]; }
+  [[nodiscard]] int Steps() { return game.State().play.history.StepCount(); }
+  [[nodiscard]] int Digit() { return game.State().play.puzzle.CurrentDigits[cell]; }
 };
 
 TEST(Board, CountsAReleaseOnlyInsideTheMark) {
@@ -85,19 +85,19 @@ TEST(Board, KeepsTheFirstPressWhileAnyButtonIsDown) {
   // By now the mark is hidden and gets nothing more.
   play.game.Release(play.middle, Qt::MiddleButton);
   EXPECT_EQ(play.Steps(), 1);
-  EXPECT_EQ(play.game.State().SelectedRow, 9);
+  EXPECT_EQ(play.game.State().headers.SelectedRow, 9);
 }
 
 TEST(Board, SelectsHeadersOnlyWhileNoPuzzleIsOpen) {
   QtGame game;
   game.ClickMark(40, 5);
-  EXPECT_EQ(game.State().history.StepCount(), 0);
+  EXPECT_EQ(game.State().play.history.StepCount(), 0);
   const QPoint header = QtGame::Corner(game.Main().LabelRow(2)) + QPoint(17, 17);
   game.Press(header);
   game.Release(header + QPoint(17, 0));
-  EXPECT_EQ(game.State().SelectedRow, 9);
+  EXPECT_EQ(game.State().headers.SelectedRow, 9);
   game.Click(header);
-  EXPECT_EQ(game.State().SelectedRow, 2);
+  EXPECT_EQ(game.State().headers.SelectedRow, 2);
 }
 
 TEST(Board, ShowsWhatCanBeClicked) {

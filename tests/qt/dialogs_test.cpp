@@ -63,11 +63,11 @@ TEST(Dialogs, OpenAsksUntilTheNumberFits) {
     QTest::keyClick(field, Qt::Key_Return);
   });
   game.ClickControl("CommandOpen");
-  EXPECT_EQ(game.State().puzzle.PuzzleNumber, 42);
+  EXPECT_EQ(game.State().play.puzzle.PuzzleNumber, 42);
   game.ClickControl("CommandSolution");
   game.Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
   game.ClickControl("CommandOpen");
-  EXPECT_EQ(game.State().puzzle.PuzzleNumber, 42);
+  EXPECT_EQ(game.State().play.puzzle.PuzzleNumber, 42);
 }
 
 TEST(Dialogs, PlayersAreTypedAndChosen) {
@@ -170,7 +170,7 @@ TEST(Dialogs, KeysOfTheDesktopPressTheirButtons) {
   QtGame game(3);
   const int cell = game.EmptyCell();
   game.ClickMark(cell, game.SolutionOf(cell));
-  const auto digit = [&] { return game.State().puzzle.CurrentDigits[cell] != 0; };
+  const auto digit = [&] { return game.State().play.puzzle.CurrentDigits[cell] != 0; };
   const auto press = [&](Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
     game.Window().activateWindow();
     game.Settle();
@@ -190,7 +190,7 @@ TEST(Dialogs, KeysOfTheDesktopPressTheirButtons) {
   // Enter does not throw a level's best times away.
   game.Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
   game.ClickControl("RenewLevel(5)");
-  EXPECT_EQ(game.State().RenewingLevel, 0);
+  EXPECT_EQ(game.State().stockroom.RenewingLevel, 0);
   press(Qt::Key_F1);
   EXPECT_TRUE(game.Controls().browser.window.open);
 }
@@ -200,22 +200,22 @@ TEST(Dialogs, KeyboardReachesTheCommands) {
   QTest::keyClick(&game.Window(), Qt::Key_Tab);
   EXPECT_EQ(QApplication::focusWidget(), game.Widget("OptionType(2)"));
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-  EXPECT_EQ(game.State().SelectedLevel, 3);
+  EXPECT_EQ(game.State().choices.SelectedLevel, 3);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   EXPECT_EQ(QApplication::focusWidget(), game.Widget("CommandNew"));
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   game.Settle();
-  EXPECT_EQ(game.State().puzzle.PuzzleLevel, 3);
+  EXPECT_EQ(game.State().play.puzzle.PuzzleLevel, 3);
   EXPECT_EQ(QApplication::focusWidget(), &game.Window());  // not the next button
   // By its letter, wherever the focus is.
   QTest::keyClick(&game.Window(), Qt::Key_T, Qt::AltModifier);
-  EXPECT_TRUE(game.WaitFor([&] { return game.State().clock.ClockStopped; }));
+  EXPECT_TRUE(game.WaitFor([&] { return game.State().play.clock.ClockStopped; }));
   // A link is pressed by Enter, too.
   game.ExpectBox("Renew Selected Set of Sudokus", "Cancel");
   QWidget* link = game.Widget("RenewLevel(5)");
   link->setFocus();
   QTest::keyClick(link, Qt::Key_Return);
-  EXPECT_EQ(game.State().RenewingLevel, 0);
+  EXPECT_EQ(game.State().stockroom.RenewingLevel, 0);
   EXPECT_EQ(game.StillExpected(), 0U);
 }
 

@@ -122,7 +122,7 @@ TEST(Ending, QuitsInMidRenewal) {
   });
   EXPECT_EQ(QApplication::exec(), 0);
   EXPECT_EQ(game.front_end.TheGame().End(), EndReason::Quit);
-  EXPECT_EQ(game.State().RenewingLevel, 5);
+  EXPECT_EQ(game.State().stockroom.RenewingLevel, 5);
   EXPECT_EQ(game.home_folder.Get("KestrelSudoku/sudstock.kpz"), stock);
 }
 

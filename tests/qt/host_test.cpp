@@ -31,7 +31,7 @@ TEST(Help, FollowsPagesForwardAndBack) {
   EXPECT_EQ(view.toPlainText(), "Naked Single");
   // The game goes on beside it.
   game.ClickMark(game.EmptyCell(), game.SolutionOf(game.EmptyCell()));
-  EXPECT_EQ(game.State().history.StepCount(), 1);
+  EXPECT_EQ(game.State().play.history.StepCount(), 1);
 
   QTest::keyClick(&view, Qt::Key_Tab);
   QTest::keyClick(&view, Qt::Key_Return);

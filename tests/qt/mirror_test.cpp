@@ -45,7 +45,7 @@ int ExpectAllShown(QtGame& game) {
     EXPECT_EQ(widget->isEnabled(), control.enabled);
     EXPECT_EQ(!widget->isHidden(), control.visible);
     EXPECT_EQ(widget->mapTo(&game.Window(), QPoint(0, 0)), QtGame::Corner(control));
-    const TipState state{game.State().puzzle.MarksAreCandidates(), 0};
+    const TipState state{game.State().play.puzzle.MarksAreCandidates(), 0};
     const std::string tip = StateTip(game.Main(), state, id);
     EXPECT_EQ(widget->toolTip(), ToQString(tip.empty() ? control.tooltip : tip));
     EXPECT_FALSE(widget->accessibleName().isEmpty() && !widget->isHidden() && id.name != "StatusBar");
@@ -99,11 +99,11 @@ TEST(Mirror, FollowsTheWindow) {
   game.Window().setWindowState(Qt::WindowMinimized);
   game.Settle();
   EXPECT_EQ(game.Main().window.state, WindowState::Minimized);
-  EXPECT_TRUE(game.State().clock.ClockPaused);
+  EXPECT_TRUE(game.State().play.clock.ClockPaused);
   game.clock.now += 600;
   game.Window().setWindowState(Qt::WindowNoState);
   game.Settle();
-  EXPECT_FALSE(game.State().clock.ClockPaused);
+  EXPECT_FALSE(game.State().play.clock.ClockPaused);
   game.clock.now += 1;
   EXPECT_TRUE(game.WaitFor([&] { return game.Main().LabelTijd.caption == "00:06"; }));
 }

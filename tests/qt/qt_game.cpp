@@ -26,7 +26,7 @@ QtGame::QtGame(int level) {
   EXPECT_TRUE(front_end.Events().Start());
   Settle();
   if (level == 0) return;
-  if (level != State().SelectedLevel) ClickControl("OptionType(" + std::to_string(level) + ")");
+  if (level != State().choices.SelectedLevel) ClickControl("OptionType(" + std::to_string(level) + ")");
   ClickControl("CommandNew");
 }
 
@@ -139,7 +139,7 @@ QObject* QtGame::Object(std::string_view name) {
 
 int QtGame::EmptyCell() {
   for (int cell = 0; cell < kCells; ++cell) {
-    if (State().puzzle.CurrentDigits[cell] == 0) return cell;
+    if (State().play.puzzle.CurrentDigits[cell] == 0) return cell;
   }
   return -1;
 }

@@ -65,7 +65,7 @@ class QtGame {
 
   // The first cell without a digit, and its solution.
   int EmptyCell();
-  int SolutionOf(int cell) { return State().puzzle.SolutionDigits[cell]; }
+  int SolutionOf(int cell) { return State().play.puzzle.SolutionDigits[cell]; }
   // "Mark4(7)": the mark that is right for that cell.
   std::string NextMark();
 

@@ -34,7 +34,7 @@ TEST(Start, TakesAPicture) {
     QtGame game(QtGame::kNotStarted);
     const std::string file = game.home_folder.Path(good ? "picture.png" : "no/folder.png").string();
     EXPECT_EQ(game.front_end.TakeScreenshot(file), good ? 0 : 2);
-    EXPECT_EQ(game.State().puzzle.PuzzleNumber, 1);
+    EXPECT_EQ(game.State().play.puzzle.PuzzleNumber, 1);
     if (!good) continue;
     const QImage picture(QString::fromStdString(file));
     EXPECT_EQ(picture.size(), QSize(768, 658) * game.Window().devicePixelRatioF());

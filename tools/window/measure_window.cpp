@@ -193,7 +193,7 @@ void StartRenewal(GameApplication& game, int level) {
 }
 
 bool Renewing(GameApplication& game) {
-  return game.TheFrontEnd().TheGame().State().RenewingLevel != 0;
+  return game.TheFrontEnd().TheGame().State().stockroom.RenewingLevel != 0;
 }
 
 // Each level while another one is selected, which takes a board that is not in play.

@@ -87,6 +87,12 @@ Reach User::Press(std::string_view name) {
       ChooseOption(game_.Controls(), id);
     }
     if constexpr (std::same_as<Kind, CheckBox>) control.value = !control.value;
+    if constexpr (std::same_as<Kind, Label>) {
+      if (!control.link && id.name != "LabelCount") return Reach::Done;
+    }
+    if constexpr (std::same_as<Kind, Picture>) {
+      if (control.tab_index < 0) return Reach::Done;  // for the eye only
+    }
     Send(form, id, EventKind::Click);
     return Reach::Done;
   });
@@ -94,6 +100,8 @@ Reach User::Press(std::string_view name) {
 
 Reach User::Release(std::string_view name, MouseButton button, int x, int y) {
   return Find(name, [&](FormId form, ControlId id, std::same_as<Label> auto&) {
+    const bool on_board = id.digit != 0 || id.name == "LabelRow" || id.name == "LabelColumn";
+    if (!on_board) return Reach::Done;
     game_.Handle({.form = form, .control = id, .kind = EventKind::Release, .button = button, .x = x, .y = y});
     return Reach::Done;
   });

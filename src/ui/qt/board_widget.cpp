@@ -61,7 +61,7 @@ ControlId IdOf(const BoardSpot& spot) {
     case BoardSpot::Kind::Column:
       return {"LabelColumn", spot.index};
     default:
-      return {kMarkNames[static_cast<std::size_t>(spot.digit - 1)], spot.index};
+      return {kMarkNames[static_cast<std::size_t>(spot.digit - 1)], spot.index, spot.digit};
   }
 }
 

@@ -19,7 +19,7 @@ FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool u
     : choices_(host.settings, desktop_),
       mirror_(dispatcher_, {[this] {
                               const Session& state = game_.State();
-                              return TipState{state.puzzle.MarksAreCandidates(), state.RenewingLevel};
+                              return TipState{state.play.puzzle.MarksAreCandidates(), state.stockroom.RenewingLevel};
                             },
                             choices_, QString::fromStdString(help_folder)}),
       asker_(mirror_, dispatcher_),

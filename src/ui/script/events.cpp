@@ -168,7 +168,7 @@ ScriptRunner::LineKind ScriptRunner::Renew(std::string_view rest) {
   if (!most) return Fail(BadArguments(rest));
   if (desk_.MainBlocked()) return Report("renew", Reach::Modal);
   unsigned rounds = 0;
-  while (rounds < *most && game_.State().RenewingLevel != 0 && game_.End() == EndReason::None) {
+  while (rounds < *most && game_.State().stockroom.RenewingLevel != 0 && game_.End() == EndReason::None) {
     (void)game_.Round();
     ++rounds;
   }

@@ -32,27 +32,27 @@ ScriptRunner::LineKind ScriptRunner::Var(std::string_view rest) {
 }
 
 ScriptRunner::LineKind ScriptRunner::Board(std::string_view) {
-  transcript_.Line("board = " + GridText(game_.State().puzzle.CurrentDigits));
+  transcript_.Line("board = " + GridText(game_.State().play.puzzle.CurrentDigits));
   return LineKind::Question;
 }
 
 ScriptRunner::LineKind ScriptRunner::Givens(std::string_view) {
-  transcript_.Line("givens = " + GridText(game_.State().puzzle.GivenDigits));
+  transcript_.Line("givens = " + GridText(game_.State().play.puzzle.GivenDigits));
   return LineKind::Question;
 }
 
 ScriptRunner::LineKind ScriptRunner::Solution(std::string_view) {
-  transcript_.Line("solution = " + GridText(game_.State().puzzle.SolutionDigits));
+  transcript_.Line("solution = " + GridText(game_.State().play.puzzle.SolutionDigits));
   return LineKind::Question;
 }
 
 ScriptRunner::LineKind ScriptRunner::Pencil(std::string_view) {
-  transcript_.Line("pencil = " + PencilText(game_.State().puzzle));
+  transcript_.Line("pencil = " + PencilText(game_.State().play.puzzle));
   return LineKind::Question;
 }
 
 ScriptRunner::LineKind ScriptRunner::Steps(std::string_view) {
-  const auto texts = StepTexts(game_.State().history);
+  const auto texts = StepTexts(game_.State().play.history);
   transcript_.Line("steps = " + texts[0]);
   for (std::size_t k = 1; k < texts.size(); ++k) {
     transcript_.Line("step " + std::to_string(k) + " = " + texts[k]);
@@ -67,7 +67,7 @@ ScriptRunner::LineKind ScriptRunner::Record(std::string_view rest) {
   if (!level || !number || *level < 1 || *level > kLevels || *number < 1 || *number > kPuzzlesPerLevel) {
     return Fail(std::string(texts::kBadArguments) + std::string(rest));
   }
-  transcript_.Line("record = " + RecordText((*game_.State().stock)(*level, *number)));
+  transcript_.Line("record = " + RecordText((*game_.State().stockroom.stock)(*level, *number)));
   return LineKind::Question;
 }
 

@@ -21,25 +21,25 @@ struct PlainRow {
 };
 
 constexpr std::array<PlainRow, 24> kPlainValues{{
-    {"StockStatus", [](const Session& s) { return std::to_string(s.StockStatus); }},
-    {"SelectedLevel", [](const Session& s) { return std::to_string(s.SelectedLevel); }},
-    {"RenewingLevel", [](const Session& s) { return std::to_string(s.RenewingLevel); }},
-    {"RedisplayPending", [](const Session& s) { return TruthValue(s.RedisplayPending); }},
-    {"PuzzleLevel", [](const Session& s) { return std::to_string(s.puzzle.PuzzleLevel); }},
-    {"PuzzleNumber", [](const Session& s) { return std::to_string(s.puzzle.PuzzleNumber); }},
-    {"PuzzleBestPlayer", [](const Session& s) { return std::to_string(s.puzzle.PuzzleBestPlayer); }},
-    {"PuzzleBestMinutes", [](const Session& s) { return std::to_string(s.puzzle.PuzzleBestMinutes); }},
-    {"PuzzleBestSeconds", [](const Session& s) { return std::to_string(s.puzzle.PuzzleBestSeconds); }},
-    {"StepCount", [](const Session& s) { return std::to_string(s.history.StepCount()); }},
-    {"StepTop", [](const Session& s) { return std::to_string(s.history.StepTop()); }},
-    {"SelectedRow", [](const Session& s) { return std::to_string(s.SelectedRow); }},
-    {"SelectedColumn", [](const Session& s) { return std::to_string(s.SelectedColumn); }},
-    {"StartSecond", [](const Session& s) { return std::to_string(s.clock.StartSecond); }},
-    {"ElapsedSeconds", [](const Session& s) { return std::to_string(s.clock.ElapsedSeconds); }},
-    {"ClockStopped", [](const Session& s) { return TruthValue(s.clock.ClockStopped); }},
-    {"ClockPaused", [](const Session& s) { return TruthValue(s.clock.ClockPaused); }},
-    {"PausedMinutes", [](const Session& s) { return std::to_string(s.clock.PausedMinutes); }},
-    {"PausedSeconds", [](const Session& s) { return std::to_string(s.clock.PausedSeconds); }},
+    {"StockStatus", [](const Session& s) { return std::to_string(s.stockroom.StockStatus); }},
+    {"SelectedLevel", [](const Session& s) { return std::to_string(s.choices.SelectedLevel); }},
+    {"RenewingLevel", [](const Session& s) { return std::to_string(s.stockroom.RenewingLevel); }},
+    {"RedisplayPending", [](const Session& s) { return TruthValue(s.play.phase == PlayPhase::Chosen); }},
+    {"PuzzleLevel", [](const Session& s) { return std::to_string(s.play.puzzle.PuzzleLevel); }},
+    {"PuzzleNumber", [](const Session& s) { return std::to_string(s.play.puzzle.PuzzleNumber); }},
+    {"PuzzleBestPlayer", [](const Session& s) { return std::to_string(s.play.puzzle.PuzzleBestPlayer); }},
+    {"PuzzleBestMinutes", [](const Session& s) { return std::to_string(s.play.puzzle.PuzzleBestMinutes); }},
+    {"PuzzleBestSeconds", [](const Session& s) { return std::to_string(s.play.puzzle.PuzzleBestSeconds); }},
+    {"StepCount", [](const Session& s) { return std::to_string(s.play.history.StepCount()); }},
+    {"StepTop", [](const Session& s) { return std::to_string(s.play.history.StepTop()); }},
+    {"SelectedRow", [](const Session& s) { return std::to_string(s.headers.SelectedRow); }},
+    {"SelectedColumn", [](const Session& s) { return std::to_string(s.headers.SelectedColumn); }},
+    {"StartSecond", [](const Session& s) { return std::to_string(s.play.clock.StartSecond); }},
+    {"ElapsedSeconds", [](const Session& s) { return std::to_string(s.play.clock.ElapsedSeconds); }},
+    {"ClockStopped", [](const Session& s) { return TruthValue(s.play.clock.ClockStopped); }},
+    {"ClockPaused", [](const Session& s) { return TruthValue(s.play.clock.ClockPaused); }},
+    {"PausedMinutes", [](const Session& s) { return std::to_string(s.play.clock.PausedMinutes); }},
+    {"PausedSeconds", [](const Session& s) { return std::to_string(s.play.clock.PausedSeconds); }},
     {"SoundOn", [](const Session& s) { return TruthValue(s.sounds.SoundOn); }},
     {"SoundAvailable", [](const Session& s) { return TruthValue(s.sounds.SoundAvailable()); }},
     {"PlayerCount", [](const Session& s) { return std::to_string(s.players.PlayerCount()); }},
@@ -49,8 +49,8 @@ constexpr std::array<PlainRow, 24> kPlainValues{{
 
 std::optional<std::string> IndexedValue(const Session& session, std::string_view name, int index) {
   const bool is_level = index >= 1 && index <= kLevels;
-  if (name == "CurrentNumber" && is_level) return std::to_string(session.CurrentNumber(index));
-  if (name == "RenewalCount" && is_level) return std::to_string(session.RenewalCount(index));
+  if (name == "CurrentNumber" && is_level) return std::to_string(session.choices.CurrentNumber(index));
+  if (name == "RenewalCount" && is_level) return std::to_string(session.stockroom.RenewalCount(index));
   if (name == "PlayerNames" && index >= 1 && index <= session.players.PlayerCount()) {
     return JsonString(session.players.PlayerNames(index));
   }
@@ -71,7 +71,7 @@ std::string Join(const Numbers& numbers, char separator) {
 }  // namespace
 
 std::optional<std::string> ValueText(const Session& session, std::string_view name) {
-  if (name == "DataFolder") return JsonString(session.DataFolder);
+  if (name == "DataFolder") return JsonString(session.stockroom.DataFolder);
   const auto row = std::ranges::find(kPlainValues, name, &PlainRow::name);
   if (row != kPlainValues.end()) return row->text(session);
   const auto indexed = ParseIndexedName(name);
