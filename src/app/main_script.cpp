@@ -25,7 +25,7 @@ int Finish(int status) {
   return FinishOutput(kProgram) ? status : kStatusUsage;
 }
 
-int Play(const ScriptCommand& command) {
+int PlayScript(const ScriptCommand& command) {
   std::ifstream file;
   if (!command.script.empty() && command.script != "-") {
     file.open(command.script);
@@ -60,5 +60,5 @@ int main(int argc, char** argv) {
     std::cout << kProgram << " " KESTREL_VERSION "\n";
     return Finish(kStatusGood);
   }
-  return Finish(Play(*command));
+  return Finish(PlayScript(*command));
 }
