@@ -17,11 +17,12 @@ namespace kestrel {
 
 FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool unattended)
     : choices_(host.settings, desktop_),
-      mirror_(dispatcher_, {[this] {
-                              const Session& state = game_.State();
-                              return TipState{state.play.puzzle.MarksAreCandidates(), state.stockroom.RenewingLevel};
-                            },
-                            choices_, QString::fromStdString(help_folder)}),
+      mirror_(dispatcher_,
+              {[this] {
+                 const Session& state = game_.State();
+                 return TipState{state.play.puzzle.MarksAreCandidates(), state.stockroom.RenewingLevel};
+               },
+               choices_, QString::fromStdString(help_folder)}),
       asker_(mirror_, dispatcher_),
       screen_(mirror_, dispatcher_),
       help_(mirror_),
