@@ -1,8 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Builds the fuzzers with the address and undefined sanitizers and runs each: tools/fuzz.sh [SECONDS [NAME...]]
+# Builds the fuzzers, beside the tests under the sanitizers, and runs each: tools/fuzz.sh [SECONDS [NAME...]]
 # New inputs go to build/fuzz/corpus, and those that fail to build/fuzz/failed-NAME-*; give such a file to
-# build/fuzz/bin/fuzz-NAME to run it again.
+# build/asan/bin/fuzz-NAME to run it again.
 set -eu
 cd "$(dirname "$0")/.."
 . tools/setup.sh
@@ -11,18 +11,16 @@ seconds=${1:-5}
 [ $# -gt 0 ] && shift
 [ $# -gt 0 ] || set -- stock settings script cli
 
-cmake -S . -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKESTREL_QT=OFF \
-  -DKESTREL_TESTS=OFF -DKESTREL_TOOLS=OFF -DKESTREL_FUZZ=ON -DKESTREL_WERROR=ON \
-  -DKESTREL_SANITIZE=address,undefined,fuzzer-no-link >/dev/null
+cmake --preset asan >/dev/null
 for name in "$@"; do
-  cmake --build build/fuzz --target "fuzz-$name"
+  cmake --build build/asan --target "fuzz-$name"
 done
 for name in "$@"; do
   mkdir -p "build/fuzz/corpus/$name"
   dictionary=fuzz/$name.dict
   [ -f "$dictionary" ] && set -- -dict="$dictionary" || set --
   echo "== $name, $seconds s"
-  ./build/fuzz/bin/fuzz-"$name" -max_total_time="$seconds" -timeout=60 -max_len=4096 -print_final_stats=1 \
+  ./build/asan/bin/fuzz-"$name" -max_total_time="$seconds" -timeout=60 -max_len=4096 -print_final_stats=1 \
     -artifact_prefix="build/fuzz/failed-$name-" "$@" "build/fuzz/corpus/$name" "fuzz/corpus/$name" \
     >"build/fuzz/$name.log" 2>&1 || { tail -n 60 "build/fuzz/$name.log"; exit 1; }
   grep -E '^#.*DONE|number_of_executed_units|average_exec' "build/fuzz/$name.log"

@@ -3,6 +3,6 @@
 build_packages="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libcairo2-dev fonts-liberation"
 window_packages="qt6-base-dev libcups2-dev qt6-multimedia-dev"
 test_packages="libgtest-dev poppler-utils appstream desktop-file-utils mandoc tidy"
-check_packages="clang clang-format clang-tidy libclang-rt-14-dev"
-proof_packages="gcovr valgrind"
+check_packages="clang clang-format clang-tidy libclang-rt-dev"
+proof_packages="gcovr valgrind python3 ccache"
 bench_packages="libbenchmark-dev qqwing"
