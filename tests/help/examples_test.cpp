@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The worked examples against the solver, and reading and writing them.
+// The worked examples and the exercises against the solver, and reading and writing them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "explain/board_picture.h"
 #include "explain/names.h"
@@ -20,10 +22,19 @@
 namespace kestrel::help {
 namespace {
 
-const ExampleFile& Shipped() {
-  static const ExampleFile file =
-      ReadExamples(FileText(std::string(KESTREL_SOURCE_DIR) + "/data/examples.txt"));
-  return file;
+ExampleFile Read(const char* name) {
+  return ReadExamples(FileText(std::string(KESTREL_SOURCE_DIR) + "/data/" + name));
+}
+
+// Examples and exercises, as they are shipped.
+const std::vector<Example>& Shipped() {
+  static const std::vector<Example> all = [] {
+    std::vector<Example> examples = Read("examples.txt").examples;
+    const std::vector<Example> exercises = Read("exercises.txt").examples;
+    examples.insert(examples.end(), exercises.begin(), exercises.end());
+    return examples;
+  }();
+  return all;
 }
 
 plain::PlainSolver PlainPosition(const Example& example) {
@@ -40,9 +51,8 @@ plain::PlainSolver PlainPosition(const Example& example) {
 }
 
 TEST(Examples, TheSolverFindsWhatEachExampleSays) {
-  ASSERT_EQ(Shipped().error, "");
-  ASSERT_GE(Shipped().examples.size(), 40U);
-  for (const Example& example : Shipped().examples) {
+  ASSERT_EQ(Read("examples.txt").error + Read("exercises.txt").error, "");
+  for (const Example& example : Shipped()) {
     SCOPED_TRACE(example.key);
     // The plain second solver, which shares no code with the first: none of the simpler techniques works.
     plain::PlainSolver plain = PlainPosition(example);
@@ -73,7 +83,7 @@ TEST(Examples, TheSolverFindsWhatEachExampleSays) {
 // The position belongs to a proper puzzle and is true to it: digits and candidates keep the one solution, and
 // nothing that the example does touches that solution.
 TEST(Examples, PositionsAreTrueToTheirPuzzles) {
-  for (const Example& example : Shipped().examples) {
+  for (const Example& example : Shipped()) {
     SCOPED_TRACE(example.key);
     DigitGrid solution{};
     ASSERT_EQ(testing::CountSolutions(example.givens, 2, &solution), 1);
@@ -90,21 +100,28 @@ TEST(Examples, PositionsAreTrueToTheirPuzzles) {
   }
 }
 
-TEST(Examples, EveryTechniqueAndEveryKeyHasItsForm) {
-  std::set<Technique> techniques;
-  for (const Example& example : Shipped().examples) {
-    techniques.insert(example.finding.technique);
-    const auto form = std::find_if(AllForms().begin(), AllForms().end(),
-                                   [&](const Form& f) { return f.key == example.key; });
-    ASSERT_NE(form, AllForms().end()) << example.key;
-    EXPECT_TRUE(IsOfForm(example.finding, *form)) << example.key;
+// One worked example and three exercises of every form, all from different puzzles and of the form that their key
+// names.
+TEST(Examples, EveryFormHasItsExampleAndExercises) {
+  std::map<std::string, const Example*> by_key;
+  for (const Example& example : Shipped()) by_key[example.key] = &example;
+  for (const Form& form : AllForms()) {
+    std::set<DigitGrid> puzzles;
+    for (const char* number : {"", "-1", "-2", "-3"}) {
+      const std::string key = std::string(form.key) + number;
+      ASSERT_TRUE(by_key.contains(key)) << key;
+      EXPECT_TRUE(IsOfForm(by_key[key]->finding, form)) << key;
+      puzzles.insert(by_key[key]->givens);
+      by_key.erase(key);
+    }
+    EXPECT_EQ(puzzles.size(), 4U) << form.key;
   }
-  EXPECT_EQ(techniques.size(), kAllTechniques.size());
+  EXPECT_TRUE(by_key.empty()) << by_key.begin()->first;
 }
 
 // Text and picture of an example name every cell that matters, and the picture has a sign for each.
 TEST(Examples, TextAndPictureShowEveryCell) {
-  for (const Example& example : Shipped().examples) {
+  for (const Example& example : Shipped()) {
     SCOPED_TRACE(example.key);
     const std::string text = ExampleText(example);
     const Picture drawn = DrawBoard(example);
@@ -136,7 +153,7 @@ TEST(Examples, TextAndPictureShowEveryCell) {
 
 // Every change of one line that makes an example meaningless is refused, with the number of a line.
 TEST(Examples, BrokenBlocksAreRefused) {
-  const std::string good = WriteExample(*Shipped().Find("x_wing-rows"));
+  const std::string good = WriteExample(*Read("examples.txt").Find("x_wing-rows"));
   ASSERT_EQ(ReadExamples(good).error, "");
   EXPECT_EQ(WriteExample(ReadExamples(good).examples.at(0)), good);
   const auto replaced = [&](const std::string& from, const std::string& to) {
@@ -166,20 +183,6 @@ TEST(Examples, BrokenBlocksAreRefused) {
     const ExampleFile file = ReadExamples(text);
     EXPECT_EQ(file.error.rfind("line ", 0), 0U) << text;
   }
-}
-
-TEST(Names, CellsUnitsAndLists) {
-  for (int cell = 0; cell < kCells; ++cell) EXPECT_EQ(CellOfName(CellName(cell)), cell);
-  EXPECT_EQ(CellName(24), "C7");
-  EXPECT_EQ(CellName(80), "J9");
-  for (const char* bad : {"", "A", "I1", "a1", "A0", "A:", "A10"}) EXPECT_EQ(CellOfName(bad), -1) << bad;
-  const std::vector<Unit> rows{{UnitKind::Row, 2}, {UnitKind::Row, 8}};
-  EXPECT_EQ(TheUnits(rows), "rows C and J");
-  const std::vector<Unit> boxes{{UnitKind::Box, 0}, {UnitKind::Box, 1}, {UnitKind::Box, 4}};
-  EXPECT_EQ(TheUnits(boxes), "the top left, the top middle and the centre box");
-  const std::vector<Unit> mixed{{UnitKind::Column, 8}, {UnitKind::Box, 8}};
-  EXPECT_EQ(TheUnits(mixed), "column 9 and the bottom right box");
-  EXPECT_EQ(DigitNames(0b100000101, "or"), "1, 3 or 9");
 }
 
 }  // namespace

@@ -3,16 +3,18 @@
 // every viewer understands.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <functional>
+#include <numeric>
 #include <regex>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "explain/board_picture.h"
+#include "help/practice.h"
 #include "help/site_files.h"
-#include "help/stock_use.h"
 #include "solver/technique_table.h"
 
 namespace kestrel::help {
@@ -49,55 +51,53 @@ TEST(Pages, AreMadeFromTheirSources) {
   const Site site = BuildSite(sources.Input());
   ASSERT_EQ(site.error, "");
   for (const auto& [name, content] : site.files) {
-    EXPECT_TRUE(FileText(kHelp / name) == content) << name << " is old: run tools/make_help.sh";
+    EXPECT_TRUE(FileText(kHelp / name) == content) << name << " is old: run make-help";
   }
   for (const auto& entry : fs::recursive_directory_iterator(kHelp)) {
     const std::string name = fs::relative(entry.path(), kHelp).generic_string();
-    if (entry.is_directory() || entry.path().extension() == ".png") continue;
+    if (entry.is_directory()) continue;
     EXPECT_EQ(site.files.count(name), 1U) << name << " belongs to nothing";
   }
 }
 
+// Links lead to pages, and to places in them, that are there; every page and picture can be reached.
 TEST(Pages, EveryLinkAndPictureLeadsSomewhere) {
-  std::set<std::string> linked{"index.html"};
-  std::set<std::string> shown;
+  std::set<std::string> reached{"index.html"};
   for (const std::string& name : PageNames()) {
     const std::string html = FileText(kHelp / name);
-    for (std::string target : Values(html, "href")) {
-      EXPECT_TRUE(fs::exists(kHelp / target)) << name << " -> " << target;
-      if (target != name) linked.insert(target);
-    }
-    for (const char* attribute : {"src", "srcset"}) {
+    for (const char* attribute : {"href", "src"}) {
       for (const std::string& target : Values(html, attribute)) {
-        const std::string file = target.substr(0, target.find(' '));
-        EXPECT_TRUE(fs::exists(kHelp / file)) << name << " -> " << file;
-        shown.insert(file);
+        const std::size_t hash = target.find('#');
+        const std::string file = hash == 0 ? name : target.substr(0, hash);
+        ASSERT_TRUE(fs::exists(kHelp / file)) << name << " -> " << target;
+        if (file != name) reached.insert(file);
+        if (hash == std::string::npos) continue;
+        EXPECT_NE(FileText(kHelp / file).find(" id=\"" + target.substr(hash + 1) + '"'), std::string::npos)
+            << name << " -> " << target;
       }
     }
   }
-  for (const std::string& name : PageNames()) EXPECT_EQ(linked.count(name), 1U) << name << " is never linked";
-  for (const auto& entry : fs::directory_iterator(kHelp / "pictures")) {
-    EXPECT_EQ(shown.count("pictures/" + entry.path().filename().string()), 1U)
-        << entry.path() << " is never shown";
+  for (const auto& entry : fs::recursive_directory_iterator(kHelp)) {
+    const std::string name = fs::relative(entry.path(), kHelp).generic_string();
+    EXPECT_TRUE(entry.is_directory() || reached.contains(name)) << name << " is linked or shown by no page";
   }
 }
 
-TEST(Pages, EveryTechniqueHasItsPageWithExamplesAndReasons) {
+// After a click on a hint, picture and explanation come first; what helps on is on every page.
+TEST(Pages, EveryTechniqueHasItsPage) {
   std::set<std::string> pages;
   for (const TechniqueRow& row : kTechniqueTable) pages.insert(std::string(row.help_page));
   EXPECT_EQ(pages.size(), 18U);
   for (const std::string& page : pages) {
     const std::string html = FileText(kHelp / page);
-    for (const char* part : {"<h2>What to look for</h2>", "<h2>Why it works</h2>", "<h2>Worked example",
-                             "<h2>Look closer</h2>", "<p class=\"board\">"}) {
-      EXPECT_NE(html.find(part), std::string::npos) << page << " lacks " << part;
+    std::size_t at = 0;
+    for (const char* part :
+         {"first_steps.html", "words.html", "<h1>", "<table class=\"example\">", "<h2>What to look for</h2>",
+          "<h2>Why it works</h2>", "<h2>Try it yourself</h2>", "<h2>Practise</h2>", "<h2>Look closer</h2>"}) {
+      const std::size_t next = html.find(part, at);
+      ASSERT_NE(next, std::string::npos) << page << " lacks " << part;
+      at = next;
     }
-    EXPECT_EQ(html.find("<h2>How often</h2>") != std::string::npos,
-              fs::exists(kProject / "data/sudstock.kpz"))
-        << page;
-  }
-  for (const char* page : {"playing.html", "hints.html", "players.html", "printing.html", "renewal.html"}) {
-    EXPECT_TRUE(fs::exists(kHelp / page)) << page;
   }
 }
 
@@ -105,37 +105,13 @@ TEST(Pages, EveryTechniqueHasItsPageWithExamplesAndReasons) {
 TEST(Pages, HaveOnlyTagsThatTheHelpWindowKnows) {
   static const std::regex kTag("<(/?[a-z0-9]+|!)");
   static const std::regex kKnown(
-      "<(!|/?(meta|link|source|img|html|head|title|body|h[1-3]|p|a|b|em|ul|li|table|tr|th|td|picture))");
+      "<(!|/?(meta|link|img|html|head|title|body|h[1-3]|p|a|b|em|ul|li|table|tr|th|td))");
   for (const std::string& name : PageNames()) {
     const std::string html = FileText(kHelp / name);
     for (std::sregex_iterator tag(html.begin(), html.end(), kTag), end; tag != end; ++tag) {
       EXPECT_TRUE(std::regex_match(tag->str(), kKnown)) << name << ": " << tag->str();
     }
   }
-}
-
-// Size of a PNG picture from its header; 0 when it is none.
-std::pair<unsigned, unsigned> PngSize(const std::string& bytes) {
-  if (bytes.size() < 24 || bytes.substr(1, 3) != "PNG") return {0, 0};
-  const auto number = [&](std::size_t at) {
-    unsigned value = 0;
-    for (std::size_t i = at; i < at + 4; ++i) value = 256 * value + static_cast<unsigned char>(bytes[i]);
-    return value;
-  };
-  return {number(16), number(20)};
-}
-
-TEST(Pages, PicturesComeInTwoResolutionsAndStaySmall) {
-  std::uintmax_t all = 0;
-  for (const auto& entry : fs::directory_iterator(kHelp / "pictures")) {
-    all += entry.file_size();
-    const std::string name = entry.path().filename().string();
-    if (entry.path().extension() != ".png") continue;
-    const unsigned zoom = name.find("@2x") != std::string::npos ? 2 : 1;
-    EXPECT_EQ(PngSize(FileText(entry.path())), std::pair(zoom * kPictureWidth, zoom * kPictureHeight))
-        << name;
-  }
-  EXPECT_LT(all, 6U << 20U);
 }
 
 TEST(Pages, MistakesInTheTextsAreReported) {
@@ -149,8 +125,8 @@ TEST(Pages, MistakesInTheTextsAreReported) {
   EXPECT_EQ(error_after([](SiteInput&) {}), "");
   EXPECT_NE(error_after([](SiteInput& input) { input.texts.erase("x_wing.html"); }), "");
   EXPECT_NE(error_after([](SiteInput& input) { input.texts["y_wing.html"] = "title Y\n"; }), "");
-  for (const char* line : {"\n@exmaple x_wing-rows | Rows\n", "\n@example x_wing-rows\n",
-                           "\n@occurrence 12\n", "\n@example swordfish-rows | Rows\n"}) {
+  for (const char* line : {"\n@exmaple x_wing-rows | Rows\n", "\n@example x_wing-rows\n", "\n@practice 12\n",
+                           "\n@walk back\n", "\n@example swordfish-rows | Rows\n"}) {
     EXPECT_NE(error_after([&](SiteInput& input) { input.texts["x_wing.html"] += line; }), "") << line;
   }
   EXPECT_NE(error_after([](SiteInput& input) { input.texts["x_wing.html"].erase(0, 6); }), "");
@@ -162,25 +138,32 @@ TEST(Pages, MistakesInTheTextsAreReported) {
             "");
 }
 
-TEST(Stock, NumbersAreListedShortly) {
-  EXPECT_EQ(NumberList({3}), "3");
-  EXPECT_EQ(NumberList({3, 4, 7, 8, 9, 10, 100}), "3, 4, 7 to 10 and 100");
-  std::vector<int> all(100);
-  for (int i = 0; i < 100; ++i) all[static_cast<std::size_t>(i)] = i + 1;
-  EXPECT_EQ(NumberList(all), "all");
-  all.erase(all.begin() + 4);
-  all.erase(all.begin() + 49);
-  EXPECT_EQ(NumberList(all), "all but 5 and 51");
-  all.resize(79);  // too many exceptions: the puzzles themselves
-  EXPECT_EQ(NumberList(all), "1 to 4, 6 to 50 and 52 to 81");
-  EXPECT_FALSE(StockOfBytes(std::vector<std::uint8_t>(kStockBytes - 1)));
-  std::vector<std::uint8_t> bytes(kStockBytes);
-  // Very Hard 100 is the last record; its slot 21, the Jellyfish, stands six bytes before its end.
-  bytes[kStockBytes - 6] = 3;
-  const TechniqueUse use = UseOf(*StockOfBytes(bytes), Technique::Jellyfish);
-  EXPECT_EQ(use.puzzles[4], std::vector<int>{100});
-  EXPECT_EQ(use.times[4], 3);
-  EXPECT_TRUE(use.puzzles[3].empty());
+// The puzzles of a rung need its technique and nothing harder; no other such puzzle needs fewer steps besides.
+TEST(Practice, RungsHoldTheSimplestPuzzlesOfTheirTechnique) {
+  SiteSources sources = ReadSiteInput(kProject);
+  ASSERT_TRUE(sources.stock);
+  for (const Technique technique : kAllTechniques) {
+    const Rung rung = RungOf(*sources.stock, technique);
+    std::vector<int> others(kPuzzlesPerLevel + 1, -1);  // -1: needs something harder, or not the technique
+    for (int number = 1; number <= kPuzzlesPerLevel; ++number) {
+      const auto& counts = (*sources.stock)(rung.level, number).TechniqueCount;
+      const auto own = counts.begin() + SlotOf(technique);
+      const auto harder = std::max(own + 1, counts.begin() + 2);
+      if (*own == 0 || std::any_of(harder, counts.end(), [](int count) { return count > 0; })) continue;
+      const auto after_singles = std::min(counts.begin() + 2, own);
+      others[static_cast<std::size_t>(number)] = std::accumulate(after_singles, own, 0);
+    }
+    int most = 0;
+    for (const int number : rung.puzzles) {
+      const int steps = std::exchange(others[static_cast<std::size_t>(number)], -1);
+      EXPECT_GE(steps, most) << RowOf(technique).caption;  // simplest first
+      most = steps;
+    }
+    EXPECT_LE(rung.puzzles.size(), 5U);
+    for (const int left_out : others) {
+      EXPECT_TRUE(left_out < 0 || (rung.puzzles.size() == 5 && left_out >= most)) << RowOf(technique).caption;
+    }
+  }
 }
 
 }  // namespace

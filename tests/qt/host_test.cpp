@@ -3,10 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
+#include <QTextTable>
 
 #include "media/help.h"
 #include "print/print_job.h"
@@ -54,8 +57,45 @@ TEST(Help, FollowsPagesForwardAndBack) {
   game.Settle();
   EXPECT_EQ(view.size(), QSize(640 - 255 / 15, 480 - 525 / 15));
   EXPECT_EQ(game.Controls().browser.WebBrowser1.width, 640 * 15 - 255);
-  window.close();
+  QTest::keyClick(&view, Qt::Key_Escape);
   EXPECT_FALSE(game.Controls().browser.window.open);
+}
+
+// Words are found from the chosen place on, round the end; in a narrow window a picture stands under its text and fits.
+TEST(Help, FindsWordsAndFitsPictures) {
+  QtGame game(3);
+  std::filesystem::create_directory(game.program_folder.Path("help"));
+  game.program_folder.Put("help/index.html",
+                          "<p>wing one</p><table><tr><td>wing two</td>\n<td class=\"picture\">"
+                          "<img src=\"board.svg\" width=\"564\" height=\"562\"></td></tr></table>");
+  game.program_folder.Put("help/board.svg",
+                          "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 564 562\"></svg>");
+  game.ClickControl("CommandHelp");
+  FormWindow& window = game.front_end.Windows().WindowOf(FormId::Browser);
+  HelpView& view = *game.front_end.Windows().Help();
+  QTest::keyClick(&view, Qt::Key_F, Qt::ControlModifier);
+  auto* words = window.findChild<QLineEdit*>("HelpFindWords");
+  auto* answer = window.findChild<QLabel*>("HelpFindAnswer");
+  QTest::keyClicks(words, "wing");
+  const int first = view.textCursor().position();
+  QTest::keyClick(words, Qt::Key_Return);
+  EXPECT_GT(view.textCursor().position(), first);
+  QTest::keyClick(words, Qt::Key_Return);
+  EXPECT_EQ(view.textCursor().position(), first);
+  QTest::keyClicks(words, "s");
+  EXPECT_FALSE(answer->text().isEmpty());
+  QTest::keyClick(words, Qt::Key_Escape);
+  EXPECT_FALSE(words->isVisible());
+
+  window.setWindowState(Qt::WindowNoState);
+  for (const int width : {360, 520, 1200}) {
+    window.resize(width, 700);
+    game.Settle();
+    EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0) << width;
+    const auto* table = qobject_cast<QTextTable*>(view.document()->rootFrame()->childFrames().value(0));
+    ASSERT_NE(table, nullptr);
+    EXPECT_EQ(table->rows(), width < 720 ? 2 : 1) << width;
+  }
 }
 
 TEST(Sound, RefusesWhatIsNoWaveFile) {

@@ -1,14 +1,24 @@
 // SPDX-License-Identifier: MIT
-// Looks for worked examples in generated puzzles: find-examples FILE [--seed N] [--puzzles N]
-// Every example of FILE that is missing, or for which a clearer one turns up, is replaced; the file is
-// written at the end. The same file, seed and number of puzzles always give the same result.
+// Looks for positions in generated puzzles, for the help pages:
+//
+//   find-examples FILE [--seed N] [--puzzles N]                       one worked example of every form
+//   find-examples FILE --exercises EXAMPLES [--seed N] [--puzzles N]  three exercises of every form, none of them
+//                                                                    from a puzzle that EXAMPLES shows
+//
+// A position of FILE is replaced when a clearer one turns up; the file is written at the end. The same files,
+// seed and number of puzzles always give the same result.
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <map>
+#include <optional>
+#include <set>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/yield.h"
 #include "explain/clarity.h"
@@ -21,70 +31,123 @@ namespace {
 
 using namespace kestrel;
 
+constexpr const char* kExamplesHeading =
+    "# Worked examples of the help pages: positions from generated puzzles and what the solver finds "
+    "there.\n";
+constexpr const char* kExercisesHeading =
+    "# Exercises of the help pages: positions from generated puzzles and what the solver finds there.\n";
 constexpr const char* kHeading =
-    "# Worked examples of the help pages: positions from generated puzzles and what the solver finds there.\n"
     "# Written by find-examples; docs/help-pages.md tells how. src/explain/example.h has the format.\n";
+
+constexpr std::size_t kExercisesPerForm = 3;
 
 struct Options {
   std::string file;
+  std::string examples;  // looking for exercises: the file of the examples; else empty
   std::uint64_t seed = 1;
   int puzzles = 10000;
 };
 
-// The best example so far of every form.
+// The clearest positions so far of every form, each of another puzzle.
 class Collection {
  public:
-  explicit Collection(const ExampleFile& file) {
+  // Takes over what `file` holds. `each` is how many positions of a form are wanted, `shown` lists the puzzles
+  // that must not be used.
+  Collection(const ExampleFile& file, bool exercises, std::set<DigitGrid> shown)
+      : exercises_(exercises), shown_(std::move(shown)) {
     for (const Form& form : AllForms()) {
-      const Example* example = file.Find(form.key);
-      if (example == nullptr || !IsOfForm(example->finding, form)) continue;
-      best_[form.key] = {Clarity(example->Position(), example->finding), *example};
+      for (std::size_t i = 0; i < Wanted(); ++i) {
+        const Example* example = file.Find(Key(form, i));
+        if (example == nullptr || !IsOfForm(example->finding, form)) continue;
+        Insert(form, {Clarity(example->Position(), example->finding), *example});
+      }
     }
   }
 
-  void Offer(const DigitGrid& givens, const SolverState& position, const Finding& finding) {
+  void Offer(const DigitGrid& givens, const SolverState& before, const Finding& finding,
+             const SolverState& after) {
     for (const Form& form : AllForms()) {
       if (!IsOfForm(finding, form)) continue;
-      const double clarity = Clarity(position, finding);
-      const auto found = best_.find(form.key);
-      if (found != best_.end() && found->second.clarity >= clarity) continue;
-      Example example{std::string(form.key), givens, {}, {}, finding};
+      const double clarity = Clarity(before, finding);
+      const std::vector<Choice>& best = best_[form.key];
+      if (best.size() == Wanted() && best.back().clarity >= clarity) continue;
+      if (exercises_ && (shown_.contains(givens) || HasSecondAnswer(givens, finding, after))) continue;
+      Example example{{}, givens, {}, {}, finding};
       for (int cell = 0; cell < kCells; ++cell) {
-        example.digits[cell] = static_cast<std::uint8_t>(position.CellValue(cell));
-        example.marks[cell] = position.CellMask(cell);
+        example.digits[cell] = static_cast<std::uint8_t>(before.CellValue(cell));
+        example.marks[cell] = before.CellMask(cell);
       }
-      best_[form.key] = {clarity, example};
-      ++replaced_;
+      replaced_ += Insert(form, {clarity, example}) ? 1 : 0;
     }
   }
 
   [[nodiscard]] std::string Text() const {
-    std::string text = kHeading;
+    std::string text = exercises_ ? kExercisesHeading : kExamplesHeading;
+    text += kHeading;
     for (const Form& form : AllForms()) {
       const auto found = best_.find(form.key);
-      if (found != best_.end()) text += '\n' + WriteExample(found->second.example);
+      if (found == best_.end()) continue;
+      for (std::size_t i = 0; i < found->second.size(); ++i) {
+        Example example = found->second[i].example;
+        example.key = Key(form, i);
+        text += '\n' + WriteExample(example);
+      }
     }
     return text;
   }
 
   void Report() const {
     for (const Form& form : AllForms()) {
+      std::printf("%-32s", std::string(form.key).c_str());
       const auto found = best_.find(form.key);
-      if (found == best_.end()) {
-        std::printf("%-32s none\n", std::string(form.key).c_str());
-      } else {
-        std::printf("%-32s %6.1f\n", std::string(form.key).c_str(), found->second.clarity);
+      if (found == best_.end() || found->second.empty()) {
+        std::printf("   none\n");
+        continue;
       }
+      for (const Choice& choice : found->second) std::printf(" %6.1f", choice.clarity);
+      std::printf("\n");
     }
     std::printf("%d replaced\n", replaced_);
   }
 
  private:
-  struct Best {
+  struct Choice {
     double clarity = 0;
     Example example;
   };
-  std::map<std::string_view, Best> best_;
+
+  [[nodiscard]] std::size_t Wanted() const { return exercises_ ? kExercisesPerForm : 1; }
+  [[nodiscard]] std::string Key(const Form& form, std::size_t i) const {
+    return std::string(form.key) + (exercises_ ? '-' + std::to_string(i + 1) : "");
+  }
+
+  // An exercise asks for one thing: after the answer the same technique must not work once more. Of singles
+  // there are always several.
+  static bool HasSecondAnswer(const DigitGrid& givens, const Finding& finding, SolverState after) {
+    return finding.placed_cell < 0 && FirstTechnique(after, givens) == finding.technique;
+  }
+
+  // Puts the choice in its place, the clearest first, and drops what is too many. Of equally clear ones the
+  // first found stays in front. False when it was not taken.
+  bool Insert(const Form& form, const Choice& choice) {
+    std::vector<Choice>& best = best_[form.key];
+    const auto same = std::find_if(best.begin(), best.end(), [&](const Choice& other) {
+      return other.example.givens == choice.example.givens;
+    });
+    if (same != best.end()) {
+      if (same->clarity >= choice.clarity) return false;
+      best.erase(same);
+    }
+    const auto after = std::find_if(best.begin(), best.end(),
+                                    [&](const Choice& other) { return other.clarity < choice.clarity; });
+    best.insert(after, choice);
+    if (best.size() > Wanted()) best.pop_back();
+    return true;
+  }
+
+  bool exercises_;
+  std::set<DigitGrid> shown_;
+  std::map<std::string_view, std::vector<Choice>> best_;
   int replaced_ = 0;
 };
 
@@ -94,7 +157,7 @@ class Watcher final : public StepObserver {
   Watcher(Collection& collection, const DigitGrid& givens)
       : collection_(collection), givens_(givens), before_(givens) {}
   void OnStep(const Finding& finding, const SolverState& after) override {
-    collection_.Offer(givens_, before_, finding);
+    collection_.Offer(givens_, before_, finding, after);
     before_ = after;
   }
 
@@ -121,6 +184,9 @@ bool ReadOptions(int argc, char** argv, Options& options) {
       } else {
         options.puzzles = static_cast<int>(number);
       }
+    } else if (word == "--exercises") {
+      if (++i >= argc) return false;
+      options.examples = argv[i];
     } else if (options.file.empty()) {
       options.file = word;
     } else {
@@ -130,22 +196,30 @@ bool ReadOptions(int argc, char** argv, Options& options) {
   return !options.file.empty();
 }
 
+// The positions of the file; none when it is missing. Says on the error output what is wrong with it.
+std::optional<ExampleFile> Read(const std::string& path) {
+  std::ostringstream text;
+  if (const std::ifstream in(path); in) text << in.rdbuf();
+  ExampleFile file = ReadExamples(text.str());
+  if (file.error.empty()) return file;
+  std::fprintf(stderr, "%s, %s\n", path.c_str(), file.error.c_str());
+  return std::nullopt;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   Options options;
   if (!ReadOptions(argc, argv, options)) {
-    std::fputs("Usage: find-examples FILE [--seed N] [--puzzles N]\n", stderr);
+    std::fputs("Usage: find-examples FILE [--exercises EXAMPLES] [--seed N] [--puzzles N]\n", stderr);
     return 2;
   }
-  std::ostringstream old;
-  if (const std::ifstream in(options.file); in) old << in.rdbuf();
-  const ExampleFile file = ReadExamples(old.str());
-  if (!file.error.empty()) {
-    std::fprintf(stderr, "%s, %s\n", options.file.c_str(), file.error.c_str());
-    return 1;
-  }
-  Collection collection(file);
+  const std::optional<ExampleFile> file = Read(options.file);
+  const std::optional<ExampleFile> shown = Read(options.examples);
+  if (!file || !shown) return 1;
+  std::set<DigitGrid> shown_puzzles;
+  for (const Example& example : shown->examples) shown_puzzles.insert(example.givens);
+  Collection collection(*file, !options.examples.empty(), std::move(shown_puzzles));
   FixedSeeds seeds(options.seed);
   Generator generator(seeds);
   NeverStop yield;

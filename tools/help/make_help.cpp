@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Writes the help pages and their pictures as SVG: make-help PROJECT_FOLDER [OUTPUT_FOLDER]
-// Reads tools/help/pages, tools/help/help.css, data/examples.txt and data/sudstock.kpz of the project; writes
-// to its data/help unless told otherwise. tools/make_help.sh also renders the PNG pictures.
+// Writes the help pages and their pictures: make-help PROJECT_FOLDER [OUTPUT_FOLDER]
+// Reads tools/help, data/examples.txt, data/exercises.txt and data/sudstock.kpz of the project; writes to its
+// data/help unless told otherwise.
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -13,13 +13,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Deletes the pictures, rendered ones included, of examples that are no more.
-void RemoveOldPictures(const kestrel::help::Site& site, const fs::path& folder) {
+// Deletes what an earlier run wrote and this one does not: pages and pictures of examples that are no more.
+void RemoveOldFiles(const kestrel::help::Site& site, const fs::path& folder) {
   std::vector<fs::path> old;
-  for (const auto& entry : fs::directory_iterator(folder)) {
-    const std::string name = entry.path().filename().string();
-    const std::string key = name.substr(0, name.find_first_of("@."));
-    if (site.files.count("pictures/" + key + ".svg") == 0) old.push_back(entry.path());
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    const std::string name = fs::relative(entry.path(), folder).generic_string();
+    if (entry.is_regular_file() && !site.files.contains(name)) old.push_back(entry.path());
   }
   for (const fs::path& path : old) fs::remove(path);
 }
@@ -42,9 +41,9 @@ int main(int argc, char** argv) {
   }
   std::error_code error;
   fs::create_directories(output / "pictures", error);
-  RemoveOldPictures(site, output / "pictures");
+  RemoveOldFiles(site, output);
   for (const auto& [name, content] : site.files) {
-    if (FileText(output / name) == content) continue;  // its time tells which pictures to render again
+    if (FileText(output / name) == content) continue;
     std::ofstream out(output / name, std::ios::binary);
     out << content;
     out.close();

@@ -8,22 +8,31 @@
 #include <sstream>
 #include <vector>
 
-#include "explain/board_picture.h"
-#include "explain/names.h"
+#include "explain/explain.h"
 #include "explain/reasons.h"
-#include "help/stock_use.h"
+#include "explain/svg.h"
+#include "help/exercises.h"
+#include "help/practice.h"
+#include "help/walk.h"
 #include "solver/technique_table.h"
 
 namespace kestrel::help {
 namespace {
 
-constexpr std::array<const char*, 6> kGamePages{"index.html",   "playing.html",  "hints.html",
-                                                "players.html", "printing.html", "renewal.html"};
+constexpr std::array<const char*, 9> kGamePages{"index.html",    "first_steps.html", "playing.html",
+                                                "hints.html",    "words.html",       "players.html",
+                                                "printing.html", "renewal.html",     "practice.html"};
 
 struct PageText {
   std::string file;
   std::string title;
   std::vector<std::string> lines;  // what follows the heading lines
+};
+
+// An example's place in a page.
+struct ExamplePlace {
+  const Example* example;
+  std::string heading;
 };
 
 std::vector<std::string> Lines(const std::string& text) {
@@ -43,10 +52,8 @@ std::vector<std::string> PageOrder() {
   return order;
 }
 
-// "18,459"; up to 999,999.
-std::string WithComma(int number) {
-  std::string digits = std::to_string(number);
-  return digits.size() <= 3 ? digits : digits.insert(digits.size() - 3, ",");
+std::string Link(const std::string& target, const std::string& words) {
+  return "<a href=\"" + target + "\">" + Escaped(words) + "</a>";
 }
 
 class Builder {
@@ -55,6 +62,7 @@ class Builder {
 
   Site Build() {
     if (!input_.examples.error.empty()) return {{}, "examples: " + input_.examples.error};
+    if (!input_.exercises.error.empty()) return {{}, "exercises: " + input_.exercises.error};
     const std::vector<std::string> order = PageOrder();
     for (const std::string& file : order) ReadText(file);
     for (const auto& entry : input_.texts) {
@@ -63,14 +71,16 @@ class Builder {
       }
     }
     for (const Technique technique : kAllTechniques) {
-      if (summaries_[Slot(technique)].empty())
+      if (summaries_[Slot(technique)].empty()) {
         Fail("summary " + std::to_string(StepOf(technique)), "is missing");
+      }
     }
-    for (std::size_t i = 0; i < pages_.size(); ++i) Write(i);
+    if (input_.stock != nullptr) walk_.emplace(SafeDigits((*input_.stock)(1, 1).GivenCells));
+    for (std::size_t i = 0; i < pages_.size() && site_.error.empty(); ++i) Write(i);
     for (const Example& example : input_.examples.examples) {
-      if (site_.files.count(PictureFile(example)) == 0) Fail("example " + example.key, "is on no page");
+      if (!IsPicture(example.key)) Fail("example " + example.key, "is on no page");
     }
-    site_.files["help.css"] = input_.style;
+    site_.files.insert(input_.styles.begin(), input_.styles.end());
     return std::move(site_);
   }
 
@@ -79,7 +89,9 @@ class Builder {
   static bool IsOn(const std::string& file, Technique technique) {
     return technique != Technique::None && RowOf(technique).help_page == file;
   }
-  static std::string PictureFile(const Example& example) { return "pictures/" + example.key + ".svg"; }
+  [[nodiscard]] bool IsPicture(const std::string& key) const {
+    return site_.files.contains("pictures/" + key + ".svg");
+  }
 
   void Fail(const std::string& where, const std::string& reason) {
     if (site_.error.empty()) site_.error = where + ": " + reason;
@@ -109,36 +121,42 @@ class Builder {
 
   void Write(std::size_t index) {
     const PageText& page = pages_[index];
-    const std::string title = page.file == "index.html" ? page.title : page.title + " - Kestrel Sudoku";
+    ReadExamplePlaces(page);
     out_.str({});
-    shown_.clear();
-    out_ << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>"
-         << Escaped(title)
-         << "</title>\n<link rel=\"stylesheet\" type=\"text/css\" href=\"help.css\">\n</head>\n<body>\n";
-    Navigation(index);
-    out_ << "<h1>" << Escaped(page.title) << "</h1>\n";
     for (const std::string& line : page.lines) Line(page, line);
-    Navigation(index);
-    out_ << "</body>\n</html>\n";
-    site_.files[page.file] = out_.str();
+    const std::string neighbours = Neighbours(index);
+    Finish(page.file, page.title, neighbours, out_.str());
+    WriteExercises(page);
   }
 
-  void Navigation(std::size_t index) {
-    if (index == 0) return;
-    const auto link = [&](std::size_t to, const char* word) {
-      out_ << "<a href=\"" << pages_[to].file << "\">" << word << ": " << Escaped(pages_[to].title) << "</a>";
-    };
-    out_ << "<p class=\"navigation\"><a href=\"index.html\">Contents</a>";
-    if (index > 1) {
-      out_ << " &nbsp; ";
-      link(index - 1, "Previous");
+  // The file of a page: head, links, heading, content, links.
+  void Finish(const std::string& file, const std::string& title, const std::string& neighbours,
+              const std::string& content) {
+    const std::string name = file == "index.html" ? title : title + " - Kestrel Sudoku";
+    std::string links = "<p class=\"navigation\">";
+    for (const auto& [target, words] : {std::pair("index.html", "Contents"),
+                                        {"first_steps.html", "First steps"},
+                                        {"words.html", "Words"}}) {
+      if (file != target) links += Link(target, words) + " &nbsp; ";
     }
-    if (index + 1 < pages_.size()) {
-      out_ << " &nbsp; ";
-      link(index + 1, "Next");
-    }
-    out_ << "</p>\n";
+    links += neighbours + "</p>\n";
+    site_.files[file] =
+        "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+        "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+        "<meta name=\"color-scheme\" content=\"light dark\">\n<title>" +
+        Escaped(name) +
+        "</title>\n<link rel=\"stylesheet\" type=\"text/css\" href=\"help.css\">\n"
+        "<link rel=\"stylesheet\" href=\"browser.css\">\n"
+        "<link rel=\"stylesheet\" media=\"(prefers-color-scheme: dark)\" href=\"help_dark.css\">\n"
+        "</head>\n<body>\n" +
+        links + "<h1>" + Escaped(title) + "</h1>\n" + content + links + "</body>\n</html>\n";
+  }
+
+  std::string Neighbours(std::size_t index) const {
+    std::string links;
+    if (index > 1) links += Link(pages_[index - 1].file, "Previous: " + pages_[index - 1].title) + " &nbsp; ";
+    if (index > 0 && index + 1 < pages_.size()) links += Link(pages_[index + 1].file, "Next: " + pages_[index + 1].title);
+    return links;
   }
 
   void Line(const PageText& page, const std::string& line) {
@@ -150,104 +168,172 @@ class Builder {
     std::string word;
     words >> word;
     if (word == "@example") {
-      ExampleAt(page, words);
-    } else if (word == "@occurrence") {
-      Occurrence(page, words);
+      ExampleAt(words);
+    } else if (word == "@story") {
+      Story(page, words);
+    } else if (word == "@exercises") {
+      ExerciseLinks(page);
+    } else if (word == "@practice") {
+      Practice(page, words);
     } else if (word == "@techniques") {
       Techniques();
+    } else if (word == "@ladder") {
+      Ladder();
+    } else if (word == "@walk") {
+      WalkPart(page, words);
     } else {
       Fail(page.file, "does not know " + word);
     }
   }
 
-  void ExampleAt(const PageText& page, std::istringstream& words) {
+  // ---- worked examples ----
+
+  void ReadExamplePlaces(const PageText& page) {
+    places_.clear();
+    shown_ = 0;
+    for (const std::string& line : page.lines) {
+      std::istringstream words(line);
+      std::string word;
+      std::string key;
+      std::string bar;
+      std::string heading;
+      if (!(words >> word) || word != "@example") continue;
+      words >> key >> bar;
+      std::getline(words >> std::ws, heading);
+      if (bar != "|" || heading.empty()) return Fail(page.file, "example without heading");
+      const Example* example = input_.examples.Find(key);
+      if (example == nullptr) continue;
+      if (!IsOn(page.file, example->finding.technique)) {
+        return Fail(page.file, "example of another page: " + key);
+      }
+      places_.push_back({example, heading});
+    }
+  }
+
+  void ExampleAt(std::istringstream& words) {
+    std::string key;
+    words >> key;
+    if (shown_ >= places_.size() || places_[shown_].example->key != key) return;  // there is none
+    if (shown_ == 0 && places_.size() > 1) OnThisPage();
+    if (shown_ == 1) out_ << "<h2>More examples</h2>\n";
+    const auto& [example, heading] = places_[shown_++];
+    const Picture picture = DrawBoard(*example);
+    out_ << BesidePicture("<h3 id=\"" + key + "\">" + Escaped(heading) + "</h3>\n<p>" +
+                              Escaped(ExampleText(*example)) + "</p>\n" + Legend(site_.files, picture.signs),
+                          Image(site_.files, key, picture));
+  }
+
+  // One of the page's examples in three pictures; the last of them is the example's own.
+  void Story(const PageText& page, std::istringstream& words) {
     std::string key;
     std::string bar;
-    std::string heading;
+    std::string what;
     words >> key >> bar;
-    std::getline(words >> std::ws, heading);
-    if (bar != "|" || heading.empty()) return Fail(page.file, "example without heading");
+    std::getline(words >> std::ws, what);
     const Example* example = input_.examples.Find(key);
     if (example == nullptr) return;
-    if (RowOf(example->finding.technique).help_page != page.file) {
-      return Fail(page.file, "example of another page: " + key);
+    if (!IsOn(page.file, example->finding.technique) || bar != "|") {
+      return Fail(page.file, "story of another page, or one that does not say what to spot: " + key);
     }
-    if (shown_.empty()) {
-      const auto more = std::count_if(page.lines.begin(), page.lines.end(), [&](const std::string& line) {
-        std::istringstream in(line);
-        std::string name;
-        std::string other;
-        return in >> name >> other && name == "@example" && input_.examples.Find(other) != nullptr;
-      });
-      out_ << (more > 1 ? "<h2>Worked examples</h2>\n" : "<h2>Worked example</h2>\n");
-      Legend(page, more > 1);
+    const auto frames = DrawStory(*example);
+    const std::array<std::string, 3> texts{what + " Here: " + ExplainStep(example->finding).pattern + '.',
+                                           frames[1].text, frames[2].text};
+    const std::array<std::string, 3> names{key + "-spot", key + "-why", key};
+    out_ << "<h2>Step by step</h2>\n";
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+      const Picture& picture = frames[i].picture;
+      out_ << BesidePicture("<h3>" + std::to_string(i + 1) + ". " + Escaped(frames[i].heading) +
+                                "</h3>\n<p>" + Escaped(texts[i]) + "</p>\n" +
+                                Legend(site_.files, picture.signs),
+                            Image(site_.files, names[i], picture));
     }
-    shown_.push_back(example);
-    Picture(*example, heading);
   }
 
-  void Picture(const Example& example, const std::string& heading) {
-    const std::string base = "pictures/" + example.key;
-    const ::kestrel::Picture picture = DrawBoard(example);
-    site_.files[PictureFile(example)] = picture.svg;
-    out_ << "<h3>" << Escaped(heading) << "</h3>\n<p class=\"board\"><picture><source srcset=\"" << base
-         << ".svg\" type=\"image/svg+xml\"><img src=\"" << base << ".png\" srcset=\"" << base
-         << "@2x.png 2x\" width=\"" << kPictureWidth << "\" height=\"" << kPictureHeight << "\" alt=\""
-         << Escaped(picture.words) << "\"></picture></p>\n<p class=\"example\">"
-         << Escaped(ExampleText(example)) << "</p>\n";
-  }
-
-  // What the signs in the page's pictures mean; only those that occur.
-  void Legend(const PageText& page, bool several) {
-    const char* const in = several ? "In the pictures, " : "In the picture, ";
-    SignSet signs;
-    for (const Example& example : input_.examples.examples) {
-      if (RowOf(example.finding.technique).help_page == page.file) signs.merge(DrawBoard(example).signs);
+  void OnThisPage() {
+    out_ << "<p class=\"navigation\">On this page: ";
+    for (std::size_t i = 0; i < places_.size(); ++i) {
+      out_ << (i > 0 ? ", " : "") << Link('#' + places_[i].example->key, places_[i].heading);
     }
-    out_ << "<p class=\"legend\">" << in << "the signs mean: " << Escaped(LegendText(signs));
     out_ << "</p>\n";
   }
 
-  void Occurrence(const PageText& page, std::istringstream& words) {
+  // ---- exercises ----
+
+  std::vector<const Example*> ExercisesOf(const std::string& file) const {
+    std::vector<const Example*> exercises;
+    for (const Example& exercise : input_.exercises.examples) {
+      if (IsOn(file, exercise.finding.technique)) exercises.push_back(&exercise);
+    }
+    return exercises;
+  }
+
+  void ExerciseLinks(const PageText& page) {
+    const std::vector<const Example*> exercises = ExercisesOf(page.file);
+    if (exercises.empty()) return;
+    const std::string file = ExerciseFile(page.file, ExercisePage::Question);
+    out_ << "<h2>Try it yourself</h2>\n<p>" << Link(file, std::to_string(exercises.size()) + " exercises")
+         << ", each with a hint and an answer.</p>\n";
+  }
+
+  void WriteExercises(const PageText& page) {
+    const std::vector<const Example*> exercises = ExercisesOf(page.file);
+    if (exercises.empty()) return;
+    for (const auto& [kind, word] : {std::pair(ExercisePage::Question, "Exercises"),
+                                     {ExercisePage::Hint, "Hints"},
+                                     {ExercisePage::Answer, "Answers"}}) {
+      std::string back = Link(page.file, "Back to: " + page.title);
+      if (kind != ExercisePage::Question) {
+        back += " &nbsp; " + Link(ExerciseFile(page.file, ExercisePage::Question), "Exercises");
+      }
+      Finish(ExerciseFile(page.file, kind), page.title + ": " + word, back,
+             ExercisesHtml(site_.files, page.file, kind, exercises));
+    }
+  }
+
+  // ---- practice ----
+
+  void Practice(const PageText& page, std::istringstream& words) {
     std::vector<Technique> techniques;
     for (int step = 0; words >> step;) techniques.push_back(TechniqueOfStep(step));
     for (const Technique technique : techniques) {
-      if (!IsOn(page.file, technique)) {
-        return Fail(page.file, "occurrence of another page's technique");
-      }
+      if (!IsOn(page.file, technique)) return Fail(page.file, "practice of another page's technique");
     }
     if (input_.stock == nullptr) return;
-    out_ << "<h2>How often</h2>\n";
-    for (const Technique technique : techniques) OccurrenceOf(technique);
-    out_ << "<p class=\"note\">These are the puzzles that come with the game; a level that you have renewed "
-            "holds "
-            "others. Within a level, the lower the number, the easier the puzzle.</p>\n";
+    out_ << "<h2>Practise</h2>\n";
+    for (const Technique technique : techniques) {
+      const Rung rung = RungOf(*input_.stock, technique);
+      out_ << "<p>";
+      if (techniques.size() > 1) out_ << "<b>" << Escaped(NameOf(technique)) << ":</b> ";
+      out_ << PracticeSentence(rung) << ' ' << UseSentence(rung) << "</p>\n";
+    }
+    out_ << "<p class=\"note\">The puzzles are those that come with the game; a level that you have renewed "
+            "holds others. "
+         << Link("practice.html", "All techniques") << " in order, with their puzzles.</p>\n";
   }
 
-  void OccurrenceOf(Technique technique) {
-    const TechniqueUse use = UseOf(*input_.stock, technique);
-    std::size_t puzzles = 0;
-    int times = 0;
-    for (int level = 0; level < kLevels; ++level) {
-      puzzles += use.puzzles[level].size();
-      times += use.times[level];
-    }
-    const std::string name = Escaped(RowOf(technique).caption);
-    out_ << "<p><b>" << name << ":</b> ";
-    if (puzzles == 0) {
-      out_ << "none of the 500 puzzles needs it.</p>\n";
-      return;
-    }
-    out_ << (puzzles == 500 ? "needed in all 500 puzzles, "
-                            : "needed in " + std::to_string(puzzles) + " of the 500 puzzles, ")
-         << WithComma(times) << (times == 1 ? " time" : " times") << " in all.</p>\n<table class=\"use\">\n";
-    for (int level = 1; level <= kLevels; ++level) {
-      const std::vector<int>& numbers = use.puzzles[level - 1];
-      if (numbers.empty()) continue;
-      out_ << "<tr><th scope=\"row\">" << LevelName(level) << "</th><td class=\"count\">" << numbers.size()
-           << "</td><td>" << NumberList(numbers) << "</td></tr>\n";
+  void Ladder() {
+    if (input_.stock == nullptr) return;
+    out_ << "<table class=\"techniques\">\n";
+    for (const Technique technique : kAllTechniques) {
+      const Rung rung = RungOf(*input_.stock, technique);
+      out_ << "<tr><td class=\"tier" << rung.level << "\">" << StepOf(technique) << "</td><td>"
+           << Link(TechniqueLink(technique), NameOf(technique)) << "</td><td>" << PracticeSentence(rung);
+      out_ << "</td></tr>\n";
     }
     out_ << "</table>\n";
+  }
+
+  // ---- contents and first steps ----
+
+  // The place where a technique is explained: where a page has several, the technique's first example.
+  [[nodiscard]] std::string TechniqueLink(Technique technique) const {
+    const std::string page(RowOf(technique).help_page);
+    const auto of_page = [&](const TechniqueRow& row) { return row.help_page == page; };
+    if (std::count_if(kTechniqueTable.begin(), kTechniqueTable.end(), of_page) == 1) return page;
+    for (const Example& example : input_.examples.examples) {
+      if (example.finding.technique == technique) return page + '#' + example.key;
+    }
+    return page;
   }
 
   void Techniques() {
@@ -258,18 +344,29 @@ class Builder {
         tier = row.tier;
         out_ << "<tr><th colspan=\"3\" class=\"tier" << tier << "\">" << LevelName(tier) << "</th></tr>\n";
       }
-      out_ << "<tr><td><a href=\"" << row.help_page << "\">" << Escaped(row.caption)
-           << "</a></td><td class=\"letters\">" << row.abbreviation << "</td><td>"
+      out_ << "<tr><td>" << Link(TechniqueLink(row.technique), NameOf(row.technique))
+           << "</td><td class=\"letters\">" << row.abbreviation << "</td><td>"
            << Escaped(summaries_[Slot(row.technique)]) << "</td></tr>\n";
     }
     out_ << "</table>\n";
+  }
+
+  void WalkPart(const PageText& page, std::istringstream& words) {
+    if (!walk_) return;
+    std::string part;
+    words >> part;
+    const std::string html = walk_->Part(site_.files, part);
+    if (html.empty()) return Fail(page.file, "cannot walk " + part);
+    out_ << html;
   }
 
   const SiteInput& input_;
   Site site_;
   std::vector<PageText> pages_;
   std::array<std::string, kTechniques> summaries_;
-  std::vector<const Example*> shown_;  // on the page at hand
+  std::optional<Walk> walk_;
+  std::vector<ExamplePlace> places_;  // of the page at hand
+  std::size_t shown_ = 0;             // how many of them were written
   std::ostringstream out_;
 };
 
@@ -277,29 +374,6 @@ class Builder {
 
 Site BuildSite(const SiteInput& input) {
   return Builder(input).Build();
-}
-
-std::string Escaped(std::string_view text) {
-  std::string html;
-  for (const char c : text) {
-    switch (c) {
-      case '&':
-        html += "&amp;";
-        break;
-      case '<':
-        html += "&lt;";
-        break;
-      case '>':
-        html += "&gt;";
-        break;
-      case '"':
-        html += "&quot;";
-        break;
-      default:
-        html += c;
-    }
-  }
-  return html;
 }
 
 }  // namespace kestrel::help

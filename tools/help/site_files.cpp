@@ -6,7 +6,7 @@
 #include <sstream>
 #include <vector>
 
-#include "help/stock_use.h"
+#include "help/practice.h"
 
 namespace kestrel::help {
 
@@ -22,8 +22,11 @@ SiteSources ReadSiteInput(const std::filesystem::path& project) {
   for (const auto& entry : std::filesystem::directory_iterator(project / "tools/help/pages", error)) {
     sources.input.texts[entry.path().filename().string()] = FileText(entry.path());
   }
-  sources.input.style = FileText(project / "tools/help/help.css");
+  for (const char* name : {"help.css", "help_dark.css", "browser.css"}) {
+    sources.input.styles[name] = FileText(project / "tools/help" / name);
+  }
   sources.input.examples = ReadExamples(FileText(project / "data/examples.txt"));
+  sources.input.exercises = ReadExamples(FileText(project / "data/exercises.txt"));
   const std::string stock = FileText(project / "data/sudstock.kpz");
   const std::vector<std::uint8_t> bytes(stock.begin(), stock.end());
   sources.stock = StockOfBytes(bytes);

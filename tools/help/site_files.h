@@ -23,8 +23,8 @@ struct SiteSources {
   }
 };
 
-// Reads tools/help/pages, tools/help/help.css, data/examples.txt and, if it is there, data/sudstock.kpz. What
-// is missing is left empty, and BuildSite then says so.
+// Reads tools/help/pages, the style sheets beside it, data/examples.txt, data/exercises.txt and, if it is there,
+// data/sudstock.kpz. What is missing is left empty, and BuildSite then says so.
 SiteSources ReadSiteInput(const std::filesystem::path& project);
 
 }  // namespace kestrel::help

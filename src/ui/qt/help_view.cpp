@@ -1,15 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/help_view.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QDesktopServices>
+#include <QFile>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <algorithm>
 #include <string>
 
+#include "explain/palette.h"
 #include "host/host_files.h"
 #include "media/help.h"
 #include "ui/qt/fonts.h"
+#include "ui/qt/help_find.h"
+#include "ui/qt/help_pictures.h"
 #include "ui/qt/look.h"
 #include "ui/qt/text_conversion.h"
 #include "ui/qt/texts.h"
@@ -18,8 +26,31 @@ namespace kestrel {
 
 namespace {
 
-constexpr int kTextWidth = 820;  // longer lines are hard to read
+constexpr int kTextWidth = 1020;  // longer lines are hard to read
 constexpr int kTextMargin = 16;
+constexpr int kNarrow = 720;  // below this, a picture stands under its explanation, not beside it
+
+// A picture and its explanation fit on one screen, below the head of a page.
+constexpr int kHeadOfPage = 190;
+constexpr double kPictureShare = 0.56;  // of the page's width, beside an explanation
+constexpr int kSmallestPicture = 300;
+
+QByteArray Content(const QUrl& file) {
+  QFile in(file.toLocalFile());
+  return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+}
+
+// The drawing in the colours of dark pages. Drawings carry plain colour values, and the two palettes have none in
+// common.
+QByteArray InDark(QByteArray svg) {
+  const auto quoted = [](const char* colour) { return '"' + QByteArray(colour) + '"'; };
+  for (const auto part :
+       {&Palette::paper, &Palette::ink, &Palette::thin, &Palette::mark, &Palette::given, &Palette::digit,
+        &Palette::cause, &Palette::gone, &Palette::gone_ground, &Palette::unit_wash, &Palette::lose_wash}) {
+    svg.replace(quoted(kLightPalette.*part), quoted(kDarkPalette.*part));
+  }
+  return svg;
+}
 
 QString ErrorPage(const QUrl& name) {
   return QStringLiteral(
@@ -30,17 +61,27 @@ QString ErrorPage(const QUrl& name) {
 
 }  // namespace
 
-HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
+HelpView::HelpView(QWidget* parent)
+    : QTextBrowser(parent),
+      pictures_(new HelpPictures(this,
+                                 [this](const QString& name) {
+                                   const QByteArray svg = Content(page_.resolved(QUrl(name)));
+                                   return dark_ ? InDark(svg) : svg;
+                                 })),
+      find_(new HelpFind(*this)) {
   setOpenLinks(true);
   setFrameShape(QFrame::StyledPanel);
-  FollowLook();
   document()->setDocumentMargin(kTextMargin);
+  document()->documentLayout()->registerHandler(QTextFormat::ImageObject, pictures_);
+  FollowLook();
 }
 
 void HelpView::FollowLook() {
   Font font;
   font.size = 11.25;
   setFont(ToQFont(font, TheLook().zoom));
+  pictures_->SetZoom(TheLook().zoom);
+  if (!page_.isEmpty()) Fit();
 }
 
 QUrl HelpView::UrlOf(std::string_view page) const {
@@ -60,7 +101,14 @@ void HelpView::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
     QDesktopServices::openUrl(target);
     return;
   }
+  page_ = target;
+  narrow_ = IsNarrow();
+  dark_ = IsDark();
+  pictures_->Forget();
   QTextBrowser::doSetSource(name, type);
+  // Not only what Qt takes for changed: nothing of the page before may stay.
+  update();
+  viewport()->update();
 }
 
 QVariant HelpView::loadResource(int type, const QUrl& name) {
@@ -68,7 +116,74 @@ QVariant HelpView::loadResource(int type, const QUrl& name) {
   const bool missing = target.isLocalFile() && !QFileInfo(target.toLocalFile()).isFile();
   if (missing && type == QTextDocument::HtmlResource) return ErrorPage(target);
   if (missing) return {};
+  if (type == QTextDocument::HtmlResource && narrow_) {
+    // In a narrow window the two cells of an example stand one below the other; browsers do it by the style.
+    return QString::fromUtf8(Content(target))
+        .replace(QLatin1String("</td>\n<td class=\"picture\">"),
+                 QLatin1String("</td></tr>\n<tr><td class=\"picture\">"));
+  }
+  if (type == QTextDocument::StyleSheetResource && dark_) {
+    return Content(target) + Content(target.resolved(QUrl(QStringLiteral("help_dark.css"))));
+  }
   return QTextBrowser::loadResource(type, name);
+}
+
+bool HelpView::IsNarrow() const {
+  return width() < kNarrow * TheLook().zoom;
+}
+
+bool HelpView::IsDark() const {
+  return palette().color(QPalette::Base).lightness() < 128;
+}
+
+void HelpView::FitPictures() {
+  const QSize room = viewport()->size();
+  const double width = room.width() - 2.0 * kTextMargin - 12;
+  pictures_->SetLargest({IsNarrow() ? width : width * kPictureShare,
+                         std::max<double>(kSmallestPicture, room.height() - kHeadOfPage * TheLook().zoom)});
+}
+
+void HelpView::Renew() {
+  const int top = cursorForPosition({viewport()->width() / 2, kTextMargin}).block().blockNumber();
+  const bool at_start = verticalScrollBar()->value() == 0;
+  reload();
+  const QTextBlock block = document()->findBlockByNumber(top);
+  if (at_start || !block.isValid()) return;
+  verticalScrollBar()->setValue(
+      static_cast<int>(document()->documentLayout()->blockBoundingRect(block).top()));
+}
+
+// The text stands in the middle, in lines of a readable length.
+void HelpView::Fit() {
+  const int side = std::max(0, (width() - static_cast<int>(kTextWidth * TheLook().zoom)) / 2);
+  setViewportMargins(side, 0, side, 0);
+  FitPictures();
+  find_->Fit();
+  if (IsNarrow() != narrow_) {
+    Renew();
+  } else {
+    document()->markContentsDirty(0, document()->characterCount());  // the pictures have other sizes now
+  }
+}
+
+void HelpView::resizeEvent(QResizeEvent* event) {
+  QTextBrowser::resizeEvent(event);
+  Fit();
+}
+
+void HelpView::changeEvent(QEvent* event) {
+  QTextBrowser::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && IsDark() != dark_) Renew();
+}
+
+void HelpView::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Find)) {
+    find_->Open();
+  } else if (event->key() == Qt::Key_Escape) {
+    window()->close();
+  } else {
+    QTextBrowser::keyPressEvent(event);
+  }
 }
 
 void AddHelpBar(QWidget& window, HelpView& view) {
@@ -91,13 +206,6 @@ void AddHelpBar(QWidget& window, HelpView& view) {
                    [&view] { view.Navigate(std::string(kHelpFolder) + std::string(kHelpIndex)); });
   QObject::connect(&view, &HelpView::backwardAvailable, back, &QPushButton::setEnabled);
   QObject::connect(&view, &HelpView::forwardAvailable, forward, &QPushButton::setEnabled);
-}
-
-// The text stands in the middle, in lines of a readable length.
-void HelpView::resizeEvent(QResizeEvent* event) {
-  const int side = std::max(0, (width() - kTextWidth) / 2);
-  setViewportMargins(side, 0, side, 0);
-  QTextBrowser::resizeEvent(event);
 }
 
 }  // namespace kestrel

@@ -8,6 +8,9 @@
 
 namespace kestrel {
 
+class HelpFind;
+class HelpPictures;
+
 class HelpView final : public QTextBrowser {
  public:
   explicit HelpView(QWidget* parent);
@@ -25,12 +28,27 @@ class HelpView final : public QTextBrowser {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
 
  private:
   [[nodiscard]] QUrl UrlOf(std::string_view page) const;
+  // The window is too narrow for text and picture side by side.
+  [[nodiscard]] bool IsNarrow() const;
+  [[nodiscard]] bool IsDark() const;
+  // Makes the page again, for another width or other colours, with the same line at the top.
+  void Renew();
+  // Follows the view's size, or the look's.
+  void Fit();
+  void FitPictures();
 
   QString folder_;
+  QUrl page_;  // what is being shown or loaded; its pictures stand beside it
+  HelpPictures* pictures_;
+  HelpFind* find_;
+  bool narrow_ = false;  // how the page at hand was made
+  bool dark_ = false;
 };
 
 // Puts the buttons Back, Forward and Contents into the strip over the view.

@@ -56,6 +56,10 @@ inline constexpr const char* kNotSavedWhy = "The file could not be written:\n";
 inline constexpr const char* kBack = "&Back";
 inline constexpr const char* kForward = "&Forward";
 inline constexpr const char* kContents = "&Contents";
+inline constexpr const char* kFind = "Find in this page";
+inline constexpr const char* kFindNext = "&Next";
+inline constexpr const char* kFindPrevious = "&Previous";
+inline constexpr const char* kNotFound = "Not found";
 inline constexpr const char* kNoPage = "This page is missing";
 inline constexpr const char* kNoPageWhy = "The help page was not found where the help pages are installed:";
 
