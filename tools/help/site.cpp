@@ -155,7 +155,8 @@ class Builder {
   std::string Neighbours(std::size_t index) const {
     std::string links;
     if (index > 1) links += Link(pages_[index - 1].file, "Previous: " + pages_[index - 1].title) + " &nbsp; ";
-    if (index > 0 && index + 1 < pages_.size()) links += Link(pages_[index + 1].file, "Next: " + pages_[index + 1].title);
+    if (index > 0 && index + 1 < pages_.size())
+      links += Link(pages_[index + 1].file, "Next: " + pages_[index + 1].title);
     return links;
   }
 

@@ -2,37 +2,19 @@
 #include "help/walk.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "core/yield.h"
 #include "explain/names.h"
 #include "explain/reasons.h"
 #include "explain/svg.h"
-#include "solver/solver.h"
+#include "explain/walkthrough.h"
 
 namespace kestrel::help {
 namespace {
 
 constexpr std::size_t kStepsOfPicture = 6;
-
-class Recorder final : public StepObserver {
- public:
-  Recorder(const DigitGrid& givens, std::vector<Example>& steps)
-      : givens_(givens), before_(givens), steps_(steps) {}
-  void OnStep(const Finding& finding, const SolverState& after) override {
-    Example example{{}, givens_, {}, {}, finding};
-    for (int cell = 0; cell < kCells; ++cell) {
-      example.digits[cell] = static_cast<std::uint8_t>(before_.CellValue(cell));
-      example.marks[cell] = before_.CellMask(cell);
-    }
-    steps_.push_back(std::move(example));
-    before_ = after;
-  }
-
- private:
-  const DigitGrid& givens_;
-  SolverState before_;
-  std::vector<Example>& steps_;
-};
 
 // "4 in A3: no other place for it in the top right box."
 std::string InShort(const Finding& finding) {
@@ -47,12 +29,11 @@ std::string InShort(const Finding& finding) {
 
 }  // namespace
 
-Walk::Walk(const DigitGrid& givens) : givens_(givens) {
+Walk::Walk(const DigitGrid& givens) {
   NeverStop yield;
-  Recorder recorder(givens_, steps_);
-  RateOptions options;
-  options.observer = &recorder;
-  if (SolveAndRate(givens_, yield, options).level != 1) return;
+  std::optional<Walkthrough> solved = ExplainPuzzle(givens, yield);
+  if (!solved || solved->rating.level != 1) return;
+  steps_ = std::move(solved->steps);
   const auto naked = std::find_if(steps_.begin(), steps_.end(), [](const Example& step) {
     return step.finding.technique == Technique::NakedSingle;
   });

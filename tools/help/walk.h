@@ -33,7 +33,6 @@ class Walk {
   // The board after `count` steps, as it looks at this level: what an empty cell shows there is a keypad.
   [[nodiscard]] Example Board(std::size_t count) const;
 
-  DigitGrid givens_;
   std::vector<Example> steps_;  // each the position before it
   std::size_t naked_ = 0;       // the first naked single; 0 when the walk cannot be told
 };
