@@ -7,7 +7,7 @@
 
 #include "generator/generator.h"
 #include "generator/level_renewal.h"
-#include "generator/plain_generator.h"
+#include "support/plain_generator.h"
 
 namespace kestrel {
 namespace {

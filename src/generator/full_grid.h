@@ -12,7 +12,7 @@
 
 namespace kestrel {
 
-// Takes the very steps of BacktrackEngine from an empty grid, so that it ends with the same digits, but does
+// Takes the very steps of a plain backtracking engine from an empty grid, so that it ends with the same digits, but does
 // not count the allowed digits of every open cell at every step. It keeps one 16-bit key per cell, and the
 // smallest key names the cell that the engine would choose:
 //

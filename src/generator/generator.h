@@ -10,8 +10,8 @@
 
 namespace kestrel {
 
-// For the same seeds the same grids, puzzles and answers as PlainGenerator, which says how they come about;
-// this is the form that is fast. One object must not be used by two threads at once.
+// For the same seeds the same grids, puzzles and answers as the plain form that stands with the tests and says
+// how they come about; this is the form that is fast. One object must not be used by two threads at once.
 class Generator {
  public:
   // Takes a seed at the start of each of the two making calls. `seeds` must outlive the generator.

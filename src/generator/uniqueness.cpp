@@ -3,10 +3,10 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 #include "generator/board_tables.h"
 #include "generator/deviation.h"
-#include "generator/plain_generator.h"
 
 namespace kestrel {
 
@@ -36,6 +36,50 @@ bool Clash(const DigitGrid& givens) {
   return false;
 }
 
+// The digits that neither the row nor the column nor the box of a cell has.
+CandidateMask FreeDigits(const DigitGrid& grid, int cell) {
+  CandidateMask taken = 0;
+  for (int i = 0; i < kUnitSize; ++i) {
+    for (const int seen : {RowCell[CellRow[cell]][i], RowCell[i][CellCol[cell]], BoxCell[CellBox[cell]][i]}) {
+      if (grid[seen] != 0) taken |= DigitBit(grid[seen]);
+    }
+  }
+  return static_cast<CandidateMask>(kAllDigits & ~taken);
+}
+
+// In how many ways the empty cells can be filled, two standing for more; nothing when it was stopped. Tries
+// all digits, always in a cell with the fewest. As it was found, the grid is left.
+std::optional<int> CountFillings(DigitGrid& grid, Yield& yield) {
+  if (!yield.KeepGoing()) return std::nullopt;
+  int open = -1;
+  CandidateMask free = 0;
+  for (int cell = 0; cell < kCells; ++cell) {
+    if (grid[cell] != 0) continue;
+    const CandidateMask digits = FreeDigits(grid, cell);
+    if (open >= 0 && BitCount[digits] >= BitCount[free]) continue;
+    open = cell;
+    free = digits;
+  }
+  if (open < 0) return 1;
+  int count = 0;
+  for (int digit = 1; digit <= 9 && count < 2; ++digit) {
+    if (!HasDigit(free, digit)) continue;
+    grid[open] = static_cast<std::uint8_t>(digit);
+    const std::optional<int> more = CountFillings(grid, yield);
+    if (!more) return std::nullopt;
+    count += *more;
+  }
+  grid[open] = 0;
+  return count < 2 ? count : 2;
+}
+
+// Singles take for granted that a unit can have every digit, which givens that clash rule out.
+Uniqueness FindUniquenessAmongClashes(DigitGrid grid, Yield& yield) {
+  const std::optional<int> count = CountFillings(grid, yield);
+  if (!count) return Uniqueness::Stopped;
+  return *count == 2 ? Uniqueness::Several : Uniqueness::Unique;
+}
+
 // Whether a grid other than `solution` has the givens: it differs from it in some cell, so one cell after the
 // other is asked, with all before it known to be as they are.
 Uniqueness LookForAnother(const DigitGrid& solution, const DigitGrid& givens, Yield& yield) {
@@ -61,8 +105,7 @@ Uniqueness LookForAnother(const DigitGrid& solution, const DigitGrid& givens, Yi
 }  // namespace
 
 Uniqueness FindUniqueness(const DigitGrid& givens, Yield& yield) {
-  // With clashing givens a unit need not have every digit, which singles take for granted.
-  if (Clash(givens)) return PlainGenerator::HasUniqueSolution(givens, yield);
+  if (Clash(givens)) return FindUniquenessAmongClashes(givens, yield);
   if (!yield.KeepGoing()) return Uniqueness::Stopped;
   const ReferenceGrid pattern(kPatternGrid);
   Deviation first(pattern, givens);

@@ -8,7 +8,8 @@
 
 namespace kestrel {
 
-// As PlainGenerator::HasUniqueSolution, for every grid. Asks `yield` at every step of its searches.
+// Several when the empty cells can be filled in two ways without a clash that was not there before; Unique
+// otherwise. For every grid of digits 0..9. Asks `yield` at every step of its searches.
 [[nodiscard]] Uniqueness FindUniqueness(const DigitGrid& givens, Yield& yield);
 
 }  // namespace kestrel

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "generator/generator.h"
-#include "generator/plain_generator.h"
 #include "generator/support.h"
+#include "support/plain_generator.h"
 #include "support/test_puzzles.h"
 
 namespace kestrel {

@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <array>
 
-#include "generator/plain_generator.h"
 #include "generator/random_order.h"
 #include "generator/support.h"
+#include "support/plain_generator.h"
 #include "support/test_puzzles.h"
 
 namespace kestrel {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The generator in its plain form: one backtracking engine for full grids and for uniqueness. The game uses
-// the fast form (generator.h), which must give the same answers; the tests hold them against each other.
+// The generator in its plain form: one backtracking engine for full grids and for uniqueness. The program has
+// a fast form (generator/generator.h), which must give the same answers; the tests hold it against this one.
 #pragma once
 
 #include <array>

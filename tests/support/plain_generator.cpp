@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "generator/plain_generator.h"
+#include "support/plain_generator.h"
 
 #include <cstdint>
 #include <utility>
