@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/main_extras.h"
 
+#include <algorithm>
+
 #include "core/text.h"
 #include "forms/texts.h"
 #include "solver/technique_table.h"
@@ -29,15 +31,6 @@ void SetTip(QWidget& widget, const std::string& tip) {
   widget.setAccessibleDescription(text);
 }
 
-// The tooltip that a control has by its design.
-std::string OwnTip(const MainWindow& main, ControlId wanted) {
-  std::string tip;
-  EachControl(main, [&](ControlId id, const auto& control) {
-    if (id == wanted) tip = control.tooltip;
-  });
-  return tip;
-}
-
 }  // namespace
 
 MainExtras::MainExtras(Mirror& mirror, const MainWindow& main, QWidget& window, Surroundings surroundings)
@@ -48,6 +41,10 @@ MainExtras::MainExtras(Mirror& mirror, const MainWindow& main, QWidget& window, 
     list_[static_cast<std::size_t>(i)] = label;
     SetTip(*label, StateTip(main_, {}, {"LabelCount", i}));
   }
+  EachControl(main_, [&](ControlId id, const auto& control) {
+    if (std::ranges::find(kTipped, id) == std::end(kTipped)) return;
+    tipped_.push_back({id, mirror_.WidgetOf(FormId::Main, id), control.tooltip});
+  });
   clock_ = dynamic_cast<TextLabel*>(mirror_.WidgetOf(FormId::Main, {"LabelTijd"}));
   renewal_ = dynamic_cast<SlimProgress*>(mirror_.WidgetOf(FormId::Main, {"ProgressBar2"}));
   Sync();
@@ -102,10 +99,9 @@ void MainExtras::SyncGuide() {
 
 void MainExtras::SyncTips() {
   const TipState state = surroundings_.state();
-  for (const ControlId& id : kTipped) {
-    QWidget* widget = mirror_.WidgetOf(FormId::Main, id);
-    const std::string tip = StateTip(main_, state, id);
-    SetTip(*widget, tip.empty() ? OwnTip(main_, id) : tip);
+  for (const Tipped& each : tipped_) {
+    const std::string tip = StateTip(main_, state, each.id);
+    SetTip(*each.widget, tip.empty() ? each.own : tip);
   }
 }
 

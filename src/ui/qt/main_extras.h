@@ -5,6 +5,8 @@
 
 #include <array>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "core/technique.h"
 #include "forms/main_window.h"
@@ -50,6 +52,13 @@ class MainExtras {
   void SyncList();
   void SyncRenewal();
 
+  // A control with the tooltip of its design.
+  struct Tipped {
+    ControlId id;
+    QWidget* widget;
+    std::string own;
+  };
+
   const MainWindow& main_;
   Mirror& mirror_;
   Surroundings surroundings_;
@@ -59,6 +68,7 @@ class MainExtras {
   TextLabel* clock_ = nullptr;
   SlimProgress* renewal_ = nullptr;
   std::array<TextLabel*, 2 * kTechniques> list_{};  // the technique list: names, then counts
+  std::vector<Tipped> tipped_;
   Guide shown_;
 };
 

@@ -93,14 +93,19 @@ void ViewMenu::FillMenu() {
 }
 
 void ViewMenu::AddSizes() {
+  const int now = ViewChoices::Size();
+  // At either end there is no next one.
+  const int larger = NextWindowSize(now, 1) == now ? kNoSize : NextWindowSize(now, 1);
+  const int smaller = NextWindowSize(now, -1) == now ? kNoSize : NextWindowSize(now, -1);
   auto* group = new QActionGroup(&menu_);
   for (const int size : kWindowSizes) {
-    QString text = QStringLiteral("%1 %").arg(size);
-    if (size == kDesignSize) text += QStringLiteral("\tCtrl+0");
-    if (size == NextWindowSize(ViewChoices::Size(), 1)) text += QStringLiteral("\tCtrl++");
-    if (size == NextWindowSize(ViewChoices::Size(), -1)) text += QStringLiteral("\tCtrl+-");
-    group->addAction(AddChoice(text, size == ViewChoices::Size(), ViewChoices::Fits(size),
-                               [this, size] { choices_.SetSize(size); }));
+    QStringList keys;
+    if (size == kDesignSize) keys << QStringLiteral("Ctrl+0");
+    if (size == larger) keys << QStringLiteral("Ctrl++");
+    if (size == smaller) keys << QStringLiteral("Ctrl+-");
+    const QString text = QStringLiteral("%1 %\t").arg(size) + keys.join(QStringLiteral(", "));
+    group->addAction(
+        AddChoice(text, size == now, ViewChoices::Fits(size), [this, size] { choices_.SetSize(size); }));
   }
 }
 
