@@ -5,7 +5,7 @@ set -eu
 cd "$(dirname "$0")"
 mkdir -p build
 . tools/setup.sh
-install $build_packages $test_packages || true
+install_with_window $build_packages $test_packages
 # shellcheck disable=SC2086  # options, meant to be split
 configure -DKESTREL_TESTS=ON ${KESTREL_CMAKE_OPTIONS:-}
 cmake --build build/release

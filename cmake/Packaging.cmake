@@ -1,13 +1,16 @@
 # SPDX-License-Identifier: MIT
-# What is installed where, and the Debian package.
+# What is installed where. The Debian package is made from debian/.
 set(kestrel_id example.kestrel_sudoku.KestrelSudoku)
 set(kestrel_share ${CMAKE_INSTALL_DATADIR}/kestrel-sudoku)
 
-foreach(program kestrel-sudoku kestrel-sudoku-cli kestrel-sudoku-script)
-  if(TARGET ${program})
-    install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-  endif()
+# A folder beside that of the other programs, so that the way from each to the data is the same.
+set(KESTREL_GAMES_DIR ${CMAKE_INSTALL_BINDIR} CACHE STRING "Where the window's program is installed, for example games")
+foreach(program kestrel-sudoku-cli kestrel-sudoku-script)
+  install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endforeach()
+if(TARGET kestrel-sudoku)
+  install(TARGETS kestrel-sudoku RUNTIME DESTINATION ${KESTREL_GAMES_DIR})
+endif()
 
 # Man pages and the list of changes are installed compressed, without a time stamp in them.
 find_program(KESTREL_GZIP gzip)
@@ -71,28 +74,3 @@ if(KESTREL_TESTS)
   add_test(NAME package.metainfo_tells_this_version
            COMMAND grep -m 1 -F "<release version=\"${PROJECT_VERSION}\"" ${packaging}/${kestrel_id}.metainfo.xml)
 endif()
-
-set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_NAME kestrel-sudoku)
-set(CPACK_PACKAGE_VENDOR "The Kestrel Sudoku authors")
-set(CPACK_PACKAGE_CONTACT "The Kestrel Sudoku authors <maintainers@kestrel-sudoku.example>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Sudoku with a logic solver that rates, hints and teaches")
-set(CPACK_PACKAGE_DESCRIPTION "500 puzzles in five levels, rated by a solver that knows 22 human solving
-techniques and never guesses. It gives hints on the player's own pencil marks
-and opens the help page of the technique; a level that is played out can be
-renewed. A command line program rates, solves step by step, makes and prints
-puzzles.")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_DEBIAN_PACKAGE_SECTION games)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# What the linker does not see. The plugins for X11, for no display, for sound and for printers are in the packages of
-# the Qt libraries themselves; xdg-open shows the web link.
-if(TARGET kestrel-sudoku)
-  set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation")
-  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils")
-endif()
-set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://kestrel-sudoku.example/")
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_PACKAGE_FILE_NAME kestrel-sudoku_${PROJECT_VERSION})
-include(CPack)
