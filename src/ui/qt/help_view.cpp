@@ -81,6 +81,7 @@ void HelpView::FollowLook() {
   font.size = 11.25;
   setFont(ToQFont(font, TheLook().zoom));
   pictures_->SetZoom(TheLook().zoom);
+  FitSides();
   if (!page_.isEmpty()) Fit();
 }
 
@@ -154,9 +155,12 @@ void HelpView::Renew() {
 }
 
 // The text stands in the middle, in lines of a readable length.
-void HelpView::Fit() {
+void HelpView::FitSides() {
   const int side = std::max(0, (width() - static_cast<int>(kTextWidth * TheLook().zoom)) / 2);
   setViewportMargins(side, 0, side, 0);
+}
+
+void HelpView::Fit() {
   FitPictures();
   find_->Fit();
   if (IsNarrow() != narrow_) {
@@ -167,6 +171,7 @@ void HelpView::Fit() {
 }
 
 void HelpView::resizeEvent(QResizeEvent* event) {
+  FitSides();  // before the text is laid out between them
   QTextBrowser::resizeEvent(event);
   Fit();
 }

@@ -41,6 +41,7 @@ class HelpView final : public QTextBrowser {
   void Renew();
   // Follows the view's size, or the look's.
   void Fit();
+  void FitSides();
   void FitPictures();
 
   QString folder_;
