@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What grids and puzzles are like, how the engine chooses, what a stop leaves.
+// What grids and puzzles are like, what a stop leaves.
 #include "generator/generator.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,6 @@
 
 #include "generator/random_order.h"
 #include "generator/support.h"
-#include "support/plain_generator.h"
 #include "support/test_puzzles.h"
 
 namespace kestrel {
@@ -51,49 +50,6 @@ TEST(Generator, ListsTakeTheirDrawsInPairs) {
   EXPECT_NE(pairs, CellsInOrder());
 }
 
-// By hand, on an empty grid with the cells listed in order: nine digits everywhere, so the cell highest in
-// the list comes first; then always the highest cell of those that see the most different digits. Ascending
-// digits.
-TEST(BacktrackEngine, ChoosesFewestDigitsAndHighestPosition) {
-  BacktrackEngine engine;
-  engine.Start(CellsInOrder(), kCells);
-  DigitGrid expected{};
-  const std::array<std::array<int, 2>, 12> steps = {{{80, 1},
-                                                     {79, 2},
-                                                     {78, 3},
-                                                     {77, 4},
-                                                     {76, 5},
-                                                     {75, 6},
-                                                     {74, 7},
-                                                     {73, 8},
-                                                     {72, 9},
-                                                     {71, 4},
-                                                     {70, 5},
-                                                     {69, 6}}};
-  for (const auto& [cell, digit] : steps) {
-    engine.Step();
-    expected[cell] = static_cast<std::uint8_t>(digit);
-    ASSERT_EQ(TextOf(engine.Digits()), TextOf(expected));
-  }
-}
-
-// Two open cells that can only have the same digit: the first placement is undone, its cell runs out.
-TEST(BacktrackEngine, BacktracksWhenACellIsLeftWithoutADigit) {
-  BacktrackEngine engine;
-  for (int i = 0; i < 7; ++i) engine.Give(i, i + 1);
-  engine.Give(25, 9);  // so that neither of the last two cells of row 0 can have 9
-  CellList open{};
-  open[0] = 7;
-  open[1] = 8;
-  engine.Start(open, 2);
-  engine.Step();
-  EXPECT_EQ(engine.Digits()[8], 8);
-  EXPECT_FALSE(engine.NothingLeft());
-  engine.Step();
-  EXPECT_EQ(engine.Digits(), DigitGrid{});
-  EXPECT_TRUE(engine.NothingLeft());
-}
-
 TEST(Generator, PuzzlesAreSymmetricUniqueAndMinimalByPairs) {
   FixedSeeds seeds(42);
   Generator generator(seeds);
@@ -119,35 +75,10 @@ TEST(Generator, PuzzlesAreSymmetricUniqueAndMinimalByPairs) {
   }
 }
 
-// Two rows of a band and two columns with the same two digits crosswise: all four cells must not be empty.
-TEST(Generator, DeadlyPatternHasTwoSolutions) {
-  FixedSeeds seeds(3);
-  Generator generator(seeds);
-  NeverStop yield;
-  int found = 0;
-  while (found < 10) {
-    ASSERT_EQ(generator.MakeFullGrid(yield), Making::Made);
-    DigitGrid grid = generator.SolutionGrid;
-    EXPECT_EQ(Generator::HasUniqueSolution(grid, yield), Uniqueness::Unique);
-    for (int a = 0; a < 9; ++a) {
-      for (int b = a + 1; b < 9; ++b) {
-        if (grid[a] != grid[9 + b] || grid[b] != grid[9 + a]) continue;
-        ++found;
-        grid[a] = grid[b] = grid[9 + a] = 0;
-        EXPECT_EQ(Generator::HasUniqueSolution(grid, yield), Uniqueness::Unique);
-        grid[9 + b] = 0;
-        EXPECT_EQ(Generator::HasUniqueSolution(grid, yield), Uniqueness::Several);
-        grid = generator.SolutionGrid;
-      }
-    }
-  }
-}
-
 // Stopped at the first, second, third ... question: nothing has changed, and no answer is made up.
-template <class AnyGenerator>
-void ExpectStopsLeaveNothing() {
+TEST(Generator, StopsLeaveNothing) {
   FixedSeeds seeds(6);
-  AnyGenerator generator(seeds);
+  Generator generator(seeds);
   NeverStop yield;
   ASSERT_EQ(generator.MakeFullGrid(yield), Making::Made);
   ASSERT_EQ(generator.MakePuzzle(yield), Making::Made);
@@ -164,15 +95,10 @@ void ExpectStopsLeaveNothing() {
     }
     EXPECT_GT(n, 5);
   };
-  until_done([&](Yield& stop) { return AnyGenerator::HasUniqueSolution(givens, stop); }, Uniqueness::Stopped);
+  until_done([&](Yield& stop) { return Generator::HasUniqueSolution(givens, stop); }, Uniqueness::Stopped);
   until_done([&](Yield& stop) { return generator.MakePuzzle(stop); }, Making::Stopped);
   generator.Givens = givens;
   until_done([&](Yield& stop) { return generator.MakeFullGrid(stop); }, Making::Stopped);
-}
-
-TEST(Generator, StopsLeaveNothing) {
-  ExpectStopsLeaveNothing<Generator>();
-  ExpectStopsLeaveNothing<PlainGenerator>();
 }
 
 }  // namespace

@@ -67,13 +67,6 @@ TEST(SolverState, PlacesAndRemovesOnlyWhatItSays) {
   EXPECT_TRUE(state.Solved());
 }
 
-TEST(TechniqueTable, TranslatesBetweenCountersAndSlots) {
-  constexpr std::array<int, kTechniques> kExpected{0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10,
-                                                   11, 14, 15, 12, 13, 16, 17, 18, 19, 21, 20};
-  EXPECT_EQ(kCounterOfSlot, kExpected);
-  for (int slot = 0; slot < kTechniques; ++slot) EXPECT_EQ(kSlotOfCounter[kExpected[slot]], slot);
-}
-
 TEST(TechniqueTable, ScoresWithTheTechniquesOfTheLevelOnly) {
   TechniqueCounters counters;
   counters.fill(1);

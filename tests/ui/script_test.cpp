@@ -20,9 +20,6 @@ TEST(ScriptCommandLine, IsTakenApart) {
     EXPECT_EQ(said, error);
     return command.value_or(ScriptCommand());
   };
-  const ScriptCommand plain = parse({"--home", "/h/"}, "");
-  EXPECT_EQ(plain.options.home + plain.options.program + plain.options.settings, "/h/data/h/settings.ini");
-  EXPECT_TRUE(plain.options.sound && plain.options.printer && plain.options.browser);
   const ScriptCommand full = parse({"--no-sound", "[x,y]", "--time=23:59:50", "--home=/h", "--seed",
                                     "18446744073709551615", "--no-printer", "--no-browser"},
                                    "");
