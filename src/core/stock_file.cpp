@@ -126,6 +126,18 @@ void CopyStockIfMissing(Files& files, std::string_view program_folder, std::stri
   (void)files.Copy(StockPath(program_folder), stock);
 }
 
+void KeepOlderStock(Files& files, std::string_view data_folder) {
+  const std::string path = StockPath(data_folder);
+  Bytes bytes;
+  if (files.Length(path) != kStockBytes || !files.Read(path, kStockBytes, bytes)) return;
+  const auto stock = std::make_unique<StockTable>();
+  DecodeStock(bytes, true, *stock);
+  bool whole = bytes.size() == kStockBytes;
+  EachRecord(
+      [&](int level, int number) { whole = whole && CheckRecord((*stock)(level, number), level).empty(); });
+  if (whole) (void)files.Replace(path + std::string(kOlderStockEnding), bytes);
+}
+
 FileResult ReadStock(Files& files, std::string_view data_folder, StockTable& table,
                      std::int16_t& stock_status, KnownStock& known) {
   FileResult result = ReadStockFile(files, StockPath(data_folder), table);

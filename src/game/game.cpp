@@ -45,12 +45,21 @@ void Game::LoadStock() {
   Files& files = session_.ports.files;
   Stockroom& room = session_.stockroom;
   CopyStockIfMissing(files, session_.ProgramFolder, room.DataFolder);
-  if (ReadStock(files, room.DataFolder, *room.stock, room.StockStatus, *room.known)) return;
+  if (ReadStock(files, room.DataFolder, *room.stock, room.StockStatus, *room.known)) {
+    KeepOlderStock(files, room.DataFolder);
+    return;
+  }
   const auto tell = [this](std::string_view title, std::string_view text, MessageIcon icon) {
     return session_.asker.Message({std::string(title), std::string(text), icon, MessageButtons::Ok});
   };
   if (tell(texts::kFileError, texts::kReadError, MessageIcon::Exclamation) == Answer::Ended) return;
   if (tell(texts::kCriticalError, texts::kCannotProceed, MessageIcon::Critical) == Answer::Ended) return;
+  const std::string stock = room.DataFolder + std::string(kStockFileName);
+  const std::string older = stock + std::string(kOlderStockEnding);
+  if (files.Exists(older) &&
+      tell(texts::kCriticalError, texts::OlderStock(older), MessageIcon::Information) == Answer::Ended) {
+    return;
+  }
   session_.ending.Set(EndReason::Fatal);
 }
 

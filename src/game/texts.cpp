@@ -8,6 +8,14 @@
 
 namespace kestrel::texts {
 
+std::string OlderStock(std::string_view path) {
+  return "A copy of your puzzles and best times from the last start of the game exists: '" +
+         std::string(path) +
+         "'. To go on with it, put it in the place of 'sudstock.kpz'. A stock that can be read but is "
+         "damaged is "
+         "made whole by 'kestrel-sudoku-cli stock repair', which uses this copy too.";
+}
+
 std::string WrongDigit(std::string_view cell_name) {
   return "The solution of cell " + std::string(cell_name) + " is incorrect!";
 }

@@ -211,6 +211,38 @@ TEST_F(StockTest, CopiesOfTheProgramKeepEachOthersBestTimesAndLevels) {
   }
 }
 
+// The older copy is the last stock that was whole, and is itself always whole.
+TEST_F(StockTest, OnlyAWholeStockBecomesTheOlderCopy) {
+  const auto save = [&](int variant) {
+    for (int level = 1; level <= kLevels; ++level) {
+      for (int number = 1; number <= kPuzzlesPerLevel; ++number)
+        (*table_)(level, number) = Sound(level, variant);
+    }
+    EXPECT_TRUE(WriteStockFile(files_, folder_.Written("sudstock.kpz"), *table_));
+  };
+  save(1);
+  KeepOlderStock(files_, folder_.Written());
+  const std::string first = folder_.Get("sudstock.kpz");
+  EXPECT_EQ(folder_.Get("sudstock.kpz.older"), first);
+  for (std::string damaged :
+       {first + "x", first.substr(1), [&] { return std::string(first).replace(22200, 1, "x"); }()}) {
+    folder_.Put("sudstock.kpz", damaged);
+    KeepOlderStock(files_, folder_.Written());
+    EXPECT_EQ(folder_.Get("sudstock.kpz.older"), first);
+  }
+  save(2);
+  bool through = false;
+  for (int n = 1; !through; ++n) {
+    folder_.Put("sudstock.kpz.older", first);
+    calls_.FailAt(n);
+    KeepOlderStock(files_, folder_.Written());
+    through = calls_.Count() < n;
+    calls_.FailAt(0);
+    const std::string older = folder_.Get("sudstock.kpz.older");
+    EXPECT_TRUE(older == folder_.Get("sudstock.kpz") || (older == first && !through)) << n;
+  }
+}
+
 TEST_F(StockTest, TheProgramsCopyIsTakenOnlyWhenThereIsNone) {
   TempFolder program;
   CopyStockIfMissing(files_, program.Written(), folder_.Written());
