@@ -33,7 +33,9 @@ class DeviceScope {
       : painter_(painter), screen_(ScreenRatio(painter)), grid_(screen_.Ratio() * TheLook().zoom) {
     painter_.save();
     UseDevicePixels(painter_);
-    if (widget != nullptr) painter_.setFont(Scaled(widget->font()));
+    if (widget == nullptr) return;
+    painter_.setFont(Scaled(widget->font()));
+    corner_ = widget->mapTo(widget->window(), QPoint(0, 0));
   }
   ~DeviceScope() { painter_.restore(); }
   DeviceScope(const DeviceScope&) = delete;
@@ -42,10 +44,14 @@ class DeviceScope {
   // For lengths of the design, the present size included.
   [[nodiscard]] const PixelGrid& Grid() const { return grid_; }
   // A place in the widget's own pixels, which know the present size already.
+  // Edges are rounded where they are in the window, as the widget's own are.
   [[nodiscard]] QRect Map(const QRect& logical) const {
     constexpr double kTwips = kTwipsPerPixel;
-    return screen_.Rect(logical.x() * kTwips, logical.y() * kTwips, logical.width() * kTwips,
-                        logical.height() * kTwips);
+    const QRect in_window = logical.translated(corner_);
+    return screen_
+        .Rect(in_window.x() * kTwips, in_window.y() * kTwips, in_window.width() * kTwips,
+              in_window.height() * kTwips)
+        .translated(-screen_.At(corner_.x() * kTwips), -screen_.At(corner_.y() * kTwips));
   }
 
  private:
@@ -57,6 +63,7 @@ class DeviceScope {
   }
 
   QPainter& painter_;
+  QPoint corner_;  // of the widget in its window
   PixelGrid screen_;
   PixelGrid grid_;
 };
