@@ -2,6 +2,7 @@
 // Numbers, grids and names as text.
 #include "core/text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -40,17 +41,6 @@ double RoundHalfToEven(double number) {
   return std::fmod(below, 2) == 0 ? below : below + 1;
 }
 
-// The length of the character at the start of `text` (not empty): 1 to 4 bytes.
-std::size_t CharacterBytes(std::string_view text) {
-  const auto lead = static_cast<unsigned char>(text[0]);
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
-  if (length > text.size()) return 1;
-  for (std::size_t i = 1; i < length; ++i) {
-    if ((static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U) return 1;
-  }
-  return length;
-}
-
 }  // namespace
 
 std::string TwoDigits(std::int64_t value) {
@@ -67,10 +57,7 @@ std::string GridText(const DigitGrid& grid) {
 
 std::optional<int> WholeNumber(std::string_view text) {
   text = WithoutPlus(WithoutBlanks(text));
-  std::int16_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return number;
+  return ParseNumber<std::int16_t>(text);
 }
 
 int LeadingNumber(std::string_view text) {
@@ -85,9 +72,24 @@ int LeadingNumber(std::string_view text) {
   return FitsInt16(number) ? static_cast<int>(number) : 0;
 }
 
+std::size_t CharacterBytes(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned lead = byte(0);
+  if (lead < 0x80) return 1;
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  if (lead < 0xC2 || lead > 0xF4 || text.size() < length) return 0;
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((byte(i) & 0xC0U) != 0x80U) return 0;
+  }
+  const unsigned second = byte(1);
+  const bool outside = (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
+                       (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);
+  return outside ? 0 : length;
+}
+
 std::size_t CharacterCount(std::string_view text) {
   std::size_t count = 0;
-  for (; !text.empty(); ++count) text.remove_prefix(CharacterBytes(text));
+  for (; !text.empty(); ++count) text.remove_prefix(std::max<std::size_t>(CharacterBytes(text), 1));
   return count;
 }
 
@@ -95,7 +97,7 @@ std::string PadName(std::string_view name) {
   std::size_t bytes = 0;
   std::size_t characters = 0;
   while (bytes < name.size() && characters < kNameCharacters) {
-    bytes += CharacterBytes(name.substr(bytes));
+    bytes += std::max<std::size_t>(CharacterBytes(name.substr(bytes)), 1);
     ++characters;
   }
   return std::string(name.substr(0, bytes)) + std::string(kNameCharacters - characters, ' ');

@@ -3,10 +3,11 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <ostream>
 #include <utility>
+
+#include "core/text.h"
 
 namespace kestrel {
 namespace {
@@ -50,13 +51,6 @@ std::string ErrorOfJoined(const CommandSpec& spec, const std::string& word) {
 }
 
 }  // namespace
-
-std::optional<std::uint64_t> ParseNumber(std::string_view text) {
-  std::uint64_t value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return value;
-}
 
 Arguments::Arguments(const CommandSpec& spec, std::span<const std::string> words) {
   for (auto word = words.begin(); word != words.end() && *word != "--"; ++word) {
@@ -118,7 +112,7 @@ std::uint64_t Arguments::Number(std::string_view option, std::uint64_t otherwise
                                 std::uint64_t highest) {
   const auto found = options_.find(option);
   if (found == options_.end()) return otherwise;
-  const std::optional<std::uint64_t> value = ParseNumber(found->second);
+  const std::optional<std::uint64_t> value = ParseNumber<std::uint64_t>(found->second);
   if (value && *value >= lowest && *value <= highest) return *value;
   FailValue(option, "a whole number from " + std::to_string(lowest) + " to " + std::to_string(highest));
   return otherwise;

@@ -65,9 +65,6 @@ class Arguments {
   std::string error_;
 };
 
-// Reads a decimal number without sign or blanks; nothing when it is none or does not fit.
-std::optional<std::uint64_t> ParseNumber(std::string_view text);
-
 // The help of a program, or of one of its commands.
 void PrintHelp(std::ostream& out, std::string_view program, const CommandSpec& spec);
 

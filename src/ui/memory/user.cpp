@@ -38,8 +38,8 @@ bool Printable(char c) {
 
 void TypeKeys(TextBox& box, std::string_view text) {
   for (std::size_t i = 0; i < text.size();) {
-    std::size_t bytes = 1;  // a key is a character, not a byte
-    while (i + bytes < text.size() && (static_cast<unsigned char>(text[i + bytes]) & 0xC0U) == 0x80U) ++bytes;
+    // A key is a character, not a byte.
+    const std::size_t bytes = std::max<std::size_t>(CharacterBytes(text.substr(i)), 1);
     const std::string_view key = text.substr(i, bytes);
     i += bytes;
     const bool digit = key[0] >= '0' && key[0] <= '9';

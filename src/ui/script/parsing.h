@@ -2,12 +2,12 @@
 // Taking script lines and command line values apart.
 #pragma once
 
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/text.h"
 #include "forms/control.h"
 
 namespace kestrel {
@@ -21,15 +21,6 @@ CommandLine SplitCommand(std::string_view line);
 
 // The words of a text, any number of blanks between them.
 std::vector<std::string_view> Words(std::string_view text);
-
-// A whole number with nothing around it; nothing for any other text.
-template <class Number>
-std::optional<Number> ParseNumber(std::string_view text) {
-  Number number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return number;
-}
 
 // "HH:MM:SS" as the second of the day.
 std::optional<int> ParseTime(std::string_view text);
