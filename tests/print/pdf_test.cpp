@@ -25,6 +25,14 @@ std::string OutputOf(const std::string& command) {
   return output;
 }
 
+class PrintFiles : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (!MakeFilePage()) GTEST_SKIP() << "no cairo";
+  }
+  TempFolder folder_;
+};
+
 class PrintedPdf : public testing::TestWithParam<int> {
  protected:
   void SetUp() override {
@@ -112,6 +120,80 @@ TEST_P(PrintedPdf, LooksAsLaidOut) {
     const auto line_above = ink(x + 20, y - 4, 1, 8);
     EXPECT_TRUE(cell / 9 % 3 == 0 ? line_above > 3 && line_above < 7 : line_above > 0 && line_above < 3);
   }
+}
+
+// The place of a text on a page in points, its left top corner.
+std::pair<double, double> PlaceOf(const std::string& file, int page, const std::string& text) {
+  const std::string at = std::to_string(page);
+  const std::string words = OutputOf("pdftotext -f " + at + " -l " + at + " -bbox " + file + " - 2>&1");
+  const std::regex word(R"re(xMin="([^"]*)" yMin="([^"]*)"[^>]*>)re" + text + "</word>");
+  std::smatch found;
+  if (!std::regex_search(words, found, word)) return {-1, -1};
+  return {std::stod(found[1]), std::stod(found[2])};
+}
+
+TEST_P(PrintedPdf, CarriesItsFontsOnEveryPaper) {
+  for (const std::string paper : {"a4", "letter"}) {
+    ASSERT_EQ(Print({"--per-page", std::to_string(GetParam()), "--pages=2", "--paper", paper}), 0);
+    const std::vector<std::string> fonts = Lines(OutputOf("pdffonts " + file_));
+    ASSERT_GE(fonts.size(), 5U);
+    for (std::size_t i = 2; i < fonts.size(); ++i) {
+      EXPECT_TRUE(std::regex_search(fonts[i], std::regex("Liberation.* yes yes yes "))) << fonts[i];
+    }
+    const std::string info = OutputOf("pdfinfo " + file_);
+    EXPECT_NE(info.find(paper == "a4" ? "595.276 x 841.89 pts" : "612 x 792 pts"), std::string::npos) << info;
+    // The same sheet, on Letter 0.943 as large and in the middle.
+    const auto [x, y] = PlaceOf(file_, 2, "Kestrel");
+    EXPECT_NEAR(x, paper == "a4" ? 25 / 25.4 * 72 : (612 - 595.276 * 0.9407) / 2 + 70.87 * 0.9407, 1);
+    EXPECT_NEAR(y, paper == "a4" ? 70.87 : 70.87 * 0.9407, 1);
+  }
+}
+
+TEST_P(PrintedPdf, GathersSolutionsAtTheEnd) {
+  const std::string per_page = std::to_string(GetParam());
+  ASSERT_EQ(Print({"--per-page", per_page, "--pages=4", "--booklet"}), 0);
+  const int solutions = (4 * GetParam() + 11) / 12;
+  EXPECT_NE(
+      OutputOf("pdfinfo " + file_).find("Pages: " + std::string(10, ' ') + std::to_string(4 + solutions)),
+      std::string::npos);
+  const std::string puzzles = OutputOf("pdftotext -l 4 " + file_ + " -");
+  EXPECT_EQ(puzzles.find("Solutions"), std::string::npos);
+  // Upside down: the title is at the bottom of the sheet, on the right.
+  EXPECT_EQ(PlaceOf(file_, 1, "Kestrel").second < 100, true);
+  EXPECT_GT(PlaceOf(file_, 5, "Solutions").second, 740);
+  ASSERT_EQ(Print({"--large", "--pages=3"}), 0);
+  EXPECT_LT(PlaceOf(file_, 4, "Solutions").second, 100);
+}
+
+TEST_F(PrintFiles, AnyPuzzlesInEveryFormat) {
+  folder_.Put("puzzles",
+              RunWith({"generate", "--count=5", "--seed=1"}).out + std::string(81, '.') + "\nbad\n");
+  const auto print = [&](const std::string& output, std::vector<std::string> words = {}) {
+    words.insert(words.begin(), {"print", "--per-page=4", "--output", folder_.Path(output)});
+    words.push_back(folder_.Path("puzzles"));
+    return RunWith(words);
+  };
+  const CliResult printed = print("pages.png");
+  EXPECT_EQ(printed.status, 1);
+  EXPECT_NE(printed.err.find("puzzles:7: "), std::string::npos) << printed.err;
+  EXPECT_TRUE(folder_.Get("pages-1.png").starts_with("\x89PNG") && folder_.Get("pages-2.png").size() > 1000);
+  print("one.svg", {"--pages=1", "--from=5"});
+  EXPECT_NE(folder_.Get("one.svg").find("<svg"), std::string::npos);
+  EXPECT_TRUE(RunWith({"print", "--output=-", folder_.Path("puzzles")}).out.starts_with("%PDF"));
+  // Neither what is read nor a stock is written over, under whatever name.
+  const Bytes bytes = EncodeStock(StockToPrint());
+  const std::string stock(bytes.begin(), bytes.end());
+  folder_.Put("stock", stock);
+  folder_.Put("copy", stock);
+  std::filesystem::create_symlink(folder_.Path("stock"), folder_.Path("link"));
+  std::filesystem::create_hard_link(folder_.Path("stock"), folder_.Path("hard"));
+  for (const char* name : {"stock", "copy", "link", "hard"}) {
+    EXPECT_EQ(RunWith({"print", "--stock", folder_.Path("stock"), "--output", folder_.Path(name)}).status, 2);
+    EXPECT_EQ(folder_.Get(name), stock);
+  }
+  const std::string puzzles = folder_.Get("puzzles");
+  EXPECT_EQ(print("puzzles").status, 2);
+  EXPECT_EQ(folder_.Get("puzzles"), puzzles);
 }
 
 }  // namespace
