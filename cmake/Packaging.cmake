@@ -40,6 +40,12 @@ install(FILES data/sudstock.kpz DESTINATION ${kestrel_share})
 # The icons and the logo travel inside the program; examples are what the help pages are made from.
 install(DIRECTORY data/ DESTINATION ${kestrel_share} FILES_MATCHING PATTERN "*.wav" PATTERN "*.GIF"
         PATTERN "*.html" PATTERN "*.css" PATTERN "*.png" PATTERN "icons" EXCLUDE PATTERN "examples" EXCLUDE)
+set(kestrel_completions packaging/completions)
+install(FILES ${kestrel_completions}/kestrel-sudoku-cli.bash RENAME kestrel-sudoku-cli
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+install(FILES ${kestrel_completions}/_kestrel-sudoku-cli DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+install(FILES ${kestrel_completions}/kestrel-sudoku-cli.fish
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
 
 if(TARGET kestrel-sudoku)
@@ -70,6 +76,11 @@ if(KESTREL_TESTS)
   if(KESTREL_MANDOC)
     file(GLOB pages ${PROJECT_SOURCE_DIR}/docs/man/*)
     add_test(NAME package.man_pages COMMAND ${KESTREL_MANDOC} -T lint -W warning ${pages})
+  endif()
+  find_program(KESTREL_PYTHON python3)
+  if(KESTREL_PYTHON)
+    add_test(NAME package.completions_fit COMMAND ${KESTREL_PYTHON} ${PROJECT_SOURCE_DIR}/tools/make_completions.py --check
+                                                  $<TARGET_FILE:kestrel-sudoku-cli>)
   endif()
   add_test(NAME package.metainfo_tells_this_version
            COMMAND grep -m 1 -F "<release version=\"${PROJECT_VERSION}\"" ${packaging}/${kestrel_id}.metainfo.xml)

@@ -14,7 +14,7 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-const std::array<Words, 11> kCommands{{{"rate", "--jobs", "1"},
+const std::array<Words, 12> kCommands{{{"rate", "--jobs", "1"},
                                        {"rate", "--jobs", "1", "--format", "json", "--solutions"},
                                        {"solve", "--jobs", "1"},
                                        {"solve", "--jobs", "1", "--steps"},
@@ -24,7 +24,8 @@ const std::array<Words, 11> kCommands{{{"rate", "--jobs", "1"},
                                        {"stock", "list", "--format", "json", "puzzles"},
                                        {"stock", "export", "--level", "1", "puzzles"},
                                        {"print", "--stock", "puzzles", "--per-page", "4", "--output", "pdf"},
-                                       {"stock", "list"}}};
+                                       {"stock", "list"},
+                                       {"convert", "--jobs", "1", "--to", "candidates"}}};
 
 void TestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return;

@@ -10,7 +10,7 @@ allowed() {
   logic="core forms solver hint generator media"
   case $1 in
     core) ;;
-    host | forms | solver) echo core ;;
+    host | forms | formats | solver) echo core ;;
     hint | generator | explain) echo core solver ;;
     media) echo core forms ;;
     view) echo core forms solver ;;
@@ -18,7 +18,7 @@ allowed() {
     players) echo core forms media ;;
     print) echo core forms solver ;;
     game) echo "$logic" explain players print ;;
-    cli) echo core host forms solver generator explain print stock ;;
+    cli) echo core host formats forms solver generator explain print stock ;;
     ui/memory) echo "$logic" players print game ;;
     ui/qt) echo "$logic" host explain view players print game ;;
     ui/script) echo "$logic" host players print game ui/memory ;;

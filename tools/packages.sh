@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Debian packages, by what they are needed for. Sourced by tools/setup.sh; nothing else lists packages.
-build_packages="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libcairo2-dev fonts-liberation"
+build_packages="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libpugixml-dev libcairo2-dev fonts-liberation"
 window_packages="qt6-base-dev libcups2-dev qt6-multimedia-dev qt6-svg-dev"
 wayland_packages="qt6-wayland"
 test_packages="libgtest-dev poppler-utils appstream desktop-file-utils mandoc tidy"

@@ -36,6 +36,10 @@ int PlayScript(const ScriptCommand& command) {
   }
   SystemCalls calls;
   HostFiles files(calls);
+  for (const std::string* name :
+       {&command.options.home, &command.options.settings, &command.options.program}) {
+    files.KeepName(*name);
+  }
   NeverStop yield;
   std::istream& script = file.is_open() ? file : std::cin;
   return ScriptRunner(command.options, files, yield, script, std::cout, std::cerr).Run();

@@ -38,6 +38,7 @@ struct CliPorts {
 extern const CommandSpec kRateSpec;
 extern const CommandSpec kSolveSpec;
 extern const CommandSpec kExplainSpec;
+extern const CommandSpec kConvertSpec;
 extern const CommandSpec kGenerateSpec;
 extern const CommandSpec kPrintSpec;
 extern const CommandSpec kReportSpec;
@@ -53,6 +54,7 @@ extern const CommandSpec kStockExportSpec;
 ExitStatus RateCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus SolveCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus ExplainCommand(Arguments& arguments, CliPorts& ports);
+ExitStatus ConvertCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus GenerateCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus PrintCommand(Arguments& arguments, CliPorts& ports);
 ExitStatus ReportCommand(Arguments& arguments, CliPorts& ports);

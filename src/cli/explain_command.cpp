@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 // `explain`: a page that shows how a puzzle is solved, step by step in pictures.
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "cli/command.h"
+#include "cli/output_file.h"
 #include "cli/puzzle_reader.h"
+#include "cli/rating_text.h"
 #include "explain/walkthrough.h"
 
 namespace kestrel {
@@ -15,18 +18,6 @@ constexpr std::array<OptionSpec, 2> kExplainOptions{{
     {"output", "FILE", "the page to write (default: standard output)"},
     {"steps", "WHICH", "gathered (default): one picture for a run of singles; all: one for every step"},
 }};
-
-ExitStatus WritePage(const std::string& page, const std::string& path, CliPorts& ports) {
-  if (path.empty()) {
-    ports.out << page;
-    return ExitStatus::kGood;
-  }
-  const Bytes bytes(page.begin(), page.end());
-  const FileResult result = ports.files.Replace(path, bytes);
-  if (result) return ExitStatus::kGood;
-  PrintError(ports, path + ": " + result.Reason());
-  return ExitStatus::kFailure;
-}
 
 }  // namespace
 
@@ -45,7 +36,7 @@ const CommandSpec kExplainSpec{
 ExitStatus ExplainCommand(Arguments& arguments, CliPorts& ports) {
   constexpr std::array<std::string_view, 2> kWhich{"gathered", "all"};
   const Singles singles = arguments.OneOf("steps", kWhich) == 1 ? Singles::Each : Singles::Gathered;
-  const std::string output = arguments.Text("output", "");
+  const std::string output = arguments.Text("output", "-");
   if (!arguments.Error().empty()) return ExitStatus::kFailure;
   PuzzleReader reader(arguments.Operands(), ports.in);
   InputLine line;
@@ -59,7 +50,11 @@ ExitStatus ExplainCommand(Arguments& arguments, CliPorts& ports) {
     return line.line == 0 ? ExitStatus::kFailure : ExitStatus::kBadInput;
   }
   NeverStop yield;
-  return WritePage(WalkthroughPage(*ExplainPuzzle(line.givens, yield), singles), output, ports);
+  const std::optional<SolverState> start = StartOf(line);
+  const std::string page =
+      WalkthroughPage(*ExplainPuzzle(line.givens, yield, start ? &*start : nullptr), singles);
+  if (output != "-" && !MayWrite(output, arguments.Operands(), ports)) return ExitStatus::kFailure;
+  return WriteOutput(output, Bytes(page.begin(), page.end()), ports);
 }
 
 }  // namespace kestrel

@@ -55,14 +55,23 @@ void ReportBadLine(const InputLine& line, bool json, BundleResult& result) {
 
 ExitStatus RunOnPuzzles(const PuzzleRun& run, CliPorts& ports) {
   PuzzleReader reader(run.files, ports.in);
-  Progress progress(ports.err, ports.err_is_terminal, run.label, reader.TotalBytes());
+  const std::uint64_t total = reader.TotalBytes();
+  if (!run.shard.IsWhole() && total == 0) {
+    PrintError(ports, "'--shard' needs files, whose length is known beforehand");
+    return ExitStatus::kFailure;
+  }
+  Progress progress(ports.err, ports.err_is_terminal, run.label, total);
   ExitStatus status = ExitStatus::kGood;
   std::uint64_t puzzles = 0;
-  ports.out << run.header;
+  if (run.shard.number == 1) ports.out << run.header;
 
   const auto read = [&](Bundle& bundle) {
     InputLine line;
-    while (bundle.size() < kBundle && reader.Next(line)) bundle.push_back(std::move(line));
+    while (bundle.size() < kBundle && reader.Next(line)) {
+      if (!run.shard.IsWhole() && line.bytes <= run.shard.Begin(total)) continue;
+      if (!run.shard.IsWhole() && line.bytes > run.shard.End(total)) break;
+      bundle.push_back(std::move(line));
+    }
     return !bundle.empty();
   };
   const auto make_worker = [&] {
@@ -70,7 +79,7 @@ ExitStatus RunOnPuzzles(const PuzzleRun& run, CliPorts& ports) {
       BundleResult result;
       for (const InputLine& line : bundle) {
         if (line.error.empty()) {
-          write(line.givens, result.out);
+          write(line, result.out);
           ++result.puzzles;
         } else {
           ReportBadLine(line, run.json, result);
@@ -90,6 +99,7 @@ ExitStatus RunOnPuzzles(const PuzzleRun& run, CliPorts& ports) {
     return ports.out.good();
   };
   RunOrdered<Bundle>(run.jobs, read, make_worker, write);
+  if (run.shard.number == run.shard.of) ports.out << run.footer;
   return status;
 }
 

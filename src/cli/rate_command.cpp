@@ -16,9 +16,10 @@
 namespace kestrel {
 namespace {
 
-constexpr std::array<OptionSpec, 3> kRateOptions{{
+constexpr std::array<OptionSpec, 4> kRateOptions{{
     kFormatOption,
     {"solutions", "", "also count the solutions: 0, 1, or 2 for two and more"},
+    kShardOption,
     kJobsOption,
 }};
 
@@ -53,15 +54,16 @@ const CommandSpec kRateSpec{
     "[FILE...]",
     1 << 20,
     "Rate puzzles: level, score, and how often each technique was needed",
-    "Reads one puzzle a line: the first 81 characters, row by row, with 0 or . for an\n"
-    "empty cell; text after them is ignored, and so are blank lines and lines that\n"
-    "begin with #. Without FILE, or where FILE is -, standard input is read.\n\n"
+    "Reads puzzles in any format, mixed as they come: 81 cells on a line (0 . * _ or - for\n"
+    "an empty one), nine lines of nine, tables, .sdk, .sdm and .ss files, OpenSudoku XML,\n"
+    "JSON lines, technique lines and candidate grids. Lines that begin with # are passed\n"
+    "over. Without FILE, or where FILE is -, standard input is read.\n\n"
     "Writes a header line and one line a puzzle, tab separated: puzzle, level (1 to 5;\n"
     "6 when the 22 techniques are not enough), score (0 at level 6), the 22 counts,\n"
     "and the grid as far as it was solved.",
     kRateOptions,
     "rate puzzles.txt\n"
-    "rate --format json --solutions puzzles.txt"};
+    "rate --shard 2/8 puzzles.txt"};
 
 ExitStatus RateCommand(Arguments& arguments, CliPorts& ports) {
   PuzzleRun run;
@@ -69,16 +71,17 @@ ExitStatus RateCommand(Arguments& arguments, CliPorts& ports) {
   run.files = arguments.Operands();
   run.jobs = JobsOf(arguments);
   run.json = JsonOf(arguments);
+  run.shard = ShardOf(arguments);
   const bool solutions = arguments.Has("solutions");
   if (!arguments.Error().empty()) return ExitStatus::kFailure;
   if (!run.json) run.header = RateHeader(solutions);
   run.make_writer = [json = run.json, solutions] {
     const auto counter = solutions ? std::make_shared<SolutionCounter>() : nullptr;
-    return [=](const DigitGrid& givens, std::string& text) {
+    return [=](const InputLine& line, std::string& text) {
       NeverStop yield;
-      const Rating rating = SolveAndRate(givens, yield);
-      const int count = counter ? counter->Count(givens).count : -1;
-      text += json ? RateJson(givens, rating, count) : RateTsv(givens, rating, count);
+      const Rating rating = SolveAndRate(line.givens, yield);
+      const int count = counter ? counter->Count(line.givens).count : -1;
+      text += json ? RateJson(line.givens, rating, count) : RateTsv(line.givens, rating, count);
     };
   };
   return RunOnPuzzles(run, ports);

@@ -44,4 +44,9 @@ std::string RatingName(int level) {
   return level > kLevels ? "Beyond" : std::string(texts::kLevelNames[static_cast<std::size_t>(level - 1)]);
 }
 
+std::optional<SolverState> StartOf(const InputLine& line) {
+  if (!line.state) return std::nullopt;
+  return SolverState(line.state->digits, line.state->candidates);
+}
+
 }  // namespace kestrel

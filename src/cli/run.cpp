@@ -15,10 +15,11 @@ struct Command {
   ExitStatus (*run)(Arguments&, CliPorts&);
 };
 
-constexpr std::array<Command, 13> kCommands{{
+constexpr std::array<Command, 14> kCommands{{
     {&kRateSpec, RateCommand},
     {&kSolveSpec, SolveCommand},
     {&kExplainSpec, ExplainCommand},
+    {&kConvertSpec, ConvertCommand},
     {&kGenerateSpec, GenerateCommand},
     {&kPrintSpec, PrintCommand},
     {&kReportSpec, ReportCommand},

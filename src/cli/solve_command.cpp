@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // `solve`: the solved grid of puzzles, or every step on the way there.
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -129,11 +130,14 @@ std::string StepsText(const DigitGrid& givens, const Rating& rating, const StepW
          GridText(SolvedGrid(rating.state)) + "\n\n";
 }
 
-std::string SolveText(const DigitGrid& givens, Detail detail, bool json) {
+std::string SolveText(const InputLine& line, Detail detail, bool json) {
   StepWriter steps(detail, json);
   NeverStop yield;
   RateOptions options;
   if (detail != Detail::kGrid) options.observer = &steps;
+  const std::optional<SolverState> start = StartOf(line);
+  options.start = start ? &*start : nullptr;
+  const DigitGrid& givens = line.givens;
   const Rating rating = SolveAndRate(givens, yield, options);
   if (json) return SolveJson(givens, rating, detail, steps);
   if (detail == Detail::kSteps) return StepsText(givens, rating, steps);
@@ -148,7 +152,8 @@ const CommandSpec kSolveSpec{
     "[FILE...]",
     1 << 20,
     "Solve puzzles with the 22 techniques, without guessing",
-    "Reads puzzles as 'rate' does. Writes the grid of each, 81 digits with 0 for a cell\n"
+    "Reads puzzles as 'rate' does; where one says how far it has been solved, that is\n"
+    "where solving goes on. Writes the grid of each, 81 digits with 0 for a cell\n"
     "that the techniques leave open; with --steps every step in words: its number, the\n"
     "technique, the cells and digits of the pattern, and what is placed or removed.\n"
     "Rows are called A to H and J, columns 1 to 9: C7 is in the third row.\n"
@@ -172,7 +177,7 @@ ExitStatus SolveCommand(Arguments& arguments, CliPorts& ports) {
                         : arguments.Has("trace") ? Detail::kTrace
                                                  : Detail::kGrid;
   run.make_writer = [detail, json = run.json] {
-    return [=](const DigitGrid& givens, std::string& text) { text += SolveText(givens, detail, json); };
+    return [=](const InputLine& line, std::string& text) { text += SolveText(line, detail, json); };
   };
   return RunOnPuzzles(run, ports);
 }

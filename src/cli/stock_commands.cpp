@@ -12,6 +12,7 @@
 #include "cli/progress.h"
 #include "cli/rating_text.h"
 #include "cli/stock_path.h"
+#include "formats/puzzle_writer.h"
 #include "stock/stock_check.h"
 
 namespace kestrel {
@@ -21,7 +22,11 @@ constexpr OptionSpec kLevelOption{"level", "L", "only level L, 1 to 5"};
 constexpr std::array<OptionSpec, 2> kVerifyOptions{{kStockOption, kJobsOption}};
 constexpr std::array<OptionSpec, 3> kListOptions{{kLevelOption, kStockOption, kFormatOption}};
 constexpr std::array<OptionSpec, 3> kExportOptions{
-    {kLevelOption, kStockOption, {"format", "FORMAT", "lines (default) or json, one object a line"}}};
+    {kLevelOption,
+     kStockOption,
+     {"format", "FORMAT",
+      "lines (default), json, or line, grid, sdk, ss, opensudoku,\ncandidates or csv for the puzzles "
+      "alone"}}};
 
 // A grid of a record: '?' for what is no digit.
 std::string RecordGrid(const DigitGrid& grid) {
@@ -75,11 +80,11 @@ std::string ExportJson(int level, int number, const SudokuRecord& record) {
   return JsonText(object);
 }
 
-using RecordWriter = std::string (*)(int level, int number, const SudokuRecord& record);
+using RecordWriter = std::function<std::string(int level, int number, const SudokuRecord& record)>;
 
 // Writes the records of the stock that the arguments name, of one level or of all.
 ExitStatus WriteRecords(Arguments& arguments, CliPorts& ports, const std::string& header,
-                        RecordWriter writer) {
+                        const RecordWriter& writer, const std::string& footer = {}) {
   const int only = static_cast<int>(arguments.Number("level", 0, 1, kLevels));
   const std::string path = StockPath(arguments, ports);
   StockTable stock;
@@ -91,6 +96,7 @@ ExitStatus WriteRecords(Arguments& arguments, CliPorts& ports, const std::string
       if (only == 0 || level == only) ports.out << writer(level, number, stock(level, number));
     }
   }
+  ports.out << footer;
   return ExitStatus::kGood;
 }
 
@@ -163,9 +169,19 @@ ExitStatus StockListCommand(Arguments& arguments, CliPorts& ports) {
 }
 
 ExitStatus StockExportCommand(Arguments& arguments, CliPorts& ports) {
-  constexpr std::array<std::string_view, 2> kFormats{"lines", "json"};
-  const bool json = arguments.OneOf("format", kFormats) == 1;
-  return WriteRecords(arguments, ports, "", json ? ExportJson : ExportLine);
+  const std::string format = arguments.Text("format", "lines");
+  if (format == "lines") return WriteRecords(arguments, ports, "", ExportLine);
+  if (format == "json") return WriteRecords(arguments, ports, "", ExportJson);
+  const auto found = std::ranges::find(kPuzzleFormats, format);
+  if (found == kPuzzleFormats.end()) {
+    arguments.FailValue("format", "a format that '--help' names");
+    return ExitStatus::kFailure;
+  }
+  const auto to = static_cast<PuzzleFormat>(found - kPuzzleFormats.begin());
+  const auto writer = [to](int /*level*/, int /*number*/, const SudokuRecord& record) {
+    return PuzzleText(to, {record.GivenCells, std::nullopt});
+  };
+  return WriteRecords(arguments, ports, PuzzlesHeader(to), writer, PuzzlesFooter(to));
 }
 
 }  // namespace kestrel

@@ -25,8 +25,8 @@ void TakePosition(const SolverState& state, Example& example) {
 
 class StepKeeper final : public StepObserver {
  public:
-  StepKeeper(const DigitGrid& givens, std::vector<Example>& steps)
-      : givens_(givens), steps_(steps), before_(givens) {}
+  StepKeeper(const DigitGrid& givens, const SolverState& start, std::vector<Example>& steps)
+      : givens_(givens), steps_(steps), before_(start) {}
 
   void OnStep(const Finding& finding, const SolverState& after) override {
     Example& step = steps_.emplace_back();
@@ -236,10 +236,10 @@ class Page {
 
 }  // namespace
 
-std::optional<Walkthrough> ExplainPuzzle(const DigitGrid& givens, Yield& yield) {
+std::optional<Walkthrough> ExplainPuzzle(const DigitGrid& givens, Yield& yield, const SolverState* start) {
   Walkthrough walkthrough{.givens = givens, .rating = {}, .steps = {}};
-  StepKeeper keeper(walkthrough.givens, walkthrough.steps);
-  walkthrough.rating = SolveAndRate(givens, yield, {.observer = &keeper});
+  StepKeeper keeper(walkthrough.givens, start != nullptr ? *start : SolverState(givens), walkthrough.steps);
+  walkthrough.rating = SolveAndRate(givens, yield, {.start = start, .observer = &keeper});
   if (walkthrough.rating.outcome == RateOutcome::Stopped) return std::nullopt;
   return walkthrough;
 }

@@ -22,7 +22,9 @@ struct Walkthrough {
 };
 
 // Solves the puzzle and keeps every step; nothing when the yield said stop. Givens are 0..9 and are not checked.
-std::optional<Walkthrough> ExplainPuzzle(const DigitGrid& givens, Yield& yield);
+// `start` is a position of the puzzle to go on from; null: the givens.
+std::optional<Walkthrough> ExplainPuzzle(const DigitGrid& givens, Yield& yield,
+                                         const SolverState* start = nullptr);
 
 // Which singles get a picture of their own.
 enum class Singles : std::uint8_t {

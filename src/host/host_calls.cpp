@@ -10,6 +10,7 @@
 #include <array>
 #include <chrono>
 #include <climits>
+#include <cstdint>
 #include <cstdio>
 #include <thread>
 
@@ -38,6 +39,10 @@ ssize_t SystemCalls::Write(int file, const void* buffer, std::size_t size) {
 
 int SystemCalls::Fsync(int file) {
   return Allowed(Call::kFsync) ? ::fsync(file) : -1;
+}
+
+int SystemCalls::Ftruncate(int file, std::uint64_t length) {
+  return Allowed(Call::kFtruncate) ? ::ftruncate(file, static_cast<off_t>(length)) : -1;
 }
 
 int SystemCalls::Flock(int file, int operation) {

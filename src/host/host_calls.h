@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ class SystemCalls {
   ssize_t Read(int file, void* buffer, std::size_t size);
   virtual ssize_t Write(int file, const void* buffer, std::size_t size);
   virtual int Fsync(int file);
+  int Ftruncate(int file, std::uint64_t length);
   int Flock(int file, int operation);
   int Fstat(int file, struct stat& status);
   int Fchown(int file, uid_t owner, gid_t group);
@@ -50,6 +52,7 @@ class SystemCalls {
     kRead,
     kWrite,
     kFsync,
+    kFtruncate,
     kFlock,
     kFstat,
     kFchown,

@@ -161,7 +161,18 @@ std::string ToHostPath(std::string_view written) {
 }
 
 std::string HostFiles::HostPath(std::string_view path) const {
-  return form_ == PathForm::kHost ? std::string(path) : ToHostPath(path);
+  if (form_ == PathForm::kHost) return std::string(path);
+  std::size_t kept = 0;
+  for (const std::string& name : kept_names_) {
+    if (!path.starts_with(name)) continue;
+    const std::string_view rest = path.substr(name.size());
+    if (rest.empty() || rest[0] == '\\' || rest[0] == '/') kept = std::max(kept, name.size());
+  }
+  return std::string(path.substr(0, kept)) + ToHostPath(path.substr(kept));
+}
+
+void HostFiles::KeepName(std::string_view path) {
+  if (path.find('\\') != std::string_view::npos) kept_names_.emplace_back(path);
 }
 
 bool HostFiles::Exists(std::string_view path) {

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/files.h"
 #include "host/host_calls.h"
@@ -36,6 +37,10 @@ class HostFiles final : public Files {
   FileResult MakeFolder(std::string_view path) override;
   FileResult Remove(std::string_view path) override;
 
+  // Paths of the written form that begin with this folder or file, given in the host's form, keep it as it is: the
+  // backslashes in its own name separate nothing.
+  void KeepName(std::string_view path);
+
   // Makes a folder and the folders above it that are missing, for this user alone.
   FileResult MakeFolders(std::string_view path);
 
@@ -44,6 +49,7 @@ class HostFiles final : public Files {
 
   SystemCalls& calls_;
   PathForm form_;
+  std::vector<std::string> kept_names_;
 };
 
 // A path in the written form as the host spells it.

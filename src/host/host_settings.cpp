@@ -37,12 +37,17 @@ bool SettingsInMemory::Write(std::string_view section, std::string_view key, std
 std::string SettingsPath(const GameOptions& options, const std::string& home, HostFiles& files) {
   // The game makes its own folder in this one, but not this one, which a new user may not have yet.
   std::string data;
-  if (HomeFolders(home).Find(kLocalAppData, data)) (void)files.MakeFolders(data);
+  const bool found = HomeFolders(home).Find(kLocalAppData, data);
+  files.KeepName(data);
+  if (found) (void)files.MakeFolders(data);
   if (!options.settings.empty()) {
     std::error_code error;
-    return std::filesystem::absolute(options.settings, error).lexically_normal().string();
+    const std::string path = std::filesystem::absolute(options.settings, error).lexically_normal().string();
+    files.KeepName(path);
+    return path;
   }
   if (!home.empty()) return home + '\\' + std::string(kSettingsFile);
+  files.KeepName(HostFolders::Settings());
   const std::string folder = HostFolders::Settings() + '\\' + std::string(kSettingsFolder);
   // Where it cannot be made, the settings last for this run.
   (void)files.MakeFolders(folder);

@@ -43,7 +43,7 @@ Technique TryAndDescribe(SolverState& state, const DigitGrid& givens, int rows, 
 }  // namespace
 
 Rating SolveAndRate(const DigitGrid& givens, Yield& yield, const RateOptions& options) {
-  Rating rating{.state = SolverState(givens)};
+  Rating rating{.state = options.start != nullptr ? *options.start : SolverState(givens)};
   const int rows = TechniquesUpTo(options.highest_level);
   int level = 1;
   for (int steps = 0; !rating.state.Solved(); ++steps) {

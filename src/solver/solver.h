@@ -30,6 +30,8 @@ struct RateOptions {
   // Give up as soon as the level is known to be above this, 1..5. 5 still rates a puzzle that the techniques
   // do not solve as 6; it is no bound at all.
   int highest_level = kLevels;
+  // A position to go on from, as SolverState(digits, marks) makes it; null: the givens alone.
+  const SolverState* start = nullptr;
   // Told about every step; null costs nothing.
   StepObserver* observer = nullptr;
 };

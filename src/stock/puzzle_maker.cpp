@@ -27,7 +27,7 @@ RatedPuzzle MakeRatedPuzzle(std::uint64_t seed, std::uint64_t attempt, int highe
 }
 
 void MakePuzzles(const MakeRun& run, const std::function<bool(const std::vector<RatedPuzzle>&)>& use) {
-  std::uint64_t next = 0;
+  std::uint64_t next = run.first;
   const auto take = [&](std::uint64_t& first) {
     if (next >= run.attempts) return false;
     first = next;

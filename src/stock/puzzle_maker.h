@@ -25,10 +25,11 @@ struct MakeRun {
   std::uint64_t seed = 0;
   int jobs = 1;
   int highest_level = kBeyondTechniques;  // as for MakeRatedPuzzle
-  std::uint64_t attempts = UINT64_MAX;    // how many at most
+  std::uint64_t first = 0;                // the first attempt
+  std::uint64_t attempts = UINT64_MAX;    // the attempt that is not made any more
 };
 
-// Makes attempts 0, 1, 2 ... and hands them, bundle by bundle and in order, to `use`, until it returns false
+// Makes attempts first, first + 1 ... and hands them, bundle by bundle and in order, to `use`, until it returns false
 // or all are made. `use` is never called by two threads at once.
 void MakePuzzles(const MakeRun& run, const std::function<bool(const std::vector<RatedPuzzle>&)>& use);
 

@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 
 #include <cstdlib>
+#include <filesystem>
 
 #include "support/temp_folder.h"
 
@@ -38,6 +39,16 @@ TEST(Program, LostOutputIsNoticed) {
                   "; echo $? >> " + lost + "; } | head -n 1 > /dev/null"),
             0);
   EXPECT_EQ(folder.Get("lost"), "2\n");
+}
+
+TEST(Program, AFolderMayHaveABackslashInItsName) {
+  TempFolder folder;
+  std::filesystem::create_directory(folder.Path("a\\b"));
+  EXPECT_EQ(Shell("cd " + folder.Path().string() +
+                  " && echo 'press CommandNew' | '" KESTREL_SCRIPT "' --home 'a\\b' > /dev/null"),
+            0);
+  EXPECT_TRUE(std::filesystem::exists(folder.Path("a\\b/KestrelSudoku/sudstock.kpz")));
+  EXPECT_EQ(folder.Count(), 1);
 }
 
 // With the standard streams closed, the stock file must not get the number of one of them.

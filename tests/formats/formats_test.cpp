@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+// Puzzles in every format, alone and mixed; what is broken is reported where it starts and the rest is read.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+#include "core/text.h"
+#include "formats/puzzle_stream.h"
+#include "formats/puzzle_writer.h"
+#include "support/test_puzzles.h"
+
+namespace kestrel {
+namespace {
+
+constexpr std::string_view kPuzzle =
+    "043000080600700003000100090306200500000905000004003108060009000200007006090000830";
+
+// What a text holds: "LINE puzzle" with '#' for kPuzzle, or "LINE error".
+std::string Read(const std::string& text) {
+  std::istringstream in(text);
+  PuzzleStream stream(in);
+  std::string all;
+  for (FoundPuzzle found; stream.Next(found);) {
+    const std::string cells = GridText(found.puzzle.givens);
+    const std::string what = !found.error.empty() ? found.error : cells == kPuzzle ? "#" : cells;
+    all += (all.empty() ? "" : "|") + std::to_string(found.line) + " " + what;
+  }
+  EXPECT_EQ(stream.Bytes(), text.size());
+  return all;
+}
+
+std::string Drawn(std::string_view bar, std::string_view band, char open, std::string_view gap = "") {
+  std::string text;
+  for (std::size_t cell = 0; cell < kPuzzle.size(); ++cell) {
+    if (cell % 27 == 0) text += band;
+    if (cell % 9 == 0) text += bar;
+    text += kPuzzle[cell] == '0' ? open : kPuzzle[cell];
+    text += gap;
+    if (cell % 3 == 2) text += bar;
+    if (cell % 9 == 8) text += '\n';
+  }
+  return text + std::string(band);
+}
+
+TEST(Formats, AreToldApartAndMixed) {
+  const std::string line(kPuzzle);
+  std::string utf16 = "\xFF\xFE";
+  for (const char c : line + "\r\n" + line) utf16 += {c, '\0'};
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"\xEF\xBB\xBF" + line + " a note\r\n\r\n \t\n# a remark\n" + std::string(130, ' ') + line + ",x",
+       "1 #|5 #"},
+      {line + "\r" + line + "\r", "1 #|2 #"},
+      {utf16, "1 #|2 #"},
+      {"quizzes,solutions\n" + line + "," + line + "\nid;Puzzle\n7;\"" + line + "\"\n", "2 #|4 #"},
+      {Drawn("", "", '.') + Drawn("", "", '0', " ") + "\n" + line, "1 #|10 #|20 #"},
+      {Drawn("|", "|-------+-------+-------|\n", '*', " "), "2 #"},
+      {Drawn("|", "-----------\n", '-') + Drawn("", "---------\n", '_'), "2 #|15 #"},
+      {Drawn("", "\n", '.') + "\n" + Drawn("", "\n", '.'), "2 #|16 #"},
+      {"#A author\n[Puzzle]\n" + Drawn("", "", '.') + "[State]\n" + Drawn("", "", '.') + line, "3 #|22 #"},
+      {"<?xml version=\"1.0\"?>\n<opensudoku>\n<game data=\"" + line +
+           "\"/>\n<folder><game data=\"12\"/>\n</folder>"
+           "</opensudoku>\n" +
+           line,
+       "3 #|4 game: only 2 of 81 characters|6 #"},
+      {"{\"schema\":1,\"puzzle\":\"" + line + "\"}\n{\"puzzle\":1}\n{",
+       "1 #|2 the JSON object has no text \"puzzle\"|3 is no JSON object on one line"},
+      // Broken ones, and what stands behind them.
+      {line + "7\n" + line.substr(1) + "\n" + std::string(line).replace(40, 1, 1, '\0') + "\nTitle\n" + line,
+       "1 more than 81 characters|2 only 80 of 81 characters|3 character 41 is 0x00, not a digit or '.'|"
+       "4 character 1 is 'T', not a digit or '.'|5 #"},
+      {Drawn("", "", '.').substr(0, 50) + "\n" + Drawn("", "", '.'), "1 only 5 of 9 rows|7 #"},
+      {Drawn("", "", '.').substr(0, 30) + "\n" + Drawn("", "\n", '.'), "1 only 3 of 9 rows|6 #"},
+      {Drawn("", "", '.').replace(12, 1, "x") + line, "1 row 2: character 3 is 'x', not a digit or '.'|10 #"},
+      {Drawn("", "", '.').replace(12, 1, "") + line, "1 row 2: has 8 cells instead of 9|10 #"},
+      {"<opensudoku>\n<game", "1 broken XML: Error parsing start element tag"},
+      {std::string(3'000'000, '7') + "\n" + line, "1 more than 81 characters|2 #"},
+  };
+  for (const auto& [text, expected] : cases) {
+    EXPECT_EQ(Read(text), expected) << text.substr(0, 2000);
+  }
+  std::string mixed;
+  for (std::size_t i = 3; i < 11; ++i) mixed += cases[i].first + "\n\n";
+  EXPECT_EQ(std::ranges::count(Read(mixed), '#'), 15);
+}
+
+TEST(Formats, WhatIsWrittenIsReadBack) {
+  RandomSource random(4);
+  std::vector<DigitGrid> puzzles;
+  for (int i = 0; i < 30; ++i) puzzles.push_back(testing::MakeTestPuzzle(random));
+  for (std::size_t k = 0; k < kPuzzleFormats.size(); ++k) {
+    const auto format = static_cast<PuzzleFormat>(k);
+    std::stringstream text;
+    text << PuzzlesHeader(format);
+    for (const DigitGrid& puzzle : puzzles) text << PuzzleText(format, {puzzle, std::nullopt});
+    text << PuzzlesFooter(format);
+    PuzzleStream stream(text);
+    FoundPuzzle found;
+    for (const DigitGrid& puzzle : puzzles) {
+      ASSERT_TRUE(stream.Next(found));
+      EXPECT_EQ(found.error, "");
+      if (format != PuzzleFormat::kCandidates) {
+        EXPECT_EQ(GridText(found.puzzle.givens), GridText(puzzle)) << kPuzzleFormats[k];
+        continue;
+      }
+      // A candidate grid cannot tell a given from a lone candidate that nothing else sees; what it shows stays.
+      EXPECT_EQ(PuzzleText(format, found.puzzle), PuzzleText(format, {puzzle, std::nullopt}));
+      for (int cell = 0; cell < kCells; ++cell) {
+        EXPECT_TRUE(puzzle[cell] == 0 || found.puzzle.givens[cell] == puzzle[cell]);
+      }
+    }
+    EXPECT_FALSE(stream.Next(found));
+  }
+}
+
+TEST(Formats, TechniqueLinesAndBegunGamesHoldAState) {
+  std::string grid(kPuzzle);
+  grid.replace(0, 1, "+7");  // placed, not given
+  std::stringstream text(":0300:59:" + grid + ":514 922:x:\n:1:2:" + grid + ":5144::\n");
+  PuzzleStream stream(text);
+  FoundPuzzle found;
+  ASSERT_TRUE(stream.Next(found) && found.puzzle.state);
+  EXPECT_EQ(GridText(found.puzzle.givens), kPuzzle);
+  const PuzzleState& state = *found.puzzle.state;
+  EXPECT_EQ(state.digits[0], 7);
+  EXPECT_EQ(state.candidates[3], DigitBit(6));      // 5 and 6 fit into the fourth cell of the first row
+  EXPECT_FALSE(HasDigit(state.candidates[10], 9));  // row 2, column 2
+  ASSERT_TRUE(stream.Next(found));
+  EXPECT_EQ(found.error, "a removed candidate of the technique line is not digit, row and column");
+
+  std::string game = "<opensudoku><game data=\"version: 1&#10;";
+  for (int cell = 0; cell < kCells; ++cell) {
+    const bool given = kPuzzle[static_cast<std::size_t>(cell)] != '0';
+    game += given       ? std::string(1, kPuzzle[static_cast<std::size_t>(cell)]) + "|-|0|"
+            : cell == 0 ? "7|-|1|"
+                        : "0|1,2,|1|";
+  }
+  EXPECT_EQ(Read(game + "\"/></opensudoku>"), "1 #");
+}
+
+}  // namespace
+}  // namespace kestrel
