@@ -12,6 +12,7 @@ inline constexpr std::string_view kBlankNameTitle = "My name is Nobody";
 inline constexpr std::string_view kEmptyName =
     "Did you suffer from memory loss ?\nCome on, think very deeply, try to remember your own name.";
 inline constexpr std::string_view kEmptyNameTitle = "Loss of memory ?";
+inline constexpr std::string_view kNobody = "somebody else";  // a time of no player of this list
 std::string NameInUse(std::string_view name);
 std::string NameInUseTitle(std::string_view name);
 

@@ -3,9 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <map>
 
 #include "players/best_time.h"
+#include "players/records.h"
 
 namespace kestrel {
 namespace {
@@ -71,6 +73,33 @@ TEST(Players, SurviveTamperedSettings) {
   EXPECT_EQ(players.Name(32707), "Bob");
   EXPECT_EQ(players.Name(32700), "Player00");
   EXPECT_EQ(players.CurrentPlayer, 0);
+}
+
+TEST(Records, AreWeighedWithinTheirLevel) {
+  MapSettings settings;
+  Players players = Load(settings);
+  players.Add("Ann");
+  players.Add("Bob");
+  StockTable stock;
+  const auto put = [&](int number, std::int16_t seconds, std::int16_t player) {
+    SudokuRecord& record = stock(2, number);
+    record.BestMinutes = static_cast<std::int16_t>(seconds / 60);
+    record.BestSeconds = static_cast<std::int16_t>(seconds % 60);
+    record.BestPlayer = player;
+  };
+  put(1, 100, 2);
+  put(7, 7505, 1);
+  put(99, 300, 2);
+  put(50, -3, 1);  // no time, and nobody's
+  const LevelRecords records = RecordsOf(stock, players, 2);
+  EXPECT_TRUE(records.Of(1).merit == 1 && records.Of(7).merit == 0 && records.Of(50).seconds == 0);
+  ASSERT_EQ(records.holders.size(), 2U);
+  EXPECT_EQ(records.holders[0].name + std::to_string(records.holders[0].count), "Bob2");
+  EXPECT_EQ(texts::PuzzleRecordText(records, 7), "Number 7: 125:05 by Ann");
+  EXPECT_EQ(texts::PuzzleRecordText(records, 50), "Number 50: no best time yet");
+  // A player of another home.
+  put(3, 200, 9);
+  EXPECT_EQ(texts::PuzzleRecordText(RecordsOf(stock, players, 2), 3), "Number 3: 03:20 by somebody else");
 }
 
 TEST(BestTime, IsBetterThanTheOld) {

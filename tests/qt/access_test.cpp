@@ -62,6 +62,23 @@ TEST(Access, TreeLeadsToEveryMarkAndBack) {
     }
   }
   EXPECT_EQ(marks, 729);
+  // As a table, its cells are the board's, and know their headers.
+  QAccessibleTableInterface* table = board->tableInterface();
+  ASSERT_NE(table, nullptr);
+  QAccessibleInterface* cell = table->cellAt(2, 6);
+  EXPECT_EQ(cell, &Access(game, "Grid(24)"));
+  EXPECT_EQ(board->indexOfChild(cell), 24);
+  EXPECT_TRUE(cell->tableCellInterface()->rowIndex() == 2 && cell->tableCellInterface()->columnIndex() == 6);
+  EXPECT_EQ(cell->tableCellInterface()->rowHeaderCells().constFirst(), &Access(game, "LabelRow(2)"));
+  EXPECT_EQ(cell->tableCellInterface()->columnHeaderCells().constFirst(), &Access(game, "LabelColumn(6)"));
+  EXPECT_EQ(table->rowDescription(2).toStdString(), "row C");
+  EXPECT_TRUE(table->selectRow(2) && table->selectColumn(6));
+  EXPECT_TRUE(cell->tableCellInterface()->isSelected() && table->selectedCells() == QList{cell});
+  // The window is one, and has no start-up bars any more.
+  QAccessibleInterface* window = QAccessible::queryAccessibleInterface(&game.Window());
+  EXPECT_EQ(window->role(), QAccessible::Window);
+  EXPECT_EQ(window->indexOfChild(&Access(game, "Picture3")), -1);
+  for (int i = 0; i < window->childCount(); ++i) EXPECT_EQ(window->indexOfChild(window->child(i)), i);
   // What is under a point is what the mouse would reach there.
   QAccessibleInterface* mark = &Access(game, game.NextMark());
   EXPECT_EQ(board->childAt(mark->rect().center().x(), mark->rect().center().y()), mark);

@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include "qt/qt_game.h"
+#include "ui/qt/palette.h"
 
 namespace kestrel::testing {
 namespace {
@@ -58,8 +59,12 @@ TEST(Dialogs, OpenAsksUntilTheNumberFits) {
     PressCaption(box, "OK");
   });
   game.Expect([](QWidget& box) {
+    // A click in the map fills the number in, and no more.
     auto* field = box.findChild<QLineEdit*>();
-    QTest::keyClicks(field, "42");
+    auto* map = box.findChild<RecordsMap*>();
+    const QRect place = map->visualRect(map->model()->index(4, 1));
+    QTest::mouseClick(map->viewport(), Qt::LeftButton, {}, place.center());
+    EXPECT_EQ(field->selectedText(), "42");
     QTest::keyClick(field, Qt::Key_Return);
   });
   game.ClickControl("CommandOpen");
@@ -68,6 +73,36 @@ TEST(Dialogs, OpenAsksUntilTheNumberFits) {
   game.Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
   game.ClickControl("CommandOpen");
   EXPECT_EQ(game.State().play.puzzle.PuzzleNumber, 42);
+}
+
+TEST(Records, FollowTheGame) {
+  QtGame game(3);
+  SudokuRecord& record = (*game.State().stock)(3, 12);
+  EXPECT_EQ(game.front_end.Records(), nullptr);
+  game.ClickControl("StatusBar(4)");
+  RecordsWindow* window = game.front_end.Records();
+  ASSERT_NE(window, nullptr);
+  const auto* map = window->findChild<RecordsMap*>();
+  const auto twelve = [&] { return map->model()->index(1, 1).data(Qt::ToolTipRole).toString(); };
+  EXPECT_EQ(twelve(), "Number 12: no best time yet");
+  record.BestSeconds = 59;
+  game.front_end.Events().Send({});
+  EXPECT_EQ(twelve(), "Number 12: 00:59 by somebody else");
+  EXPECT_EQ(window->findChild<QListWidget*>()->item(0)->text(), "somebody else: 1");
+  QTest::keyClick(window, Qt::Key_Escape);
+  EXPECT_FALSE(window->isVisible());
+}
+
+// The text can be read on every shade, and a better time is darker.
+TEST(Records, ShadesCanBeRead) {
+  const QPalette palette = QApplication::palette();
+  double last = 0;
+  for (const double merit : {1.0, 0.5, 0.0}) {
+    const QColor shade = ShadeOf(palette, merit);
+    EXPECT_GE(ContrastRatio(palette.color(QPalette::Text), shade), 7);
+    EXPECT_GT(shade.lightnessF(), last);
+    last = shade.lightnessF();
+  }
 }
 
 TEST(Dialogs, PlayersAreTypedAndChosen) {

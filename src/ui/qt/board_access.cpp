@@ -24,12 +24,18 @@ std::size_t MarkPlace(int digit, int cell) {
   return static_cast<std::size_t>(digit * kCells + cell);
 }
 
+// Behind all marks stand the headers.
+constexpr int kRowsAt = 10 * kCells;
+constexpr int kColumnsAt = kRowsAt + kUnitSize;
+
 QAccessibleInterface* InterfaceOf(BoardItem& item) {
   return QAccessible::queryAccessibleInterface(&item);
 }
 
-// A cell with its nine marks under it, a mark, or a header.
-class ItemInterface final : public QAccessibleObject, public QAccessibleActionInterface {
+// A cell of the table with its nine marks under it, a mark, or a header.
+class ItemInterface final : public QAccessibleObject,
+                            public QAccessibleActionInterface,
+                            public QAccessibleTableCellInterface {
  public:
   explicit ItemInterface(BoardItem& item) : QAccessibleObject(&item), item_(item) {}
 
@@ -94,8 +100,26 @@ class ItemInterface final : public QAccessibleObject, public QAccessibleActionIn
   QWindow* window() const override { return item_.Board().window()->windowHandle(); }
 
   void* interface_cast(QAccessible::InterfaceType type) override {
-    const bool acts = type == QAccessible::ActionInterface && item_.GetKind() != Kind::Cell;
-    return acts ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+    const bool cell = item_.GetKind() == Kind::Cell;
+    if (cell && type == QAccessible::TableCellInterface)
+      return static_cast<QAccessibleTableCellInterface*>(this);
+    if (!cell && type == QAccessible::ActionInterface) return static_cast<QAccessibleActionInterface*>(this);
+    return nullptr;
+  }
+
+  // Of a cell, as part of the board.
+  QAccessibleInterface* table() const override { return parent(); }
+  int rowIndex() const override { return CellRow[item_.Index()]; }
+  int columnIndex() const override { return CellCol[item_.Index()]; }
+  int rowExtent() const override { return 1; }
+  int columnExtent() const override { return 1; }
+  QList<QAccessibleInterface*> rowHeaderCells() const override { return {HeaderAt(kRowsAt + rowIndex())}; }
+  QList<QAccessibleInterface*> columnHeaderCells() const override {
+    return {HeaderAt(kColumnsAt + columnIndex())};
+  }
+  bool isSelected() const override {
+    const MainWindow& main = item_.Board().Main();
+    return main.LabelRow(rowIndex()).fore == kRed && main.LabelColumn(columnIndex()).fore == kRed;
   }
 
   QStringList actionNames() const override {
@@ -125,14 +149,65 @@ class ItemInterface final : public QAccessibleObject, public QAccessibleActionIn
   QStringList keyBindingsForAction(const QString& /*action*/) const override { return {}; }
 
  private:
+  [[nodiscard]] QAccessibleInterface* HeaderAt(int place) const {
+    return InterfaceOf(*item_.Board().Items()[static_cast<std::size_t>(place)]);
+  }
+
   BoardItem& item_;
 };
 
-// The board itself: nine column headers, nine row headers, 81 cells.
-class BoardInterface final : public QAccessibleWidget {
+// The board itself, a table: 81 cells in its order, then nine column headers and nine row headers.
+class BoardInterface final : public QAccessibleWidget, public QAccessibleTableInterface {
  public:
   explicit BoardInterface(BoardWidget& board)
-      : QAccessibleWidget(&board, QAccessible::Grouping, texts::kBoard), board_(board) {}
+      : QAccessibleWidget(&board, QAccessible::Table, texts::kBoard), board_(board) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::TableInterface) return static_cast<QAccessibleTableInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+  }
+
+  QAccessibleInterface* caption() const override { return nullptr; }
+  QAccessibleInterface* summary() const override { return nullptr; }
+  int rowCount() const override { return kUnitSize; }
+  int columnCount() const override { return kUnitSize; }
+  QAccessibleInterface* cellAt(int row, int column) const override {
+    return IsLine(row) && IsLine(column) ? child(RowCell[row][column]) : nullptr;
+  }
+  QString rowDescription(int row) const override { return NameAt(kRowsAt, row); }
+  QString columnDescription(int column) const override { return NameAt(kColumnsAt, column); }
+
+  // What is selected are the headers, for Reset Cell; the cell of both is the one that it empties.
+  bool isRowSelected(int row) const override {
+    return IsLine(row) && board_.Main().LabelRow(row).fore == kRed;
+  }
+  bool isColumnSelected(int column) const override {
+    return IsLine(column) && board_.Main().LabelColumn(column).fore == kRed;
+  }
+  QList<int> selectedRows() const override {
+    return Selected([this](int row) { return isRowSelected(row); });
+  }
+  QList<int> selectedColumns() const override {
+    return Selected([this](int column) { return isColumnSelected(column); });
+  }
+  int selectedRowCount() const override { return static_cast<int>(selectedRows().size()); }
+  int selectedColumnCount() const override { return static_cast<int>(selectedColumns().size()); }
+  QList<QAccessibleInterface*> selectedCells() const override {
+    const QList<int> rows = selectedRows();
+    const QList<int> columns = selectedColumns();
+    if (rows.isEmpty() || columns.isEmpty()) return {};
+    return {cellAt(rows.constFirst(), columns.constFirst())};
+  }
+  int selectedCellCount() const override { return static_cast<int>(selectedCells().size()); }
+  bool selectRow(int row) override { return Toggle(BoardSpot::Kind::Row, row, !isRowSelected(row)); }
+  bool unselectRow(int row) override { return Toggle(BoardSpot::Kind::Row, row, isRowSelected(row)); }
+  bool selectColumn(int column) override {
+    return Toggle(BoardSpot::Kind::Column, column, !isColumnSelected(column));
+  }
+  bool unselectColumn(int column) override {
+    return Toggle(BoardSpot::Kind::Column, column, isColumnSelected(column));
+  }
+  void modelChange(QAccessibleTableModelChangeEvent* /*event*/) override {}
 
   int childCount() const override { return 2 * kUnitSize + kCells; }
 
@@ -146,11 +221,11 @@ class BoardInterface final : public QAccessibleWidget {
     if (item == nullptr || &item->Board() != &board_) return -1;
     switch (item->GetKind()) {
       case Kind::Column:
-        return item->Index();
+        return kCells + item->Index();
       case Kind::Row:
-        return kUnitSize + item->Index();
+        return kCells + kUnitSize + item->Index();
       case Kind::Cell:
-        return 2 * kUnitSize + item->Index();
+        return item->Index();
       case Kind::Mark:
         break;
     }
@@ -172,10 +247,31 @@ class BoardInterface final : public QAccessibleWidget {
 
  private:
   static std::size_t PlaceOfChild(int index) {
-    const int marks_end = 10 * kCells;
-    if (index < kUnitSize) return static_cast<std::size_t>(marks_end + kUnitSize + index);
-    if (index < 2 * kUnitSize) return static_cast<std::size_t>(marks_end + index - kUnitSize);
-    return static_cast<std::size_t>(index - 2 * kUnitSize);
+    if (index < kCells) return static_cast<std::size_t>(index);
+    if (index < kCells + kUnitSize) return static_cast<std::size_t>(kColumnsAt + index - kCells);
+    return static_cast<std::size_t>(kRowsAt + index - kCells - kUnitSize);
+  }
+
+  // Tools may ask for lines that there are not.
+  static bool IsLine(int line) { return line >= 0 && line < kUnitSize; }
+
+  [[nodiscard]] QString NameAt(int headers, int line) const {
+    return IsLine(line) ? board_.Items()[static_cast<std::size_t>(headers + line)]->SpokenName() : QString();
+  }
+
+  template <class Test>
+  static QList<int> Selected(const Test& test) {
+    QList<int> lines;
+    for (int line = 0; line < kUnitSize; ++line) {
+      if (test(line)) lines << line;
+    }
+    return lines;
+  }
+
+  bool Toggle(BoardSpot::Kind kind, int line, bool wanted) {
+    if (!wanted || !IsLine(line)) return false;
+    board_.Click({kind, line, 0}, MouseButton::Left);
+    return true;
   }
 
   BoardWidget& board_;

@@ -4,13 +4,20 @@
 #include <QCoreApplication>
 #include <cstdio>
 #include <exception>
+#include <utility>
 
 namespace kestrel {
 
 namespace {
 
-// Short enough for a click to be painted within a frame of 16 ms, long enough to cost a renewal nothing.
-constexpr std::chrono::milliseconds kPumpInterval(5);
+// A renewal's rounds take some 30 microseconds each. Looking for events after every one, and comparing all
+// controls with the screen, took several times as long as the rounds; so events are looked for four times a
+// millisecond, which nobody notices in a click, and the screen follows every few milliseconds.
+constexpr std::chrono::microseconds kLookInterval(250);
+constexpr std::chrono::milliseconds kShowInterval(4);
+// The same for a round that takes long by itself.
+constexpr std::chrono::milliseconds kPumpInterval(4);
+constexpr unsigned kQuestionsPerClock = 8;  // the clock costs more than most steps
 
 constexpr int kExitFatal = 1;
 constexpr int kExitBroken = 3;
@@ -48,20 +55,20 @@ void Dispatcher::Guarded(const std::function<void()>& call) {
     broken_ = true;
   }
   --depth_;
-  AfterCall();
+  if (!Ended()) return;
+  rounds_.stop();
+  QCoreApplication::exit(ExitStatus());
 }
 
-void Dispatcher::AfterCall() {
-  if (Ended()) {
-    rounds_.stop();
-    QCoreApplication::exit(ExitStatus());
-    return;
-  }
+void Dispatcher::Show() {
+  if (Ended()) return;
   sync_();
+  last_show_ = std::chrono::steady_clock::now();
 }
 
 bool Dispatcher::Start() {
   Guarded([this] { game_->Start(); });
+  Show();
   if (Ended()) return false;
   rounds_.start();
   return true;
@@ -70,7 +77,10 @@ bool Dispatcher::Start() {
 void Dispatcher::Send(const Event& event) {
   if (Ended()) return;
   ++handled_;
+  first_after_event_ = true;
+  if (depth_ == 0) last_pump_ = std::chrono::steady_clock::now();
   Guarded([&] { game_->Handle(event); });
+  Show();
   if (depth_ == 0 && !Ended()) rounds_.start();
 }
 
@@ -80,9 +90,19 @@ void Dispatcher::RunRound() {
     rounds_.stop();
     return;
   }
+  last_pump_ = std::chrono::steady_clock::now();
+  const auto until = last_pump_ + kLookInterval;
+  const int handled = handled_;
   bool due = false;
-  Guarded([&] { due = game_->Round(); });
+  const auto stay = [&] { return due && handled == handled_ && std::chrono::steady_clock::now() < until; };
+  Guarded([&] {
+    do {
+      due = game_->Round();
+    } while (stay());
+  });
   if (!due) rounds_.stop();
+  const bool first = std::exchange(first_after_event_, false);
+  if (first || !due || std::chrono::steady_clock::now() - last_show_ >= kShowInterval) Show();
 }
 
 void Dispatcher::RunWorkLeft() {
@@ -91,6 +111,7 @@ void Dispatcher::RunWorkLeft() {
 
 bool Dispatcher::KeepGoing() {
   if (Ended()) return false;
+  if (++questions_ % kQuestionsPerClock != 0) return true;
   const auto now = std::chrono::steady_clock::now();
   if (now - last_pump_ < kPumpInterval) return true;
   sync_();

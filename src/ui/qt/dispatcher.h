@@ -43,14 +43,17 @@ class Dispatcher final : public EventSink, public Yield {
  private:
   void Guarded(const std::function<void()>& call);
   void RunRound();
-  void AfterCall();
+  void Show();
 
   GameLoop* game_ = nullptr;
   std::function<void()> sync_;
   QTimer rounds_;
-  std::chrono::steady_clock::time_point last_pump_;
+  std::chrono::steady_clock::time_point last_pump_;  // when events were let in last
+  std::chrono::steady_clock::time_point last_show_;
+  unsigned questions_ = 0;  // calls of KeepGoing
   int depth_ = 0;
-  int handled_ = 0;  // events so far; tells a pump that brought some from an idle one
+  int handled_ = 0;                 // events so far; tells a pump that brought some from an idle one
+  bool first_after_event_ = false;  // the next round may lay out what an event has chosen
   bool broken_ = false;
 };
 

@@ -3,17 +3,46 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QMouseEvent>
 #include <QPixmap>
 #include <cstdio>
 
 #include "host/command_line.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/form_window.h"
+#include "ui/qt/main_extras.h"
+#include "ui/qt/shortcuts.h"
 #include "ui/qt/small_widgets.h"
 #include "ui/qt/text_conversion.h"
 #include "ui/qt/window_access.h"
 
 namespace kestrel {
+
+namespace {
+
+// Calls a function for each click on a widget that has no clicks of its own.
+class ClickFilter final : public QObject {
+ public:
+  ClickFilter(QWidget& widget, std::function<void()> on_click)
+      : QObject(&widget), on_click_(std::move(on_click)) {
+    widget.installEventFilter(this);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    // Who takes no press gets no release.
+    if (event->type() == QEvent::MouseButtonPress) return true;
+    if (event->type() != QEvent::MouseButtonRelease) return false;
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    const auto* widget = static_cast<QWidget*>(watched);
+    if (mouse->button() == Qt::LeftButton && widget->rect().contains(mouse->position().toPoint()))
+      on_click_();
+    return false;
+  }
+
+ private:
+  std::function<void()> on_click_;
+};
+
+}  // namespace
 
 FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool unattended)
     : choices_(host.settings, desktop_),
@@ -23,16 +52,41 @@ FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool u
                  return TipState{state.play.puzzle.MarksAreCandidates(), state.stockroom.RenewingLevel};
                },
                choices_, QString::fromStdString(help_folder)}),
-      asker_(mirror_, dispatcher_),
-      screen_(mirror_, dispatcher_),
+      asker_(mirror_, dispatcher_,
+             [this](int level) {
+               return RecordsOf(*game_.State().stockroom.stock, game_.State().players, level);
+             }),
+      screen_(mirror_, dispatcher_, [this] { PrepareMainWindow(); }),
       help_(mirror_),
       printer_(mirror_, dispatcher_, host.host_files, asker_, host.settings),
       game_(Ports{host.program, host.folders, host.files, host.settings, host.clock, host.seeds, dispatcher_,
                   unattended ? static_cast<Asker&>(unattended_asker_) : asker_, screen_, sound_, help_,
                   shell_, printer_}) {
   mirror_.Attach(game_.Controls());
-  dispatcher_.Attach(game_, [this] { mirror_.Sync(); });
-  choices_.on_look = [this] { mirror_.ApplyLook(); };
+  dispatcher_.Attach(game_, [this] {
+    mirror_.Sync();
+    if (records_) records_->Sync();
+  });
+  choices_.on_look = [this] {
+    mirror_.ApplyLook();
+    if (records_) records_->ApplyLook();
+  };
+}
+
+void FrontEnd::PrepareMainWindow() {
+  InstallShortcuts(mirror_);
+  mirror_.Extras()->Menu().on_records = [this] { OpenRecords(); };
+  for (int panel = 3; panel <= 5; ++panel) {
+    QWidget* widget = mirror_.WidgetOf(FormId::Main, {"StatusBar", panel});
+    widget->setCursor(Qt::PointingHandCursor);
+    new ClickFilter(*widget, [this] { OpenRecords(); });
+  }
+}
+
+void FrontEnd::OpenRecords(int level) {
+  if (!records_) records_ = std::make_unique<RecordsWindow>(game_.State());
+  const int chosen = game_.State().SelectedLevel;
+  records_->Open(level != 0 ? level : chosen != 0 ? chosen : 1);
 }
 
 int FrontEnd::Run() {

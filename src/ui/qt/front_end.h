@@ -3,6 +3,7 @@
 // game's start and by tests.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "core/clock.h"
@@ -18,6 +19,7 @@
 #include "ui/qt/qt_printer.h"
 #include "ui/qt/qt_shell.h"
 #include "ui/qt/qt_sound_device.h"
+#include "ui/qt/records_window.h"
 #include "ui/qt/view_choices.h"
 
 namespace kestrel {
@@ -43,6 +45,11 @@ class FrontEnd {
   [[nodiscard]] Dispatcher& Events() { return dispatcher_; }
   [[nodiscard]] ViewChoices& Choices() { return choices_; }
 
+  // The window "Records" with a level's best times, 1..5; the chosen level's with 0.
+  void OpenRecords(int level = 0);
+  // Null while it was never opened.
+  [[nodiscard]] RecordsWindow* Records() const { return records_.get(); }
+
   // Start-up, the main loop until the program ends, and the exit status.
   int Run();
 
@@ -51,6 +58,8 @@ class FrontEnd {
   int TakeScreenshot(const std::string& file);
 
  private:
+  void PrepareMainWindow();
+
   Dispatcher dispatcher_;
   DesktopColours desktop_;
   ViewChoices choices_;
@@ -63,6 +72,7 @@ class FrontEnd {
   QtShell shell_;
   QtPrinter printer_;
   Game game_;
+  std::unique_ptr<RecordsWindow> records_;
 };
 
 // Everything about the application that does not change: fonts, icon; then the look. Before the first window.

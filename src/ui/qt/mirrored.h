@@ -31,8 +31,6 @@ class MirroredControl {
   [[nodiscard]] virtual QWidget* Widget() const { return nullptr; }
   // Takes the choice from an option button because another of its array was chosen.
   virtual void Unchoose() {}
-  // Shows the control again over what happened to the widget by itself.
-  virtual void Restore() {}
 
   [[nodiscard]] ControlId Id() const { return id_; }
 
@@ -92,8 +90,6 @@ class Mirrored final : public MirroredControl {
   void Tell(EventKind kind, Key key = Key::None) const { Send(kind, key); }
 
   [[nodiscard]] const C& Control() const { return control_; }
-
-  void Restore() override { Apply(&shown_); }
 
   void Unchoose() override {
     if constexpr (requires { &C::value; }) {

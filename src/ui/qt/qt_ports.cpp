@@ -3,9 +3,7 @@
 
 #include <QApplication>
 #include <QGridLayout>
-#include <QInputDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -17,7 +15,7 @@
 #include "ui/qt/form_window.h"
 #include "ui/qt/help_view.h"
 #include "ui/qt/look.h"
-#include "ui/qt/shortcuts.h"
+#include "ui/qt/number_box.h"
 #include "ui/qt/text_conversion.h"
 
 namespace kestrel {
@@ -99,20 +97,11 @@ Answer QtAsker::Message(const MessageBox& box) {
 std::optional<std::string> QtAsker::Input(const InputBox& box) {
   if (dispatcher_.Ended()) return std::nullopt;
   mirror_.Sync();
-  QInputDialog widget(mirror_.TopWindow());
-  widget.setObjectName(QStringLiteral("InputBox"));
-  widget.setWindowTitle(ToQString(box.title));
-  widget.setLabelText(ToQString(box.prompt));
-  widget.setTextValue(ToQString(box.proposal));
-  widget.setOkButtonText(QStringLiteral("&OK"));
-  widget.setCancelButtonText(QStringLiteral("&Cancel"));
-  if (auto* field = widget.findChild<QLineEdit*>()) {
-    field->setMinimumWidth(Logical(kBoxWidth));
-    field->selectAll();
-  }
+  NumberBox widget(box, mirror_.TopWindow());
+  if (box.level != 0) widget.ShowMap(records_(box.level), box.level);
   const bool accepted = widget.exec() == QDialog::Accepted;
   if (dispatcher_.Ended()) return std::nullopt;
-  return accepted ? widget.textValue().toStdString() : std::string();
+  return accepted ? widget.Answer() : std::string();
 }
 
 // ---- UnattendedAsker ----
@@ -145,7 +134,7 @@ void QtScreen::Show(FormId form) {
   mirror_.FocusFirst(form);
   QPoint corner(Logical(window.left), Logical(window.top));
   if (form == FormId::Main) {
-    InstallShortcuts(mirror_);
+    on_main_();
     // The title bar stays in reach where the window is larger than the screen.
     const QRect screen = QApplication::primaryScreen()->availableGeometry();
     corner = {std::max(screen.x(), corner.x()), std::max(screen.y(), corner.y())};

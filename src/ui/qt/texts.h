@@ -52,6 +52,19 @@ inline constexpr const char* kSavedIn = "Saved in ";
 inline constexpr const char* kNotSaved = "PDF file";
 inline constexpr const char* kNotSavedWhy = "The file could not be written:\n";
 
+// Records
+inline constexpr const char* kRecordsTitle = "Kestrel Sudoku - Records";
+inline constexpr const char* kRecordsLevels = "Level";
+inline constexpr const char* kRecordsMap = "Best times of the 100 puzzles";
+inline constexpr const char* kRecordsPlot = "Best times against scores";
+inline constexpr const char* kRecordsHolders = "Who holds how many best times";
+inline constexpr const char* kNoRecords = "Nobody yet: solve a puzzle under a player's name";
+inline constexpr const char* kRecordsHelp = "The darker a puzzle, the better its time within the level.";
+inline constexpr const char* kMapOfNumbers = "click a puzzle to fill in its number";
+inline constexpr const char* kScore = "score";
+inline constexpr const char* kTimeAxis = "best time (minutes:seconds)";
+inline constexpr const char* kScoreAxis = "score: how hard the puzzle is";
+
 // Help window
 inline constexpr const char* kBack = "&Back";
 inline constexpr const char* kForward = "&Forward";

@@ -169,7 +169,7 @@ void TellClick(const Entry& entry, const QWidget& widget) {
 // does to the widget or to its neighbours comes first.
 bool Refused(MirroredControl& entry, QWidget& widget) {
   if (!BehindDialog(widget)) return false;
-  QTimer::singleShot(0, &widget, [&entry] { entry.Restore(); });
+  QTimer::singleShot(0, &widget, [&entry] { entry.Refresh(); });
   return true;
 }
 
