@@ -85,7 +85,7 @@ void FrontEnd::PrepareMainWindow() {
 
 void FrontEnd::OpenRecords(int level) {
   if (!records_) records_ = std::make_unique<RecordsWindow>(game_.State());
-  const int chosen = game_.State().SelectedLevel;
+  const int chosen = game_.State().choices.SelectedLevel;
   records_->Open(level != 0 ? level : chosen != 0 ? chosen : 1);
 }
 

@@ -53,17 +53,20 @@ void RecordsWindow::ApplyLook() {
 
 void RecordsWindow::Open(int level) {
   levels_.setCurrentIndex(level - 1);
+  const bool was_open = isVisible();
   show();
   Sync();
   map_.setFocus();
   if (!map_.currentIndex().isValid()) map_.setCurrentIndex(map_.model()->index(0, 0));
+  if (!was_open) return;
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   raise();
   activateWindow();
 }
 
 void RecordsWindow::Sync() {
   if (!isVisible()) return;
-  LevelRecords now = RecordsOf(*session_.stock, session_.players, levels_.currentIndex() + 1);
+  LevelRecords now = RecordsOf(*session_.stockroom.stock, session_.players, levels_.currentIndex() + 1);
   if (now == shown_) return;
   if (now.holders != shown_.holders || holders_.count() == 0) ShowHolders(now);
   shown_ = std::move(now);
