@@ -14,6 +14,7 @@
 #include "ui/qt/shortcuts.h"
 #include "ui/qt/small_widgets.h"
 #include "ui/qt/text_conversion.h"
+#include "ui/qt/view_menu.h"
 #include "ui/qt/window_access.h"
 
 namespace kestrel {
