@@ -170,7 +170,7 @@ void DesignStatusBar(MainWindow& main) {
   for (int panel = 1; panel <= 5; ++panel) {
     const int width = kWidths[static_cast<std::size_t>(panel - 1)];
     Place(main.StatusBar(panel), left, 9480, width, 390);
-    if (panel >= 3) main.StatusBar(panel).tooltip = texts::kRecordsTip;
+    if (panel >= 3) main.StatusBar(panel).tooltip = "Click for the records of all levels";
     left += width;
   }
 }

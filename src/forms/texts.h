@@ -29,7 +29,6 @@ inline constexpr std::string_view kSolutionTip = "Give up and show the solution"
 inline constexpr std::string_view kPrintTip = "Print puzzles (Ctrl+P)";
 inline constexpr std::string_view kHelpTip = "How to play, and every technique explained (F1)";
 inline constexpr std::string_view kPlayersTip = "Choose who plays, add or rename players";
-inline constexpr std::string_view kRecordsTip = "Click for the records of all levels";
 inline constexpr std::string_view kSoundsTip = "Play sounds";
 inline constexpr std::string_view kHintMarker = "Show help on this technique";
 inline constexpr std::string_view kRenewalProgress = "Progress of the renewal";
