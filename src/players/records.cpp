@@ -2,6 +2,7 @@
 #include "players/records.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "players/texts.h"
 
