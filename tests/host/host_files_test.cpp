@@ -243,6 +243,27 @@ TEST(HostFiles, PermissionsAreKeptAndNewFilesAreTheUsersOwn) {
   EXPECT_TRUE(status.st_uid == 1234 && status.st_gid == 4321 && (status.st_mode & 07777U) == 0640);
 }
 
+// Killed at any call, the program leaves nothing of a private file that others could read.
+TEST(HostFiles, PrivateFilesArePrivateWhileTheyAreWritten) {
+  for (int n = 1, status = FaultyCalls::kKilled; status == FaultyCalls::kKilled; ++n) {
+    TempFolder folder;
+    folder.Put("file", kOld);
+    chmod(folder.Path("file").c_str(), 0600);
+    if (fork() == 0) {
+      FaultyCalls calls;
+      HostFiles files(calls);
+      umask(0);
+      calls.KillAt(n);
+      _exit(ActReplace(files, folder, "file") ? 0 : 1);
+    }
+    wait(&status);
+    status = WEXITSTATUS(status);
+    for (const auto& entry : fs::directory_iterator(folder.Path())) {
+      EXPECT_EQ(Mode(folder, entry.path().filename().string()) & 0077U, 0U) << "killed at call " << n;
+    }
+  }
+}
+
 TEST(HostFiles, OnlyPlainFilesAreReadAndReplaced) {
   TempFolder folder;
   SystemCalls calls;
