@@ -2,7 +2,10 @@
 #include "cli/shard.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
+
+#include "core/text.h"
 
 namespace kestrel {
 
@@ -11,8 +14,9 @@ Shard ShardOf(Arguments& arguments) {
   if (!arguments.Has(kShardOption.name)) return {};
   const std::string text = arguments.Text(kShardOption.name, "");
   const std::size_t slash = text.find('/');
-  const auto number = ParseNumber(text.substr(0, slash));
-  const auto of = slash == std::string::npos ? std::nullopt : ParseNumber(text.substr(slash + 1));
+  const auto number = ParseNumber<std::uint64_t>(text.substr(0, slash));
+  const auto of =
+      slash == std::string::npos ? std::nullopt : ParseNumber<std::uint64_t>(text.substr(slash + 1));
   if (number && of && *number >= 1 && *number <= *of && *of <= kMost) return {*number, *of};
   arguments.FailValue(kShardOption.name, "I/N with I from 1 to N, N at most 1000000");
   return {};
