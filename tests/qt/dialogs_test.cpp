@@ -86,7 +86,9 @@ TEST(Records, FollowTheGame) {
   const auto twelve = [&] { return map->model()->index(1, 1).data(Qt::ToolTipRole).toString(); };
   EXPECT_EQ(twelve(), "Number 12: no best time yet");
   record.BestSeconds = 59;
-  game.front_end.Events().Send({});
+  Event tick;
+  tick.kind = EventKind::Timer;
+  game.front_end.Events().Send(tick);
   EXPECT_EQ(twelve(), "Number 12: 00:59 by somebody else");
   EXPECT_TRUE(window->findChild<QListWidget*>()->item(0)->text().startsWith("somebody else: "));
   QTest::keyClick(window, Qt::Key_Escape);
