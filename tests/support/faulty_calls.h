@@ -43,7 +43,7 @@ class FaultyCalls final : public SystemCalls {
   static constexpr int kKilled = 99;  // the exit status of a process that KillAt ended
 
   ssize_t Write(int file, const void* buffer, std::size_t size) override {
-    if (count_ + 1 == kill_at_) (void)::write(file, buffer, size / 2);
+    if (count_ + 1 == kill_at_) (void)SystemCalls::Write(file, buffer, size / 2);
     return SystemCalls::Write(file, buffer, std::min(size, write_at_most_));
   }
   int Fsync(int) override { return Allowed(Call::kFsync) ? 0 : -1; }

@@ -7,6 +7,7 @@
 #include <istream>
 #include <ostream>
 
+#include "core/check.h"
 #include "ui/script/parsing.h"
 #include "ui/script/texts.h"
 
@@ -140,7 +141,9 @@ ScriptRunner::LineKind ScriptRunner::Execute(std::string_view line) {
 bool ScriptRunner::CarryOut(const std::string& line, int line_number) {
   line_number_ = line_number;
   const CommandLine parts = SplitCommand(line);
-  (void)(this->*FindCommand(parts.word)->handler)(parts.rest);
+  const Command* command = FindCommand(parts.word);
+  Require(command != nullptr);  // looked up when the line was kept
+  (void)(this->*command->handler)(parts.rest);
   line_number_ = lines_read_;
   return !failed_;
 }
