@@ -29,5 +29,6 @@ function(kestrel_test name)
     target_precompile_headers(${name}_test REUSE_FROM kestrel_test_support)
   endif()
   target_compile_definitions(${name}_test PRIVATE KESTREL_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-  gtest_discover_tests(${name}_test TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60)
+  gtest_discover_tests(${name}_test TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
+                       PROPERTIES ENVIRONMENT LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp)
 endfunction()

@@ -12,6 +12,7 @@ seconds=${1:-5}
 [ $# -gt 0 ] || set -- stock settings script cli
 
 cmake --preset asan >/dev/null
+export LSAN_OPTIONS=suppressions=$PWD/tests/support/leaks.supp
 for name in "$@"; do
   cmake --build build/asan --target "fuzz-$name"
 done
