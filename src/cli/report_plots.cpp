@@ -70,7 +70,10 @@ struct Scale {
   [[nodiscard]] std::vector<double> Marks(double count) const {
     const double step = RoundStep(highest - lowest, count);
     std::vector<double> marks;
-    for (double at = std::ceil(lowest / step) * step; at <= highest; at += step) marks.push_back(at);
+    const std::int64_t last = std::llround(std::floor(highest / step));
+    for (std::int64_t i = std::llround(std::ceil(lowest / step)); i <= last; ++i) {
+      marks.push_back(static_cast<double>(i) * step);
+    }
     return marks;
   }
 };
