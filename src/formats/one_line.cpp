@@ -75,10 +75,12 @@ bool ReadPlacedGrid(std::string_view text, Puzzle& puzzle, PuzzleState& state) {
 
 bool RemoveCandidate(std::string_view text, PuzzleState& state) {
   if (text.empty()) return true;
-  const auto number = [&](std::size_t i) { return text[i] >= '1' && text[i] <= '9' ? text[i] - '0' : 0; };
-  if (text.size() != 3 || number(0) == 0 || number(1) == 0 || number(2) == 0) return false;
-  CandidateMask& cell = state.candidates[9 * (number(1) - 1) + number(2) - 1];
-  cell &= static_cast<CandidateMask>(~DigitBit(number(0)));
+  if (text.size() != 3 || !std::ranges::all_of(text, [](char c) { return c >= '1' && c <= '9'; })) {
+    return false;
+  }
+  const int digit = text[0] - '0';
+  CandidateMask& cell = state.candidates[RowCell[text[1] - '1'][text[2] - '1']];
+  cell &= static_cast<CandidateMask>(~DigitBit(digit));
   return true;
 }
 

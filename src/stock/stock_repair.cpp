@@ -29,7 +29,7 @@ class Repairer {
       std::ranges::stable_sort(records, {}, &SudokuRecord::Score);
       for (int i = 0; i < kPuzzlesPerLevel; ++i) repair_.stock(level, i + 1) = records[i];
     }
-    return std::move(repair_);
+    return repair_;
   }
 
  private:
