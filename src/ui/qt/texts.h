@@ -59,7 +59,8 @@ inline constexpr const char* kRecordsMap = "Best times of the 100 puzzles";
 inline constexpr const char* kRecordsPlot = "Best times against scores";
 inline constexpr const char* kRecordsHolders = "Who holds how many best times";
 inline constexpr const char* kNoRecords = "Nobody yet: solve a puzzle under a player's name";
-inline constexpr const char* kRecordsHelp = "The stronger a puzzle's colour, the better its time within the level.";
+inline constexpr const char* kRecordsHelp =
+    "The stronger a puzzle's colour, the better its time within the level.";
 inline constexpr const char* kMapOfNumbers = "click a puzzle to fill in its number";
 inline constexpr const char* kScore = "score";
 inline constexpr const char* kTimeAxis = "best time (minutes:seconds)";
