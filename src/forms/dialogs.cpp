@@ -33,6 +33,7 @@ void DesignPrintChoices(FormPrint& form) {
   for (const std::string_view name : texts::kLevelNames) form.SudokuTypeKeuze.lines.emplace_back(name);
   form.SudokuTypeKeuze.index = 0;
   form.SudokuTypeKeuze.tab_index = 0;
+  form.SudokuTypeKeuze.spoken = texts::kPrintLevel;
   PlaceLabel(form.Label3, 180, 705, 1275, "From number");
   Place(form.TextFrom, 1500, 660, 600, 345);
   form.TextFrom.text = "1";

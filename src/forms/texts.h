@@ -56,6 +56,7 @@ inline constexpr std::array<std::string_view, 3> kPerPage = {"1 puzzle a page", 
 inline constexpr std::string_view kPreview = "Example of a page of this kind";
 inline constexpr std::string_view kFirstPage = "The first page, as it will be printed";
 inline constexpr std::string_view kOutcome = "What became of the last printing";
+inline constexpr std::string_view kPrintLevel = "Level to print";
 inline constexpr std::string_view kFirstNumber = "First puzzle number";
 inline constexpr std::string_view kPageCount = "Pages to print";
 inline constexpr std::string_view kToOne = "to 1";

@@ -8,7 +8,6 @@
 #include "media/sounds.h"
 #include "media/web_link.h"
 #include "support/temp_folder.h"
-#include "ui/memory/memory_desk.h"
 #include "ui/memory/recording_ports.h"
 
 namespace kestrel {
@@ -20,9 +19,18 @@ class LineList final : public Transcript {
   std::vector<std::string> lines;
 };
 
-class NoInput final : public InputSource {
+// Keeps what is asked, among the other lines.
+class Listener final : public Asker {
  public:
-  bool NextAction() override { return false; }
+  explicit Listener(LineList& lines) : lines_(lines) {}
+  Answer Message(const MessageBox& box) override {
+    lines_.Line(box.title + ": " + box.text);
+    return Answer::Ok;
+  }
+  std::optional<std::string> Input(const InputBox&) override { return std::nullopt; }
+
+ private:
+  LineList& lines_;
 };
 
 // A device that takes every second file, and gives ids of its own.
@@ -68,20 +76,18 @@ TEST(WebLink, ReportsWhatFails) {
     bool has_browser, starts;
     std::string line;
   };
-  const std::vector<Case> cases = {
-      {true, true, "shell " + std::string(kWebSite)},
-      {true, false, R"(message "URL Failed" "Web Page not Opened" exclamation OK)"},
-      {false, true, R"(message "Browser Not Found" "Could not find associated Browser" exclamation OK)"}};
+  const std::vector<Case> cases = {{true, true, "shell " + std::string(kWebSite)},
+                                   {true, false, "URL Failed: Web Page not Opened"},
+                                   {false, true, "Browser Not Found: Could not find associated Browser"}};
   SystemCalls calls;
   HostFiles files(calls);
   for (const Case& test : cases) {
     for (const bool writable : {true, false}) {
       const TempFolder folder;
       LineList lines;
-      NoInput input;
-      MemoryDesk desk(input, lines);
+      Listener asker(lines);
       MemoryShell shell(test.has_browser, test.starts, lines);
-      OpenWebSite(kWebSite, writable ? folder.Written() : folder.Written("gone\\"), files, shell, desk);
+      OpenWebSite(kWebSite, writable ? folder.Written() : folder.Written("gone\\"), files, shell, asker);
       EXPECT_EQ(lines.lines, std::vector{test.line});
       EXPECT_EQ(folder.Count(), 0);
     }

@@ -9,62 +9,9 @@
 #include <QTest>
 
 #include "qt/qt_game.h"
-#include "ui/qt/input_widgets.h"
-#include "ui/qt/small_widgets.h"
-#include "ui/qt/text_conversion.h"
 
 namespace kestrel::testing {
 namespace {
-
-// What a widget shows of its control.
-template <class C>
-void ExpectShown(const QWidget& widget, const C& control) {
-  if constexpr (requires { control.value; }) {
-    const char* property = std::is_same_v<C, ProgressBar> ? "value" : "checked";
-    EXPECT_EQ(widget.property(property).toInt(), static_cast<int>(control.value));
-  } else if constexpr (std::is_same_v<C, Button>) {
-    EXPECT_EQ(widget.property("text").toString(), WithMnemonic(control.caption, control.mnemonic));
-  } else if constexpr (std::is_same_v<C, StatusPanel>) {
-    EXPECT_EQ(dynamic_cast<const StatusLabel&>(widget).Caption(), ToQString(control.caption));
-  } else if constexpr (std::is_same_v<C, Label>) {
-    const auto* text = dynamic_cast<const TextLabel*>(&widget);
-    EXPECT_EQ(text != nullptr ? text->Caption() : widget.property("text").toString(),
-              ToQString(control.caption));
-  }
-}
-
-int ExpectAllShown(QtGame& game) {
-  int compared = 0;
-  EachControl(game.Main(), [&](ControlId id, auto& control) {
-    QWidget* widget = game.front_end.Windows().WidgetOf(FormId::Main, id);
-    if (widget == nullptr) return;
-    ++compared;
-    const std::string name = FullName(id);
-    SCOPED_TRACE(name);
-    EXPECT_EQ(widget->objectName().toStdString(), name);
-    EXPECT_EQ(widget->isEnabled(), control.enabled);
-    EXPECT_EQ(!widget->isHidden(), control.visible);
-    EXPECT_EQ(widget->mapTo(&game.Window(), QPoint(0, 0)), QtGame::Corner(control));
-    const TipState state{game.State().play.puzzle.MarksAreCandidates(), 0};
-    const std::string tip = StateTip(game.Main(), state, id);
-    EXPECT_EQ(widget->toolTip(), ToQString(tip.empty() ? control.tooltip : tip));
-    EXPECT_FALSE(widget->accessibleName().isEmpty() && !widget->isHidden() && id.name != "StatusBar");
-    ExpectShown(*widget, control);
-  });
-  EXPECT_EQ(game.Window().windowTitle(), ToQString(game.Main().window.caption));
-  return compared;
-}
-
-TEST(Mirror, ShowsTheControlsInEveryState) {
-  QtGame game;
-  // All but window, timer, and what the board paints.
-  EXPECT_EQ(ExpectAllShown(game), 44 + 3 + 5 + 5 + 6 + 3 + 11 + 5);
-  for (const char* pressed : {"OptionType(3)", "CommandNew", "CommandHint", "CommandSolution"}) {
-    game.ClickControl(pressed);
-    ExpectAllShown(game);
-  }
-  EXPECT_EQ(game.Main().StatusBar(1).caption, "Level: Medium");
-}
 
 // A change that the logic makes reaches the widget and does not come back as the user's.
 TEST(Mirror, DoesNotEchoTheLogic) {

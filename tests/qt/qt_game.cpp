@@ -19,9 +19,7 @@ QtGame::QtGame(int level) {
   program_folder.Put(kStockFileName, {reinterpret_cast<const char*>(stock.data()), stock.size()});
   QObject::connect(&watch_, &QTimer::timeout, [this] { WatchBoxes(); });
   watch_.start(2);
-  // Where a game has ended outside exec(), Qt refuses new loops until exec() has run.
-  QTimer::singleShot(0, [] { QCoreApplication::exit(); });
-  QCoreApplication::exec();
+  AllowLoops();
   if (level == kNotStarted) return;
   EXPECT_TRUE(front_end.Events().Start());
   Settle();
@@ -75,6 +73,11 @@ void QtGame::ExpectBox(const QString& title, const QString& button) {
     EXPECT_EQ(box.windowTitle(), title);
     PressCaption(box, button);
   });
+}
+
+void AllowLoops() {
+  QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+  QCoreApplication::exec();
 }
 
 void PressCaption(QWidget& box, const QString& caption) {

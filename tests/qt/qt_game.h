@@ -96,6 +96,9 @@ class QtGame {
   QTimer watch_;
 };
 
+// Where a game has ended outside exec(), Qt refuses new loops until exec() has run.
+void AllowLoops();
+
 // Presses a button of a box or dialog by its caption, mnemonic left out.
 void PressCaption(QWidget& box, const QString& caption);
 

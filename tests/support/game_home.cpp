@@ -62,12 +62,12 @@ Played GameHome::Play(std::string_view script) {
   return Play(script, files_, yield);
 }
 
-Played GameHome::Play(std::string_view script, Files& files, Yield& yield) {
+Played GameHome::Play(std::string_view script, Files& files, Yield& yield, Stage* stage) {
   std::istringstream lines{std::string(script)};
   std::ostringstream output;
   std::ostringstream errors;
   Played played;
-  played.status = ScriptRunner(options, files, yield, lines, output, errors).Run();
+  played.status = ScriptRunner(options, files, yield, lines, output, errors, stage).Run();
   played.output = output.str();
   played.errors = errors.str();
   ReplaceAll(played.output, home.Path().string(), "HOME");

@@ -12,6 +12,10 @@
 #include "support/temp_folder.h"
 #include "ui/script/command_line.h"
 
+namespace kestrel {
+class Stage;
+}  // namespace kestrel
+
 namespace kestrel::testing {
 
 // What playing a script gave.
@@ -42,7 +46,11 @@ class GameHome {
   // folders' names in the output are replaced by HOME and PROGRAM.
   Played Play(std::string_view script);
   // The same with other files or another yield underneath.
-  Played Play(std::string_view script, Files& files, Yield& yield);
+  Played Play(std::string_view script, Files& files, Yield& yield, Stage* stage = nullptr);
+  // The same on another front end.
+  Played Play(std::string_view script, Yield& yield, Stage& stage) {
+    return Play(script, files_, yield, &stage);
+  }
 
   // The user's stock as it is on the disk now.
   [[nodiscard]] StockTable Stock();

@@ -2,60 +2,43 @@
 #include "ui/memory/memory_desk.h"
 
 #include <algorithm>
-#include <array>
+#include <type_traits>
 
-#include "ui/memory/json_string.h"
+#include "core/text.h"
+#include "ui/memory/transcript.h"
 
 namespace kestrel {
 
 namespace {
 
-std::string_view IconName(MessageIcon icon) {
-  constexpr std::array<std::string_view, 5> kNames = {"none", "critical", "exclamation", "information",
-                                                      "question"};
-  return kNames[static_cast<std::size_t>(icon)];
-}
-
-std::vector<Answer> ButtonsOf(MessageButtons buttons) {
-  switch (buttons) {
-    case MessageButtons::OkCancel:
-      return {Answer::Ok, Answer::Cancel};
-    case MessageButtons::YesNo:
-      return {Answer::Yes, Answer::No};
-    case MessageButtons::Ok:
-      break;
+void TypeKeys(TextBox& box, std::string_view text) {
+  for (std::size_t i = 0; i < text.size();) {
+    // A key is a character, not a byte.
+    const std::size_t bytes = std::max<std::size_t>(CharacterBytes(text.substr(i)), 1);
+    const std::string_view key = text.substr(i, bytes);
+    i += bytes;
+    const bool printable = static_cast<unsigned char>(key[0]) >= ' ';
+    const bool digit = key[0] >= '0' && key[0] <= '9';
+    if (!printable || (box.digits_only && !digit)) continue;
+    if (box.max_length > 0 && CharacterCount(box.text) >= static_cast<std::size_t>(box.max_length)) continue;
+    box.text += key;
   }
-  return {Answer::Ok};
-}
-
-// The name by which scripts know a window.
-std::string FormName(FormId form) {
-  constexpr std::array<std::string_view, 4> kNames = {"MainWindow", "FormNamen", "FormPrint", "Browser"};
-  return std::string(kNames[static_cast<std::size_t>(form)]);
 }
 
 }  // namespace
 
-std::string_view ButtonCaption(Answer answer) {
-  constexpr std::array<std::string_view, 5> kCaptions = {"", "OK", "Cancel", "Yes", "No"};
-  return kCaptions[static_cast<std::size_t>(answer)];
+void MemoryDesk::Attach(GameLoop& game, InputSource& input) {
+  game_ = &game;
+  input_ = &input;
 }
+
+// ---- what the game asks ----
 
 Answer MemoryDesk::Message(const MessageBox& box) {
-  std::vector<Answer> buttons = ButtonsOf(box.buttons);
-  std::string captions;
-  for (const Answer button : buttons) {
-    captions += captions.empty() ? "" : ",";
-    captions += ButtonCaption(button);
-  }
-  transcript_.Line("message " + JsonString(box.title) + " " + JsonString(box.text) + " " +
-                   std::string(IconName(box.icon)) + " " + captions);
-  return RunBox({.buttons = std::move(buttons)}).answer;
+  return RunBox({.buttons = AnswersOf(box.buttons)}).answer;
 }
 
-std::optional<std::string> MemoryDesk::Input(const InputBox& box) {
-  transcript_.Line("input " + JsonString(box.title) + " " + JsonString(box.prompt) + " " +
-                   JsonString(box.proposal));
+std::optional<std::string> MemoryDesk::Input(const InputBox& /*box*/) {
   Box answered = RunBox({.buttons = {Answer::Ok, Answer::Cancel}, .is_input = true});
   if (answered.answer == Answer::Ended) return std::nullopt;
   return std::move(answered.text);
@@ -63,11 +46,43 @@ std::optional<std::string> MemoryDesk::Input(const InputBox& box) {
 
 MemoryDesk::Box MemoryDesk::RunBox(Box box) {
   boxes_.push_back(std::move(box));
-  while (!boxes_.back().answered && input_.NextAction()) {
+  while (!boxes_.back().answered && input_->NextAction()) {
   }
   Box done = std::move(boxes_.back());
   boxes_.pop_back();
   return done;
+}
+
+void MemoryDesk::Show(FormId form) {
+  Window& window = game_->Controls().WindowOf(form);
+  if (window.open) return;
+  window.open = true;
+  if (window.modal) dialogs_.push_back(form);
+}
+
+void MemoryDesk::Hide(FormId form) {
+  game_->Controls().WindowOf(form).open = false;
+  std::erase(dialogs_, form);
+}
+
+bool MemoryDesk::WaitUntilHidden(FormId form) {
+  while (game_->Controls().WindowOf(form).open) {
+    if (!input_->NextAction()) return false;
+  }
+  return true;
+}
+
+// ---- what the user meets ----
+
+std::optional<FormId> MemoryDesk::ModalForm() const {
+  if (dialogs_.empty()) return std::nullopt;
+  return dialogs_.back();
+}
+
+Reach MemoryDesk::Check(FormId form, ControlId /*id*/, const Control& control) {
+  if (BoxOpen() || (!dialogs_.empty() && dialogs_.back() != form)) return Reach::Modal;
+  if (!control.visible || !game_->Controls().WindowOf(form).open) return Reach::Hidden;
+  return control.enabled ? Reach::Done : Reach::Disabled;
 }
 
 bool MemoryDesk::GiveAnswer(std::string_view text) {
@@ -90,44 +105,84 @@ bool MemoryDesk::PressButton(Box& box, std::string_view caption) {
   return true;
 }
 
-void MemoryDesk::Show(FormId form) {
-  Window& window = forms_->WindowOf(form);
-  if (window.open) return;
-  window.open = true;
-  if (window.modal) dialogs_.push_back(form);
-  if (form != FormId::Main) transcript_.Line("dialog " + FormName(form) + " shown");
+// ---- what the user does ----
+
+// Calls change(control) for the control of that name, if it is of a kind that `change` takes.
+template <class Change>
+void MemoryDesk::With(ControlId id, Change change) {
+  EachControl(game_->Controls(), [&](FormId, ControlId each, auto& control) {
+    if constexpr (std::is_invocable_v<Change, decltype(control)>) {
+      if (each == id) change(control);
+    }
+  });
 }
 
-void MemoryDesk::Hide(FormId form) {
-  Window& window = forms_->WindowOf(form);
-  if (!window.open) return;
-  window.open = false;
-  std::erase(dialogs_, form);
-  if (form != FormId::Main) transcript_.Line("dialog " + FormName(form) + " hidden");
+void MemoryDesk::Send(FormId form, ControlId id, EventKind kind, Key key) {
+  game_->Handle({.form = form, .control = id, .kind = kind, .key = key});
 }
 
-bool MemoryDesk::WaitUntilHidden(FormId form) {
-  while (forms_->WindowOf(form).open) {
-    if (!input_.NextAction()) return false;
-  }
-  return true;
+void MemoryDesk::Click(FormId form, ControlId id) {
+  bool reacts = true;
+  With(id, [&](Label& label) { reacts = label.link || id.name == "LabelCount"; });
+  With(id, [&](Picture& picture) { reacts = picture.tab_index >= 0; });
+  With(id, [&](CheckBox& box) { box.value = !box.value; });
+  With(id, [&](OptionButton& option) { reacts = !option.value; });
+  if (!reacts) return;
+  EachControl(game_->Controls(), [&](FormId, ControlId each, auto& other) {
+    if constexpr (std::is_same_v<std::remove_cvref_t<decltype(other)>, OptionButton>) {
+      if (each.name == id.name) other.value = each.index == id.index;
+    }
+  });
+  Send(form, id, EventKind::Click);
 }
 
-// The user's actions name the control themselves.
-void MemoryDesk::Focus(FormId, ControlId) {
+void MemoryDesk::Release(ControlId id, MouseButton button, int x, int y) {
+  game_->Handle({.control = id, .kind = EventKind::Release, .button = button, .x = x, .y = y});
 }
 
-void MemoryDesk::Beep() {
-  transcript_.Line("beep");
+void MemoryDesk::SelectLine(FormId form, ControlId id, int line) {
+  With(id, [line](ListBox& list) { list.index = line; });
+  With(id, [line](ComboBox& combo) { combo.index = line; });
+  Send(form, id, EventKind::Click);
 }
 
-std::optional<FormId> MemoryDesk::ModalForm() const {
-  if (dialogs_.empty()) return std::nullopt;
-  return dialogs_.back();
+void MemoryDesk::DoubleClickLine(FormId form, ControlId id, int line) {
+  SelectLine(form, id, line);
+  Send(form, id, EventKind::DoubleClick);
 }
 
-bool MemoryDesk::Reachable(FormId form) const {
-  return !BoxOpen() && (dialogs_.empty() || dialogs_.back() == form);
+void MemoryDesk::MoveSlider(FormId form, ControlId id, int value) {
+  With(id, [value](Slider& slider) { slider.value = value; });
+  Send(form, id, EventKind::Change);
+}
+
+void MemoryDesk::Type(FormId /*form*/, ControlId id, std::string_view text) {
+  With(id, [text](TextBox& box) { TypeKeys(box, text); });
+}
+
+void MemoryDesk::Clear(FormId /*form*/, ControlId id) {
+  With(id, [](TextBox& box) { box.text.clear(); });
+}
+
+void MemoryDesk::PressKey(FormId form, ControlId id, Key key) {
+  Send(form, id, EventKind::Key, key);
+}
+
+void MemoryDesk::Leave(FormId form, ControlId id) {
+  Send(form, id, EventKind::Leave);
+}
+
+void MemoryDesk::SetWindowState(WindowState state) {
+  game_->Controls().main.window.state = state;
+  Send(FormId::Main, {"MainWindow"}, EventKind::Resize);
+}
+
+void MemoryDesk::Close(FormId form) {
+  Send(form, form == FormId::Main ? ControlId{"MainWindow"} : ControlId{}, EventKind::Close);
+}
+
+void MemoryDesk::Tick() {
+  Send(FormId::Main, {"Timer1"}, EventKind::Timer);
 }
 
 }  // namespace kestrel

@@ -2,12 +2,29 @@
 #include "ui/memory/recording_ports.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 #include "core/stock_file.h"
 #include "ui/memory/json_string.h"
 
 namespace kestrel {
+
+namespace {
+
+std::string_view IconName(MessageIcon icon) {
+  constexpr std::array<std::string_view, 5> kNames = {"none", "critical", "exclamation", "information",
+                                                      "question"};
+  return kNames[static_cast<std::size_t>(icon)];
+}
+
+// The name by which scripts know a window.
+std::string FormName(FormId form) {
+  constexpr std::array<std::string_view, 4> kNames = {"MainWindow", "FormNamen", "FormPrint", "Browser"};
+  return std::string(kNames[static_cast<std::size_t>(form)]);
+}
+
+}  // namespace
 
 bool MemoryFolders::Find(int folder_id, std::string& path) {
   if (folder_id != kLocalAppData) return false;
@@ -53,8 +70,43 @@ void MemorySound::Play(std::int32_t id) {
   if (exists_[static_cast<std::size_t>(id)] || !any) transcript_.Line("sound " + std::to_string(id));
 }
 
-void MemoryHelp::Navigate(std::string_view page) {
+Answer RecordingStage::Message(const MessageBox& box) {
+  std::string captions;
+  for (const Answer button : AnswersOf(box.buttons)) {
+    captions += captions.empty() ? "" : ",";
+    captions += ButtonCaption(button);
+  }
+  transcript_.Line("message " + JsonString(box.title) + " " + JsonString(box.text) + " " +
+                   std::string(IconName(box.icon)) + " " + captions);
+  return inner_.Message(box);
+}
+
+std::optional<std::string> RecordingStage::Input(const InputBox& box) {
+  transcript_.Line("input " + JsonString(box.title) + " " + JsonString(box.prompt) + " " +
+                   JsonString(box.proposal));
+  return inner_.Input(box);
+}
+
+void RecordingStage::Show(FormId form) {
+  if (forms_->WindowOf(form).open) return;
+  inner_.Show(form);
+  if (form != FormId::Main) transcript_.Line("dialog " + FormName(form) + " shown");
+}
+
+void RecordingStage::Hide(FormId form) {
+  if (!forms_->WindowOf(form).open) return;
+  inner_.Hide(form);
+  if (form != FormId::Main) transcript_.Line("dialog " + FormName(form) + " hidden");
+}
+
+void RecordingStage::Beep() {
+  transcript_.Line("beep");
+  inner_.Beep();
+}
+
+void RecordingStage::Navigate(std::string_view page) {
   transcript_.Line("browse " + JsonString(page));
+  inner_.Navigate(page);
 }
 
 std::optional<std::string> MemoryShell::FindExecutable(std::string_view) {

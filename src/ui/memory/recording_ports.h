@@ -11,9 +11,9 @@
 #include "core/files.h"
 #include "core/global.h"
 #include "core/settings.h"
-#include "forms/help_window.h"
 #include "forms/shell.h"
 #include "forms/sound_device.h"
+#include "ui/memory/stage.h"
 #include "ui/memory/transcript.h"
 
 namespace kestrel {
@@ -91,14 +91,29 @@ class MemorySound final : public SoundDevice {
   std::vector<bool> exists_;  // by id
 };
 
-// Reports "browse PAGE".
-class MemoryHelp final : public HelpWindow {
+// Reports boxes before they open, "dialog NAME shown" and "hidden" for the windows beside the main one, "beep"
+// and "browse PAGE".
+class RecordingStage final : public Asker, public Screen, public HelpWindow {
  public:
-  explicit MemoryHelp(Transcript& transcript) : transcript_(transcript) {}
+  RecordingStage(Stage& inner, Transcript& transcript) : inner_(inner), transcript_(transcript) {}
+  // Before Start.
+  void Attach(Forms& forms) { forms_ = &forms; }
+
+  [[nodiscard]] Answer Message(const MessageBox& box) override;
+  [[nodiscard]] std::optional<std::string> Input(const InputBox& box) override;
+  int Width() override { return inner_.Width(); }
+  int Height() override { return inner_.Height(); }
+  void Show(FormId form) override;
+  void Hide(FormId form) override;
+  [[nodiscard]] bool WaitUntilHidden(FormId form) override { return inner_.WaitUntilHidden(form); }
+  void Focus(FormId form, ControlId control) override { inner_.Focus(form, control); }
+  void Beep() override;
   void Navigate(std::string_view page) override;
 
  private:
+  Stage& inner_;
   Transcript& transcript_;
+  Forms* forms_ = nullptr;
 };
 
 // Reports "shell ADDRESS".

@@ -5,6 +5,9 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "forms/asker.h"
 
 namespace kestrel {
 
@@ -19,6 +22,10 @@ class Transcript {
 
 // "true" or "false".
 std::string TruthValue(bool value);
+
+// The buttons of a message box from the left, and the caption of each: "OK", "Cancel", "Yes", "No".
+std::vector<Answer> AnswersOf(MessageButtons buttons);
+std::string_view ButtonCaption(Answer answer);
 
 // A number of points: no decimals when it is whole.
 std::string Points(double points);

@@ -1,29 +1,18 @@
 // SPDX-License-Identifier: MIT
-// What a user can do to the controls, with the rules of a real window: what is disabled, hidden or behind a
-// modal dialog gets nothing. Used by the script front end and by tests.
+// What a user can do to the controls by their names, with the rules of a real window: what is disabled, hidden
+// or behind a modal dialog gets nothing. Used by the script front end and by tests.
 #pragma once
 
-#include <cstdint>
-#include <string>
 #include <string_view>
 
-#include "forms/ports.h"
-#include "ui/memory/memory_desk.h"
+#include "ui/memory/stage.h"
 
 namespace kestrel {
-
-enum class Reach : std::uint8_t {
-  Done,      // the control got it
-  Modal,     // the control lies behind a box or a modal dialog
-  Hidden,    // it is hidden, or its window is not on the screen
-  Disabled,  // it is disabled
-  NoSuch     // there is no control of that name that could take it, or no such line or value
-};
 
 class User {
  public:
   // Both must outlive this object.
-  User(GameLoop& game, MemoryDesk& desk) : game_(game), desk_(desk) {}
+  User(GameLoop& game, Stage& stage) : game_(game), stage_(stage) {}
 
   // `name` is a control's full name: "CommandNew", "OptionType(3)".
   Reach Press(std::string_view name);
@@ -37,6 +26,8 @@ class User {
   Reach PressKey(std::string_view name, Key key);
   Reach Leave(std::string_view name);
 
+  // True when the main window gets no input.
+  [[nodiscard]] bool MainBlocked() const;
   // The main window's state; nothing happens when it has that state.
   Reach SetWindowState(WindowState state);
   // The close button of the main window, or of the dialog or else the help window that is open.
@@ -49,11 +40,11 @@ class User {
  private:
   template <class Action>
   Reach Find(std::string_view name, Action action);
-  [[nodiscard]] Reach Check(FormId form, const Control& control) const;
-  void Send(FormId form, ControlId control, EventKind kind, Key key = Key::None);
+  template <class Action>
+  Reach FindTextBox(std::string_view name, Action action);
 
   GameLoop& game_;
-  MemoryDesk& desk_;
+  Stage& stage_;
 };
 
 }  // namespace kestrel

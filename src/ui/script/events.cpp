@@ -108,13 +108,13 @@ ScriptRunner::LineKind ScriptRunner::Leave(std::string_view rest) {
 }
 
 ScriptRunner::LineKind ScriptRunner::Answer(std::string_view rest) {
-  if (!desk_.GiveAnswer(rest)) return Fail(std::string(texts::kNoButton) + std::string(rest));
+  if (!stage_.GiveAnswer(rest)) return Fail(std::string(texts::kNoButton) + std::string(rest));
   return LineKind::Event;
 }
 
 ScriptRunner::LineKind ScriptRunner::Cancel(std::string_view rest) {
   if (!Words(rest).empty()) return Fail(BadArguments(rest));
-  if (!desk_.GiveCancel()) return Fail(std::string(texts::kNoButton) + "cancel");
+  if (!stage_.GiveCancel()) return Fail(std::string(texts::kNoButton) + "cancel");
   return LineKind::Event;
 }
 
@@ -156,7 +156,7 @@ ScriptRunner::LineKind ScriptRunner::Rounds(std::string_view rest) {
   const auto words = Words(rest);
   const auto count = words.size() == 1 ? ParseNumber<unsigned>(words[0]) : std::nullopt;
   if (!count) return Fail(BadArguments(rest));
-  if (desk_.MainBlocked()) return Report("rounds", Reach::Modal);
+  if (user_.MainBlocked()) return Report("rounds", Reach::Modal);
   for (unsigned i = 0; i < *count && game_.End() == EndReason::None; ++i) (void)game_.Round();
   FinishWork();
   return LineKind::Question;
@@ -166,7 +166,7 @@ ScriptRunner::LineKind ScriptRunner::Renew(std::string_view rest) {
   const auto words = Words(rest);
   const auto most = words.size() == 1 ? ParseNumber<unsigned>(words[0]) : std::nullopt;
   if (!most) return Fail(BadArguments(rest));
-  if (desk_.MainBlocked()) return Report("renew", Reach::Modal);
+  if (user_.MainBlocked()) return Report("renew", Reach::Modal);
   unsigned rounds = 0;
   while (rounds < *most && game_.State().stockroom.RenewingLevel != 0 && game_.End() == EndReason::None) {
     (void)game_.Round();

@@ -18,7 +18,7 @@ void StreamTranscript::Line(std::string_view line) {
 }
 
 ScriptRunner::ScriptRunner(const ScriptOptions& options, Files& files, Yield& yield, std::istream& script,
-                           std::ostream& out, std::ostream& errors)
+                           std::ostream& out, std::ostream& errors, Stage* stage)
     : script_(script),
       errors_(errors),
       transcript_(out),
@@ -28,18 +28,19 @@ ScriptRunner::ScriptRunner(const ScriptOptions& options, Files& files, Yield& yi
       settings_file_(files, options.settings),
       settings_(settings_file_, transcript_),
       seeds_(options.seed),
-      desk_(*this, transcript_),
+      stage_(stage != nullptr ? *stage : desk_),
+      windows_(stage_, transcript_),
       sound_(options.sound, files, transcript_),
-      help_(transcript_),
       shell_(options.browser, true, transcript_),
       printer_(options.printer, transcript_),
       kept_lines_(yield, transcript_,
                   [this](const std::string& line, int number) { return CarryOut(line, number); }),
-      game_({program_, folders_, files_, settings_, clock_, seeds_, kept_lines_, desk_, desk_, sound_, help_,
-             shell_, printer_}),
-      user_(game_, desk_) {
+      game_({program_, folders_, files_, settings_, clock_, seeds_, kept_lines_, windows_, windows_, sound_,
+             windows_, shell_, printer_}),
+      user_(game_, stage_) {
   clock_.Set(options.time);
-  desk_.Attach(game_.Controls());
+  stage_.Attach(game_, *this);
+  windows_.Attach(game_.Controls());
 }
 
 int ScriptRunner::Run() {

@@ -40,9 +40,10 @@ class StreamTranscript final : public Transcript {
 
 class ScriptRunner final : private InputSource {
  public:
-  // All references must outlive this object. `yield` is asked by the game's computations and rounds.
+  // All references must outlive this object. `yield` is asked by the game's computations and rounds. The game
+  // is played on `stage`; in memory when there is none.
   ScriptRunner(const ScriptOptions& options, Files& files, Yield& yield, std::istream& script,
-               std::ostream& out, std::ostream& errors);
+               std::ostream& out, std::ostream& errors, Stage* stage = nullptr);
 
   // Starts the game and plays the whole script. Returns the exit status.
   int Run();
@@ -129,8 +130,9 @@ class ScriptRunner final : private InputSource {
   MemoryClock clock_;
   FixedSeeds seeds_;
   MemoryDesk desk_;
+  Stage& stage_;
+  RecordingStage windows_;
   MemorySound sound_;
-  MemoryHelp help_;
   MemoryShell shell_;
   MemoryPrinter printer_;
   KeptLines kept_lines_;
