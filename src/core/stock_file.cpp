@@ -135,7 +135,12 @@ void KeepOlderStock(Files& files, std::string_view data_folder) {
   bool whole = bytes.size() == kStockBytes;
   EachRecord(
       [&](int level, int number) { whole = whole && CheckRecord((*stock)(level, number), level).empty(); });
-  if (whole) (void)files.Replace(path + std::string(kOlderStockEnding), bytes);
+  if (!whole) return;
+  // Most starts find what the last one kept; flushing it to the disk again would take a part of each.
+  const std::string older = path + std::string(kOlderStockEnding);
+  Bytes kept;
+  if (files.Length(older) == kStockBytes && files.Read(older, kStockBytes, kept) && kept == bytes) return;
+  (void)files.Replace(older, bytes);
 }
 
 FileResult ReadStock(Files& files, std::string_view data_folder, StockTable& table,

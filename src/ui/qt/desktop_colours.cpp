@@ -12,19 +12,15 @@ namespace kestrel {
 
 namespace {
 
+constexpr const char* kAddress = "DBUS_SESSION_BUS_ADDRESS";
+constexpr const char* kNoBus = "disabled:";
+
 constexpr const char* kService = "org.freedesktop.portal.Desktop";
 constexpr const char* kPath = "/org/freedesktop/portal/desktop";
 constexpr const char* kInterface = "org.freedesktop.portal.Settings";
 constexpr const char* kAppearance = "org.freedesktop.appearance";
 constexpr const char* kColourScheme = "color-scheme";  // 1: dark, 2: light
 constexpr const char* kContrast = "contrast";          // 1: high
-
-// A bus that is there; looking for one must not start one.
-bool HasSessionBus() {
-  if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) return true;
-  const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
-  return !folder.isEmpty() && QFileInfo::exists(folder + QStringLiteral("/bus"));
-}
 
 // The portal wraps a value once or twice, after its age.
 QVariant Unwrapped(QVariant value) {
@@ -33,6 +29,18 @@ QVariant Unwrapped(QVariant value) {
 }
 
 }  // namespace
+
+void StartNoSessionBus() {
+  if (qEnvironmentVariableIsSet(kAddress)) return;
+  const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  if (folder.isEmpty() || !QFileInfo::exists(folder + QStringLiteral("/bus"))) qputenv(kAddress, kNoBus);
+}
+
+QProcessEnvironment EnvironmentForOthers() {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  if (environment.value(kAddress) == QLatin1String(kNoBus)) environment.remove(kAddress);
+  return environment;
+}
 
 DesktopColours::DesktopColours() {
   const QString theme = qEnvironmentVariable("GTK_THEME");
@@ -56,7 +64,6 @@ Scheme DesktopColours::SchemeFor(ColourChoice choice) const {
 }
 
 void DesktopColours::Watch() {
-  if (!HasSessionBus()) return;
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
   bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,

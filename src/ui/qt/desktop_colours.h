@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <QProcessEnvironment>
 #include <functional>
 
 #include "ui/qt/palette.h"
@@ -12,6 +13,12 @@
 class QDBusVariant;
 
 namespace kestrel {
+
+// Where there is no session bus, keeps Qt, which asks it for assistive tools, from starting one: that would
+// take time and outlive the program. Before the QApplication is made.
+void StartNoSessionBus();
+// The environment as other programs are to get it: without the trace of the above.
+[[nodiscard]] QProcessEnvironment EnvironmentForOthers();
 
 class DesktopColours final : public QObject {
   Q_OBJECT

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPixmap>
 #include <cstdio>
 
@@ -20,6 +21,38 @@
 namespace kestrel {
 
 namespace {
+
+// The window's own picture, which covers it until it was shown once. Painted while the window manager gets the
+// window ready, so that all there is to do when the window comes is to copy it.
+class FirstPicture final : public QWidget {
+ public:
+  explicit FirstPicture(QWidget& window) : picture_(window.grab()) {
+    setParent(&window);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setGeometry(window.rect());
+    show();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter(this).drawPixmap(0, 0, picture_);
+    deleteLater();
+  }
+
+ private:
+  QPixmap picture_;
+};
+
+// Not more sizes than windows show: the window manager gets them all. The desktop takes larger ones from where
+// they are installed.
+void SetWindowIcon() {
+  QIcon icon;
+  for (const int size : {16, 22, 24, 32, 48, 64}) {
+    icon.addFile(QStringLiteral(":/icons/kestrel-sudoku-%1.png").arg(size), QSize(size, size));
+  }
+  QApplication::setWindowIcon(icon);
+}
 
 // Calls a function for each click on a widget that has no clicks of its own.
 class ClickFilter final : public QObject {
@@ -92,8 +125,11 @@ void FrontEnd::OpenRecords(int level) {
 
 int FrontEnd::Run() {
   if (!dispatcher_.Start()) return dispatcher_.ExitStatus();
-  // Once the window is painted.
-  QTimer::singleShot(0, [this] { desktop_.Watch(); });
+  dispatcher_.RunWorkLeft();
+  QObject::connect(new FirstPicture(mirror_.WindowOf(FormId::Main)), &QObject::destroyed, [this] {
+    SetWindowIcon();
+    desktop_.Watch();
+  });
   const int status = QApplication::exec();
   return dispatcher_.Ended() ? dispatcher_.ExitStatus() : status;
 }
@@ -117,11 +153,6 @@ void SetUpApplication(const Look& look) {
   InstallLabelAccess();
   InstallWindowAccess();
   SetUpLook(look);
-  QIcon icon;
-  for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
-    icon.addFile(QStringLiteral(":/icons/kestrel-sudoku-%1.png").arg(size), QSize(size, size));
-  }
-  QApplication::setWindowIcon(icon);
   // A last window that hides is not the end; only the game's own decision is.
   QApplication::setQuitOnLastWindowClosed(false);
 }

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/game_application.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
+#include <thread>
+
+#include "ui/qt/desktop_colours.h"
 
 namespace kestrel {
 
@@ -38,6 +43,9 @@ void GameApplication::MakeApplication(char** argv) {
   // One look everywhere, whatever the desktop's theme is.
   QApplication::setDesktopSettingsAware(false);
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  StartNoSessionBus();
+  // Reading what fonts there are takes as long as the screen takes to answer: both at the same time.
+  const std::jthread fonts([] { (void)FcInit(); });
   application_ = std::make_unique<QApplication>(argc_, argv);
   QApplication::setApplicationName(QStringLiteral("kestrel-sudoku"));
   QApplication::setDesktopFileName(QStringLiteral("example.kestrel_sudoku.KestrelSudoku"));

@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QTimer>
 
+#include "ui/qt/desktop_colours.h"
 #include "ui/qt/text_conversion.h"
 
 namespace kestrel {
@@ -58,6 +59,7 @@ bool QtShell::Open(std::string_view program, std::string_view address) {
   auto* process = new QProcess;
   process->setProcessChannelMode(QProcess::ForwardedChannels);
   process->setStandardInputFile(QProcess::nullDevice());
+  process->setProcessEnvironment(EnvironmentForOthers());
   // An interrupt from the terminal is not meant for the browser.
   process->setChildProcessModifier([] { ::setsid(); });
   QEventLoop wait;
