@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "forms/texts.h"
+#include "print/texts.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/palette.h"
 #include "ui/qt/print_queue.h"
@@ -217,7 +218,7 @@ bool QtPrinter::BeginDocument(std::string_view title) {
   pages_ = 0;
   outcome_.clear();
   if (printer_page_) {
-    if (!printer_page_->Begin(ToQString(title))) return false;
+    if (!BeginOnQueue(ToQString(title))) return false;
   } else {
     auto fresh = MakeFilePage();
     page_->TakeNew(*fresh);
@@ -235,6 +236,16 @@ bool QtPrinter::BeginDocument(std::string_view title) {
   progress_->setAutoClose(false);
   progress_->setValue(0);
   return true;
+}
+
+// The queue may have stopped taking jobs since the dialog was opened; the service would refuse the job without
+// a word to the painter.
+bool QtPrinter::BeginOnQueue(const QString& title) {
+  if (FindPrintQueue().ready && printer_page_->Begin(title)) return true;
+  // Whatever the answer, nothing is printed.
+  (void)asker_.Message({std::string(texts::kPrinterErrorTitle), std::string(texts::kPrinterError),
+                        MessageIcon::Exclamation, MessageButtons::Ok});
+  return false;
 }
 
 bool QtPrinter::PageDone() {

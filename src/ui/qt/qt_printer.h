@@ -73,6 +73,7 @@ class QtPrinter final : public Printer {
   [[nodiscard]] std::optional<QString> AskForFile(const QString& title);
   [[nodiscard]] bool WritePdf();
   [[nodiscard]] bool PageDone();
+  [[nodiscard]] bool BeginOnQueue(const QString& title);
 
   Mirror& mirror_;
   Dispatcher& dispatcher_;
