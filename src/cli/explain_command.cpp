@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
-// `explain`: a page that shows how a puzzle is solved, step by step in pictures.
+// `explain`: a page that shows how puzzles are solved, step by step in pictures.
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cli/command.h"
 #include "cli/output_file.h"
 #include "cli/puzzle_reader.h"
+#include "cli/puzzle_run.h"
 #include "cli/rating_text.h"
-#include "explain/walkthrough.h"
+#include "explain/walkthrough_page.h"
 
 namespace kestrel {
 namespace {
@@ -19,42 +22,58 @@ constexpr std::array<OptionSpec, 2> kExplainOptions{{
     {"steps", "WHICH", "gathered (default): one picture for a run of singles; all: one for every step"},
 }};
 
+// A page of more would be too large to read, and for browsers to show.
+constexpr std::size_t kMostPuzzles = 100;
+
+// Solves the puzzles of the input. kBadInput when it has bad lines, which are told, or no puzzle; kFailure when it cannot
+// be read or has too many.
+ExitStatus ReadPuzzles(const std::vector<std::string>& files, CliPorts& ports,
+                       std::vector<Walkthrough>& walkthroughs) {
+  ExitStatus status = ExitStatus::kGood;
+  PuzzleReader reader(files, ports.in);
+  NeverStop yield;
+  for (InputLine line; reader.Next(line);) {
+    if (!line.error.empty()) {
+      status = std::max(status, TellBadLine(line, ports));
+    } else if (walkthroughs.size() == kMostPuzzles) {
+      PrintError(ports, "explain: there are more than " + std::to_string(kMostPuzzles) +
+                            " puzzles, too many for one page");
+      return ExitStatus::kFailure;
+    } else {
+      const std::optional<SolverState> start = StartOf(line);
+      walkthroughs.push_back(*ExplainPuzzle(line.givens, yield, start ? &*start : nullptr));
+    }
+  }
+  if (!walkthroughs.empty() || status != ExitStatus::kGood) return status;
+  PrintError(ports, "explain: there is no puzzle to explain");
+  return ExitStatus::kBadInput;
+}
+
 }  // namespace
 
 const CommandSpec kExplainSpec{
     "explain",
-    "[FILE]",
-    1,
-    "Explain a puzzle step by step, as a page with pictures",
-    "Reads the first puzzle of FILE, or of standard input, and writes one HTML page: the\n"
-    "position before each step with the pattern marked, why it works, and what is placed\n"
-    "or removed. The page needs no other file and no network.",
+    "[FILE...]",
+    1 << 20,
+    "Explain puzzles step by step, as a page with pictures",
+    "Reads puzzles, up to 100, from files or from standard input and writes one HTML page:\n"
+    "the position before each step with the pattern marked, why it works, and what is\n"
+    "placed or removed. The page needs no other file and no network.",
     kExplainOptions,
-    "explain --output page.html puzzle.txt\n"
-    "explain --steps all puzzle.txt"};
+    "explain --output page.html puzzles.txt\n"
+    "explain --steps all puzzles.txt"};
 
 ExitStatus ExplainCommand(Arguments& arguments, CliPorts& ports) {
   constexpr std::array<std::string_view, 2> kWhich{"gathered", "all"};
   const Singles singles = arguments.OneOf("steps", kWhich) == 1 ? Singles::Each : Singles::Gathered;
   const std::string output = arguments.Text("output", "-");
   if (!arguments.Error().empty()) return ExitStatus::kFailure;
-  PuzzleReader reader(arguments.Operands(), ports.in);
-  InputLine line;
-  if (!reader.Next(line)) {
-    PrintError(ports, "explain: there is no puzzle to explain");
-    return ExitStatus::kBadInput;
-  }
-  if (!line.error.empty()) {
-    PrintError(ports,
-               line.file + (line.line == 0 ? "" : ":" + std::to_string(line.line)) + ": " + line.error);
-    return line.line == 0 ? ExitStatus::kFailure : ExitStatus::kBadInput;
-  }
-  NeverStop yield;
-  const std::optional<SolverState> start = StartOf(line);
-  const std::string page =
-      WalkthroughPage(*ExplainPuzzle(line.givens, yield, start ? &*start : nullptr), singles);
+  std::vector<Walkthrough> walkthroughs;
+  const ExitStatus status = ReadPuzzles(arguments.Operands(), ports, walkthroughs);
+  if (walkthroughs.empty() || status == ExitStatus::kFailure) return status;
+  const std::string page = WalkthroughPage(walkthroughs, singles);
   if (output != "-" && !MayWrite(output, arguments.Operands(), ports)) return ExitStatus::kFailure;
-  return WriteOutput(output, Bytes(page.begin(), page.end()), ports);
+  return std::max(status, WriteOutput(output, Bytes(page.begin(), page.end()), ports));
 }
 
 }  // namespace kestrel

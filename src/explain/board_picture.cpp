@@ -76,7 +76,7 @@ class Drawing {
     svg_.Rect({0, 0}, kPictureWidth, kPictureHeight, {palette.paper});
   }
 
-  Picture Draw() {
+  BoardPicture Draw() {
     if (frame_ != Frame::Plain) unit_signs_ = UnitSigns(finding_, frame_);
     Washes();
     Grid();
@@ -88,22 +88,21 @@ class Drawing {
     return Finished();
   }
 
-  Picture DrawEntered(std::span<const Placement> placements) {
-    for (const Placement& placed : placements) {
-      const Area cell{CellRow[placed.cell], CellCol[placed.cell], 1, 1};
-      Wash(cell, palette_.unit_wash);
-    }
+  BoardPicture DrawEntered(std::span<const Placement> placements) {
     Grid();
     Headers();
     Digits();
     Marks();
     int number = 0;
-    for (const Placement& placed : placements) Entered(placed, ++number);
+    for (const Placement& placed : placements) {
+      Used(Sign::Entered);
+      brush_.Entered(CellCorner(placed.cell), CellMiddle(placed.cell), kDigitSize, placed.digit, ++number);
+    }
     return Finished();
   }
 
  private:
-  Picture Finished() {
+  BoardPicture Finished() {
     picture_.svg = svg_.Finished();
     return std::move(picture_);
   }
@@ -307,18 +306,11 @@ class Drawing {
     brush_.Ring(CellMiddle(cell));
   }
 
-  void Entered(const Placement& placed, int number) {
-    Used(Sign::Entered);
-    const Point corner = CellCorner(placed.cell);
-    svg_.Text(CellMiddle(placed.cell), kDigitSize, true, palette_.cause, std::to_string(placed.digit));
-    svg_.Text({corner.x + 7, corner.y + 6}, 11, false, palette_.mark, std::to_string(number));
-  }
-
   const Example& example_;
   const Finding& finding_;
   Frame frame_;
   const Palette& palette_;
-  Picture picture_;
+  BoardPicture picture_;
   Svg svg_;
   SignBrush brush_;
   std::vector<UnitSign> unit_signs_;
@@ -338,13 +330,14 @@ std::string PictureWords(const Example& example, Frame frame) {
 
 }  // namespace
 
-Picture DrawBoard(const Example& example, Frame frame, const Palette& palette) {
+BoardPicture DrawBoard(const Example& example, Frame frame, const Palette& palette) {
   const bool plain = frame == Frame::Plain;
   const std::string_view title = plain ? "Position" : RowOf(example.finding.technique).caption;
   return Drawing(example, frame, palette, title, PictureWords(example, frame)).Draw();
 }
 
-Picture DrawSingles(const Example& after, std::span<const Placement> placements, const Palette& palette) {
+BoardPicture DrawSingles(const Example& after, std::span<const Placement> placements,
+                         const Palette& palette) {
   std::vector<std::string> places;
   Example before = after;
   for (const Placement& placed : placements) {

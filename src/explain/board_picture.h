@@ -27,13 +27,14 @@ enum class Frame : std::uint8_t {
   Whole,   // and the candidates that are removed or the digit that goes in
 };
 
-struct Picture {
+struct BoardPicture {
   std::string svg;    // a whole document, from <svg to </svg> and a line end
   SignSet signs;      // what was drawn, for the legend
   std::string words;  // the description inside, also for an alt text
 };
 
-Picture DrawBoard(const Example& example, Frame frame = Frame::Whole, const Palette& palette = kLightPalette);
+BoardPicture DrawBoard(const Example& example, Frame frame = Frame::Whole,
+                       const Palette& palette = kLightPalette);
 
 // A digit that a single puts into a cell.
 struct Placement {
@@ -43,14 +44,14 @@ struct Placement {
 
 // The board after a run of singles: what was placed is marked and numbered in its order. `after` is the position at
 // the end of the run; its finding is not looked at.
-Picture DrawSingles(const Example& after, std::span<const Placement> placements,
-                    const Palette& palette = kLightPalette);
+BoardPicture DrawSingles(const Example& after, std::span<const Placement> placements,
+                         const Palette& palette = kLightPalette);
 
 // One picture of a story in three: spot the pattern, why it works, what is removed.
 struct StoryFrame {
   std::string_view heading;
   std::string text;
-  Picture picture;
+  BoardPicture picture;
 };
 // The example must not be a single.
 std::array<StoryFrame, 3> DrawStory(const Example& example, const Palette& palette = kLightPalette);

@@ -258,7 +258,10 @@ std::string FinnedXWingReason(const Example& example) {
          ", this is an X-Wing, and " + cover + " loses its other " + digit + "s. If " +
          (one ? "the fin is " : "one of the fins is ") + digit + ", the rest of " + box + " loses " + digit +
          ". Either way " + CellNames(targets) + ", where " + cover + " meets that box, cannot be " + digit +
-         (OthersStay(example) ? ". The other " + digit + "s in " + TheUnits(covers) + " stay." : Text("."));
+         (OthersStay(example)
+              ? ". The other " + digit + "s in " + TheUnits(covers) + " stay: if " + (one ? "the" : "a") +
+                    " fin is " + digit + ", there is no X-Wing, and nothing rules them out."
+              : Text("."));
 }
 
 std::string UniqueRectangleReason(const Example& example) {

@@ -5,6 +5,8 @@ namespace kestrel {
 namespace {
 
 constexpr double kDigit = 14;  // font size of a candidate
+constexpr double kTabWidth = 14;
+constexpr double kTabHeight = 11;
 
 }  // namespace
 
@@ -52,6 +54,13 @@ void SignBrush::CellFrame(Point corner, double size) {
   svg_.Rect({corner.x - 1, corner.y - 1}, size + 2, size + 2, {nullptr, palette_.cause, 3}, 8);
 }
 
+void SignBrush::Entered(Point corner, Point middle, double size, int digit, int number) {
+  svg_.Text(middle, size, true, palette_.cause, std::to_string(digit));
+  svg_.Rect({corner.x - 2, corner.y - 2}, kTabWidth, kTabHeight, {palette_.cause}, 3);
+  svg_.Text({corner.x - 2 + kTabWidth / 2, corner.y - 2 + kTabHeight / 2}, 10, true, palette_.on_cause,
+            std::to_string(number));
+}
+
 void SignBrush::Header(Sign sign, Point at) {
   Stroke look{palette_.cause};
   if (sign == Sign::Losing) look = {palette_.lose_wash, palette_.ink, 2};
@@ -67,7 +76,7 @@ void SignBrush::BoxFrame(Sign sign, Point corner, double width, double height) {
 }
 
 void SignBrush::Bar(const std::string& path) {
-  svg_.Path(path, {nullptr, palette_.cause, 4}, " stroke-opacity=\".3\" stroke-linejoin=\"round\"");
+  svg_.Path(path, {nullptr, palette_.cause, 4}, " stroke-opacity=\".4\" stroke-linejoin=\"round\"");
 }
 
 }  // namespace kestrel

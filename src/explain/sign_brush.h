@@ -18,6 +18,8 @@ class SignBrush {
   void Ring(Point middle);
   // The frame of the Pivot round a cell.
   void CellFrame(Point corner, double size);
+  // A digit of the board that goes in, with a tab that has its number in the cell's corner.
+  void Entered(Point corner, Point middle, double size, int digit, int number);
   // A header's box: BaseUnit, Losing or Tie.
   void Header(Sign sign, Point middle);
   // The frame of a whole box of cells: BaseUnit, Losing or Tie.

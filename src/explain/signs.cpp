@@ -22,7 +22,7 @@ SignWords WordsOf(Sign sign) {
     case Sign::Placed:
       return {"disc in a ring", "the digit that goes in"};
     case Sign::Entered:
-      return {"digit on a blue cell", "a digit that goes in, the small number says in which order"};
+      return {"digit with a numbered tab", "a digit that goes in; the number says in which order"};
     case Sign::Removed:
       return {"struck square", "a candidate that is removed"};
     case Sign::BaseUnit:
@@ -62,15 +62,17 @@ std::string SignSample(Sign sign, const Palette& palette) {
       svg.Text(kMiddle, 16, true, palette.digit, "5");
       break;
     case Sign::Entered:
-      svg.Rect({2, 2}, kSize - 4, kSize - 4, {palette.unit_wash});
-      svg.Text({kSize / 2, kSize / 2 + 2}, 18, true, palette.cause, "5");
-      svg.Text({7, 8}, 9, false, palette.mark, "1");
+      brush.Entered({3, 3}, {kSize - 9, kSize - 10}, 22, 5, 1);
       break;
     case Sign::BaseUnit:
-    case Sign::Losing:
+    case Sign::Losing: {
+      // With the box that the line's letter or number stands in.
+      const bool loses = sign == Sign::Losing;
       svg.Rect({2, 2}, kSize - 4, kSize - 4,
-               {sign == Sign::Losing ? palette.lose_wash : palette.unit_wash, palette.thin, 1});
+               {loses ? palette.lose_wash : palette.unit_wash, palette.thin, 1});
+      svg.Rect({5, 10}, 10, 10, loses ? Stroke{nullptr, palette.ink, 1.5} : Stroke{palette.cause}, 2);
       break;
+    }
     case Sign::Tie:
       brush.Header(sign, kMiddle);
       break;

@@ -221,6 +221,14 @@ TEST(Explain, TellsTheStepsOfTheTraceAndKeepsToTheSolution) {
   }
   EXPECT_EQ(puzzles, 500);
   EXPECT_EQ(RunWith({"explain"}, "\n").status, 1);
+  // Several puzzles: each is there, and a bad line is told.
+  const std::string two = std::string(kEasy) + "\nnone\n" + std::string(kEasy) + '\n';
+  const CliResult several = RunWith({"explain"}, two);
+  EXPECT_EQ(several.status, 1);
+  EXPECT_NE(several.err.find(":2:"), std::string::npos);
+  for (const char* part : {"href=\"#puzzle-2\"", "id=\"puzzle-1-step-1\"", "id=\"puzzle-2-step-1\""}) {
+    EXPECT_NE(several.out.find(part), std::string::npos) << part;
+  }
 }
 
 TEST(Generate, SameSeedSamePuzzlesWhateverTheJobs) {

@@ -124,7 +124,7 @@ TEST(Examples, TextAndPictureShowEveryCell) {
   for (const Example& example : Shipped()) {
     SCOPED_TRACE(example.key);
     const std::string text = ExampleText(example);
-    const Picture drawn = DrawBoard(example);
+    const BoardPicture drawn = DrawBoard(example);
     const std::string& words = drawn.words;
     std::size_t struck = 0;
     for (const Removal& removal : example.finding.removals) {

@@ -30,7 +30,7 @@ std::string Words(const std::string& page, ExercisePage kind, const Example& exe
 }
 
 // The position as a player sees it who is to find a step: of a single without candidates.
-Picture Question(const Example& exercise) {
+BoardPicture Question(const Example& exercise) {
   Example position = exercise;
   if (exercise.finding.placed_cell >= 0) position.marks = {};
   return DrawBoard(position, Frame::Plain);
@@ -91,7 +91,7 @@ std::string NarrowingHint(const Finding& finding) {
   }
 }
 
-std::string ExercisesHtml(Files& files, const std::string& page, ExercisePage kind,
+std::string ExercisesHtml(HelpFiles& files, const std::string& page, ExercisePage kind,
                           const std::vector<const Example*>& exercises) {
   std::string html;
   int number = 0;
@@ -100,7 +100,7 @@ std::string ExercisesHtml(Files& files, const std::string& page, ExercisePage ki
         "<h2 id=\"" + exercise->key + "\">Exercise " + std::to_string(++number) + "</h2>\n";
     const std::string words = heading + Words(page, kind, *exercise);
     if (kind == ExercisePage::Answer) {
-      const Picture picture = DrawBoard(*exercise);
+      const BoardPicture picture = DrawBoard(*exercise);
       html += BesidePicture(words + Legend(files, picture.signs),
                             Image(files, exercise->key + "-answer", picture));
     } else {

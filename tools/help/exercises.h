@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "help/html.h"
+#include "explain/page_parts.h"
 
 namespace kestrel::help {
 
@@ -21,7 +21,7 @@ std::string NarrowingHint(const Finding& finding);
 
 // What stands on a page of the kind, below its heading. The exercises are all of technique page `page`, in the
 // order of their forms; pictures go to the files.
-std::string ExercisesHtml(Files& files, const std::string& page, ExercisePage kind,
+std::string ExercisesHtml(HelpFiles& files, const std::string& page, ExercisePage kind,
                           const std::vector<const Example*>& exercises);
 
 }  // namespace kestrel::help

@@ -8,7 +8,7 @@
 #include <sstream>
 #include <vector>
 
-#include "explain/explain.h"
+#include "explain/page_parts.h"
 #include "explain/reasons.h"
 #include "explain/svg.h"
 #include "help/exercises.h"
@@ -50,10 +50,6 @@ std::vector<std::string> PageOrder() {
     if (std::find(order.begin(), order.end(), page) == order.end()) order.push_back(page);
   }
   return order;
-}
-
-std::string Link(const std::string& target, const std::string& words) {
-  return "<a href=\"" + target + "\">" + Escaped(words) + "</a>";
 }
 
 class Builder {
@@ -133,23 +129,7 @@ class Builder {
   void Finish(const std::string& file, const std::string& title, const std::string& neighbours,
               const std::string& content) {
     const std::string name = file == "index.html" ? title : title + " - Kestrel Sudoku";
-    std::string links = "<p class=\"navigation\">";
-    for (const auto& [target, words] : {std::pair("index.html", "Contents"),
-                                        {"first_steps.html", "First steps"},
-                                        {"words.html", "Words"}}) {
-      if (file != target) links += Link(target, words) + " &nbsp; ";
-    }
-    links += neighbours + "</p>\n";
-    site_.files[file] =
-        "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-        "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
-        "<meta name=\"color-scheme\" content=\"light dark\">\n<title>" +
-        Escaped(name) +
-        "</title>\n<link rel=\"stylesheet\" type=\"text/css\" href=\"help.css\">\n"
-        "<link rel=\"stylesheet\" href=\"browser.css\">\n"
-        "<link rel=\"stylesheet\" media=\"(prefers-color-scheme: dark)\" href=\"help_dark.css\">\n"
-        "</head>\n<body>\n" +
-        links + "<h1>" + Escaped(title) + "</h1>\n" + content + links + "</body>\n</html>\n";
+    site_.files[file] = HelpPage(file, name, title, neighbours, content);
   }
 
   std::string Neighbours(std::size_t index) const {
@@ -218,7 +198,7 @@ class Builder {
     if (shown_ == 0 && places_.size() > 1) OnThisPage();
     if (shown_ == 1) out_ << "<h2>More examples</h2>\n";
     const auto& [example, heading] = places_[shown_++];
-    const Picture picture = DrawBoard(*example);
+    const BoardPicture picture = DrawBoard(*example);
     out_ << BesidePicture("<h3 id=\"" + key + "\">" + Escaped(heading) + "</h3>\n<p>" +
                               Escaped(ExampleText(*example)) + "</p>\n" + Legend(site_.files, picture.signs),
                           Image(site_.files, key, picture));
@@ -237,12 +217,11 @@ class Builder {
       return Fail(page.file, "story of another page, or one that does not say what to spot: " + key);
     }
     const auto frames = DrawStory(*example);
-    const std::array<std::string, 3> texts{what + " Here: " + ExplainStep(example->finding).pattern + '.',
-                                           frames[1].text, frames[2].text};
+    const std::array<std::string, 3> texts{what + ' ' + frames[0].text, frames[1].text, frames[2].text};
     const std::array<std::string, 3> names{key + "-spot", key + "-why", key};
     out_ << "<h2>Step by step</h2>\n";
     for (std::size_t i = 0; i < frames.size(); ++i) {
-      const Picture& picture = frames[i].picture;
+      const BoardPicture& picture = frames[i].picture;
       out_ << BesidePicture("<h3>" + std::to_string(i + 1) + ". " + Escaped(frames[i].heading) +
                                 "</h3>\n<p>" + Escaped(texts[i]) + "</p>\n" +
                                 Legend(site_.files, picture.signs),

@@ -19,20 +19,20 @@
 
 #include "core/stock_table.h"
 #include "explain/example.h"
-#include "help/html.h"
+#include "explain/page_parts.h"
 
 namespace kestrel::help {
 
 struct SiteInput {
-  Files texts;   // by page file name: "x_wing.html"
-  Files styles;  // the style sheets by file name
+  HelpFiles texts;   // by page file name: "x_wing.html"
+  HelpFiles styles;  // the style sheets by file name
   ExampleFile examples;
   ExampleFile exercises;
   const StockTable* stock = nullptr;  // null: the pages name no puzzles
 };
 
 struct Site {
-  Files files;        // all of the help folder, pictures included
+  HelpFiles files;    // all of the help folder, pictures included
   std::string error;  // empty, or "x_wing.html: ..."; then `files` is not complete
 };
 

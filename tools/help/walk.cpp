@@ -40,10 +40,10 @@ Walk::Walk(const DigitGrid& givens) {
   if (naked != steps_.end()) naked_ = static_cast<std::size_t>(naked - steps_.begin());
 }
 
-std::string Walk::Part(Files& files, std::string_view word) const {
+std::string Walk::Part(HelpFiles& files, std::string_view word) const {
   if (naked_ == 0) return {};
   if (word == "start") {
-    return "<p>" + Image(files, "first_steps-start", DrawBoard(Board(0), Frame::Plain)) + "</p>\n";
+    return "<p class=\"picture\">" + Image(files, "first_steps-start", DrawBoard(Board(0), Frame::Plain)) + "</p>\n";
   }
   if (word == "first") return Reasoned(files, 0);
   if (word == "run") return Run(files, 1, naked_);
@@ -52,7 +52,7 @@ std::string Walk::Part(Files& files, std::string_view word) const {
   return {};
 }
 
-std::string Walk::Run(Files& files, std::size_t from, std::size_t to) const {
+std::string Walk::Run(HelpFiles& files, std::size_t from, std::size_t to) const {
   std::string html;
   while (from < to) {
     const std::size_t end = std::min(from + kStepsOfPicture, to);
@@ -63,17 +63,18 @@ std::string Walk::Run(Files& files, std::size_t from, std::size_t to) const {
       words += "<p>" + std::to_string(i - from + 1) + ". " + InShort(step) + "</p>\n";
       placed.push_back({step.placed_cell, step.placed_digit});
     }
-    const Picture picture = DrawSingles(Board(end), placed);
-    html += BesidePicture(words, Image(files, "first_steps-" + std::to_string(end), picture));
+    const BoardPicture picture = DrawSingles(Board(end), placed);
+    html += BesidePicture(words + Legend(files, picture.signs),
+                          Image(files, "first_steps-" + std::to_string(end), picture));
     from = end;
   }
   return html;
 }
 
-std::string Walk::Reasoned(Files& files, std::size_t step) const {
+std::string Walk::Reasoned(HelpFiles& files, std::size_t step) const {
   Example shown = steps_[step];
   shown.marks = {};
-  const Picture picture = DrawBoard(shown);
+  const BoardPicture picture = DrawBoard(shown);
   return BesidePicture("<p>" + Escaped(ExampleText(steps_[step])) + "</p>\n" + Legend(files, picture.signs),
                        Image(files, "first_steps-" + std::to_string(step + 1), picture));
 }

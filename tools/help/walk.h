@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/grid.h"
-#include "help/html.h"
+#include "explain/page_parts.h"
 
 namespace kestrel::help {
 
@@ -24,12 +24,12 @@ class Walk {
   //
   // Empty for a word that is none, and for every word when the puzzle needs more than singles or has no naked
   // one.
-  std::string Part(Files& files, std::string_view word) const;
+  std::string Part(HelpFiles& files, std::string_view word) const;
 
  private:
   // The steps from `from` up to `to`, a picture for every few.
-  std::string Run(Files& files, std::size_t from, std::size_t to) const;
-  [[nodiscard]] std::string Reasoned(Files& files, std::size_t step) const;
+  std::string Run(HelpFiles& files, std::size_t from, std::size_t to) const;
+  [[nodiscard]] std::string Reasoned(HelpFiles& files, std::size_t step) const;
   // The board after `count` steps, as it looks at this level: what an empty cell shows there is a keypad.
   [[nodiscard]] Example Board(std::size_t count) const;
 
