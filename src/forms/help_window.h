@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+#include "core/grid.h"
+
 namespace kestrel {
 
 class HelpWindow {
@@ -16,6 +18,10 @@ class HelpWindow {
   // Sends the view to a page, full path in the written form; the front end maps the help folder to where the
   // pages are installed. A missing page is shown as an error page of the view's own.
   virtual void Navigate(std::string_view page) = 0;
+
+  // The givens of a puzzle that has ended, whose solving the view from now on offers to show; null: none. What is
+  // shown of one that is offered no more must go at once.
+  virtual void OfferSolving(const DigitGrid* givens) = 0;
 };
 
 }  // namespace kestrel

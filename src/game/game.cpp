@@ -112,6 +112,8 @@ void Game::Acknowledge() {
 void Game::ShowControls() {
   EnableControls(session_.forms.main, session_.play.phase, session_.play.history,
                  session_.stockroom.RenewingLevel);
+  const Play& play = session_.play;
+  session_.help.OfferSolving(play.phase == PlayPhase::Over ? &play.puzzle.GivenDigits : nullptr);
 }
 
 void Game::ShowPlayer() {

@@ -11,4 +11,10 @@ void Help::ShowPage(std::string_view file) {
   screen_.Show(FormId::Browser);
 }
 
+void Help::OfferSolving(const DigitGrid* givens) {
+  if (givens == nullptr ? !offered_ : offered_ == *givens) return;
+  offered_ = givens == nullptr ? std::nullopt : std::optional(*givens);
+  view_.OfferSolving(givens);
+}
+
 }  // namespace kestrel

@@ -2,8 +2,10 @@
 // The help window: which page it shows. Used by the main window.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
+#include "core/grid.h"
 #include "forms/browser_form.h"
 #include "forms/help_window.h"
 #include "forms/screen.h"
@@ -24,9 +26,15 @@ class Help {
   // there. The main window stays usable.
   void ShowPage(std::string_view file);
 
+  // Lets the help window show how the puzzle with these givens is solved; null: that of no puzzle any more. May be
+  // called over and over.
+  void OfferSolving(const DigitGrid* givens);
+  [[nodiscard]] const std::optional<DigitGrid>& Offered() const { return offered_; }
+
  private:
   Browser& browser_;
   HelpWindow& view_;
+  std::optional<DigitGrid> offered_;
   Screen& screen_;
 };
 

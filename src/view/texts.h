@@ -11,9 +11,10 @@ inline constexpr std::string_view kKeypadLine =
     "Click a small digit to put it into its cell. Undo takes it back.";
 inline constexpr std::string_view kMarksLine =
     "Left click on a small digit: it goes into the cell. Right click: it is ruled out and goes away.";
-inline constexpr std::string_view kSolvedLine = "Solved! Next opens another puzzle.";
+inline constexpr std::string_view kSolvedLine =
+    "Solved! Next opens another puzzle, Help tells how this one is solved.";
 inline constexpr std::string_view kRevealedLine =
-    "This is the solution; the digits that were missing are grey. Next opens another puzzle.";
+    "This is the solution; missing digits are grey. Help tells how this one is solved.";
 
 // Why something does not work now
 inline constexpr std::string_view kFinishFirst = "First finish this puzzle, or give it up with Solution";

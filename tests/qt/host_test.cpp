@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QTextTable>
 
+#include "explain/walkthrough_page.h"
 #include "media/help.h"
 #include "print/print_job.h"
 #include "qt/qt_game.h"
@@ -95,6 +96,52 @@ TEST(Help, FindsWordsAndFitsPictures) {
     ASSERT_NE(table, nullptr);
     EXPECT_EQ(table->rows(), width < 720 ? 2 : 1) << width;
   }
+}
+
+// Nothing of how a puzzle is solved can be seen while it, or the next one, is in play.
+TEST(Help, ShowsHowAPuzzleIsSolvedWhenItHasEnded) {
+  QtGame game(3);
+  std::filesystem::create_directory(game.program_folder.Path("help"));
+  game.program_folder.Put("help/index.html", "<p>Contents</p>");
+  game.ClickMark(game.EmptyCell(), game.SolutionOf(game.EmptyCell()));
+  game.ClickControl("CommandHelp");
+  FormWindow& window = game.front_end.Windows().WindowOf(FormId::Browser);
+  HelpView& view = *game.front_end.Windows().Help();
+  const auto* button = window.findChild<QPushButton*>("HelpSolved");
+  const auto shows = [&](const char* words) { return view.toPlainText().contains(words); };
+  EXPECT_FALSE(button->isVisible());
+  view.Navigate(std::string(kHelpFolder) + kSolvedPage);
+  EXPECT_TRUE(shows("When the puzzle on the board has ended"));
+
+  game.ClickControl("CommandSolution");
+  game.Settle();
+  EXPECT_TRUE(button->isVisible());
+  EXPECT_TRUE(shows("Singles (steps 1 to"));
+  EXPECT_TRUE(shows("Level 3 (Medium)"));
+  // In a narrow window all buttons have their texts, also when everything is large.
+  window.setWindowState(Qt::WindowNoState);
+  for (const auto& [width, size] : {std::pair{360, 100}, {1000, 200}, {1200, 100}}) {
+    game.front_end.Choices().SetSize(size);
+    window.resize(width, 700);
+    game.Settle();
+    int right = 0;
+    for (const char* name : {"HelpBack", "HelpForward", "HelpContents", "HelpSolved"}) {
+      const auto* each = window.findChild<QPushButton*>(name);
+      EXPECT_GE(each->width(), each->fontMetrics().horizontalAdvance(each->text().remove('&'))) << name;
+      EXPECT_GE(each->x(), right);
+      right = each->x() + each->width();
+    }
+    EXPECT_LE(right, view.width()) << width;
+    EXPECT_EQ(button->height(), 25 * size / 100);
+  }
+
+  game.ClickControl("CommandNew");
+  game.Settle();
+  EXPECT_FALSE(button->isVisible());
+  EXPECT_FALSE(shows("steps 1 to"));
+  window.findChild<QPushButton*>("HelpContents")->click();
+  window.findChild<QPushButton*>("HelpBack")->click();
+  EXPECT_FALSE(shows("steps 1 to"));
 }
 
 TEST(Sound, RefusesWhatIsNoWaveFile) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "core/text.h"
@@ -101,6 +102,11 @@ inline constexpr Invariant kInvariants[] = {
        const bool renewing = s.stockroom.RenewingLevel != 0;
        return (!renewing || !s.forms.main.OptionType(s.stockroom.RenewingLevel).enabled) &&
               std::ranges::all_of(labels, [&](const Label& label) { return label.enabled != renewing; });
+     }},
+    {"how a puzzle is solved is offered when it has ended, never in play",
+     [](const Session& s) {
+       const std::optional<DigitGrid>& offered = s.help.Offered();
+       return !offered || (s.play.phase == PlayPhase::Over && *offered == s.play.puzzle.GivenDigits);
      }},
     {"the hint is fresh", HintIsFresh}};
 

@@ -16,7 +16,6 @@ HelpFind::HelpFind(QTextBrowser& view)
     : QFrame(&view), view_(view), words_(new QLineEdit(this)), answer_(new QLabel(this)) {
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);
-  setFont(view.window()->font());
   words_->setObjectName(QStringLiteral("HelpFindWords"));
   words_->setPlaceholderText(QLatin1String(texts::kFind));
   words_->setAccessibleName(QLatin1String(texts::kFind));
@@ -32,7 +31,6 @@ HelpFind::HelpFind(QTextBrowser& view)
   };
   add(texts::kFindPrevious, QTextDocument::FindBackward);
   add(texts::kFindNext, {});
-  answer_->setMinimumWidth(answer_->fontMetrics().horizontalAdvance(QLatin1String(texts::kNotFound)) + 6);
   row->addWidget(answer_);
   connect(words_, &QLineEdit::textEdited, this, [this] { Find({}, true); });
   hide();
@@ -52,6 +50,8 @@ void HelpFind::Close() {
 }
 
 void HelpFind::Fit() {
+  setFont(view_.window()->font());  // not the page's; and after a change of the size, too
+  answer_->setMinimumWidth(answer_->fontMetrics().horizontalAdvance(QLatin1String(texts::kNotFound)) + 6);
   const int height = sizeHint().height();
   const QRect inside = view_.contentsRect();
   setGeometry(inside.left(), inside.bottom() + 1 - height, inside.width(), height);

@@ -23,11 +23,10 @@ QSvgRenderer& HelpPictures::Picture(const QTextFormat& format) {
 }
 
 QSizeF HelpPictures::intrinsicSize(QTextDocument* /*document*/, int /*position*/, const QTextFormat& format) {
-  const QSvgRenderer& picture = Picture(format);
-  if (!picture.isValid()) return {0, 0};
-  QSizeF size = picture.viewBoxF().size();
-  const double width = format.toImageFormat().width();  // as the page says, for drawings smaller than life
-  if (width > 0) size *= width / size.width();
+  // As the page says, so that only what comes into view is read; a page has dozens.
+  QSizeF size(format.toImageFormat().width(), format.toImageFormat().height());
+  if (size.isEmpty()) size = Picture(format).viewBoxF().size();
+  if (size.isEmpty()) return {0, 0};
   size *= zoom_;
   const double shrink = std::min({1.0, largest_.width() / size.width(), largest_.height() / size.height()});
   return size * shrink;

@@ -6,13 +6,14 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <algorithm>
 #include <string>
 
+#include "core/yield.h"
 #include "explain/palette.h"
+#include "explain/walkthrough_page.h"
 #include "host/host_files.h"
 #include "media/help.h"
 #include "ui/qt/fonts.h"
@@ -65,7 +66,7 @@ HelpView::HelpView(QWidget* parent)
     : QTextBrowser(parent),
       pictures_(new HelpPictures(this,
                                  [this](const QString& name) {
-                                   const QByteArray svg = Content(page_.resolved(QUrl(name)));
+                                   const QByteArray svg = Drawing(name);
                                    return dark_ ? InDark(svg) : svg;
                                  })),
       find_(new HelpFind(*this)) {
@@ -95,6 +96,32 @@ void HelpView::Navigate(std::string_view page) {
   setSource(UrlOf(page));
 }
 
+void HelpView::OfferSolving(const DigitGrid* givens) {
+  ended_ = givens == nullptr ? std::nullopt : std::optional(*givens);
+  solved_.clear();
+  if (IsSolvedPage(page_)) reload();
+}
+
+bool HelpView::IsSolvedPage(const QUrl& page) {
+  return page.fileName() == QLatin1String(kSolvedPage);
+}
+
+// Made when it is first looked at.
+QString HelpView::SolvedPage() {
+  if (!ended_) return QString::fromStdString(SolvedHelpToCome());
+  if (solved_.empty()) {
+    NeverStop yield;  // a puzzle takes a few milliseconds
+    solved_ = SolvedHelp(*ExplainPuzzle(*ended_, yield));
+  }
+  return QString::fromStdString(solved_[kSolvedPage]);
+}
+
+QByteArray HelpView::Drawing(const QString& name) const {
+  if (!IsSolvedPage(page_)) return Content(page_.resolved(QUrl(name)));
+  const auto found = solved_.find(name.toStdString());
+  return found == solved_.end() ? QByteArray() : QByteArray::fromStdString(found->second);
+}
+
 // Links that leave the pages open in the desktop's web browser.
 void HelpView::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
   const QUrl target = source().resolved(name);
@@ -114,14 +141,18 @@ void HelpView::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
 
 QVariant HelpView::loadResource(int type, const QUrl& name) {
   const QUrl target = source().resolved(name);
-  const bool missing = target.isLocalFile() && !QFileInfo(target.toLocalFile()).isFile();
-  if (missing && type == QTextDocument::HtmlResource) return ErrorPage(target);
-  if (missing) return {};
-  if (type == QTextDocument::HtmlResource && narrow_) {
+  const bool page = type == QTextDocument::HtmlResource;
+  const bool solved = page && IsSolvedPage(target);
+  const bool missing = !solved && target.isLocalFile() && !QFileInfo(target.toLocalFile()).isFile();
+  if (missing) return page ? QVariant(ErrorPage(target)) : QVariant();
+  if (page) {
+    QString html = solved ? SolvedPage() : QString::fromUtf8(Content(target));
     // In a narrow window the two cells of an example stand one below the other; browsers do it by the style.
-    return QString::fromUtf8(Content(target))
-        .replace(QLatin1String("</td>\n<td class=\"picture\">"),
-                 QLatin1String("</td></tr>\n<tr><td class=\"picture\">"));
+    if (narrow_) {
+      html.replace(QLatin1String("</td>\n<td class=\"picture\">"),
+                   QLatin1String("</td></tr>\n<tr><td class=\"picture\">"));
+    }
+    return html;
   }
   if (type == QTextDocument::StyleSheetResource && dark_) {
     return Content(target) + Content(target.resolved(QUrl(QStringLiteral("help_dark.css"))));
@@ -189,28 +220,6 @@ void HelpView::keyPressEvent(QKeyEvent* event) {
   } else {
     QTextBrowser::keyPressEvent(event);
   }
-}
-
-void AddHelpBar(QWidget& window, HelpView& view) {
-  int left = view.x();
-  const auto add = [&](const char* name, const char* caption, bool enabled) {
-    auto* button = new QPushButton(QLatin1String(caption), &window);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    button->setEnabled(enabled);
-    button->setGeometry(left, 3, 84, 25);
-    left += 90;
-    return button;
-  };
-  QPushButton* back = add("HelpBack", texts::kBack, false);
-  QPushButton* forward = add("HelpForward", texts::kForward, false);
-  QPushButton* contents = add("HelpContents", texts::kContents, true);
-  QObject::connect(back, &QPushButton::clicked, &view, &HelpView::backward);
-  QObject::connect(forward, &QPushButton::clicked, &view, &HelpView::forward);
-  QObject::connect(contents, &QPushButton::clicked, &view,
-                   [&view] { view.Navigate(std::string(kHelpFolder) + std::string(kHelpIndex)); });
-  QObject::connect(&view, &HelpView::backwardAvailable, back, &QPushButton::setEnabled);
-  QObject::connect(&view, &HelpView::forwardAvailable, forward, &QPushButton::setEnabled);
 }
 
 }  // namespace kestrel

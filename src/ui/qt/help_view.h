@@ -4,7 +4,11 @@
 
 #include <QTextBrowser>
 #include <QUrl>
+#include <optional>
 #include <string_view>
+
+#include "core/grid.h"
+#include "explain/page_parts.h"
 
 namespace kestrel {
 
@@ -24,6 +28,10 @@ class HelpView final : public QTextBrowser {
   // Goes to a page, full path in the written form.
   void Navigate(std::string_view page);
 
+  // The page that tells how the puzzle with these givens is solved can be looked at from now on; null: no puzzle's can,
+  // and what is shown of one goes away.
+  void OfferSolving(const DigitGrid* givens);
+
   QVariant loadResource(int type, const QUrl& name) override;
 
  protected:
@@ -33,6 +41,10 @@ class HelpView final : public QTextBrowser {
   void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
 
  private:
+  static bool IsSolvedPage(const QUrl& page);
+  QString SolvedPage();
+  // The SVG text of an image of the page at hand; nothing when there is none.
+  [[nodiscard]] QByteArray Drawing(const QString& name) const;
   [[nodiscard]] QUrl UrlOf(std::string_view page) const;
   // The window is too narrow for text and picture side by side.
   [[nodiscard]] bool IsNarrow() const;
@@ -45,14 +57,13 @@ class HelpView final : public QTextBrowser {
   void FitPictures();
 
   QString folder_;
-  QUrl page_;  // what is being shown or loaded; its pictures stand beside it
+  QUrl page_;                       // what is being shown or loaded; its pictures stand beside it
+  std::optional<DigitGrid> ended_;  // the puzzle that one may look at
+  HelpFiles solved_;                // page and pictures of it, once looked at
   HelpPictures* pictures_;
   HelpFind* find_;
   bool narrow_ = false;  // how the page at hand was made
   bool dark_ = false;
 };
-
-// Puts the buttons Back, Forward and Contents into the strip over the view.
-void AddHelpBar(QWidget& window, HelpView& view);
 
 }  // namespace kestrel

@@ -10,6 +10,7 @@
 
 #include "ui/qt/board_widget.h"
 #include "ui/qt/form_window.h"
+#include "ui/qt/help_bar.h"
 #include "ui/qt/help_view.h"
 #include "ui/qt/look.h"
 #include "ui/qt/main_extras.h"
@@ -133,7 +134,15 @@ void Mirror::BuildBrowser(View& view) {
   BuildForm(view, forms_->browser);
   help_ = dynamic_cast<HelpView*>(WidgetOf(FormId::Browser, {"WebBrowser1"}));
   help_->SetFolder(surroundings_.help_folder);
-  AddHelpBar(*view.window, *help_);
+  help_bar_ = new HelpBar(*view.window, *help_);
+  OfferSolving(ended_ ? &*ended_ : nullptr);
+}
+
+void Mirror::OfferSolving(const DigitGrid* givens) {
+  ended_ = givens == nullptr ? std::nullopt : std::optional(*givens);
+  if (help_ == nullptr) return;
+  help_->OfferSolving(givens);
+  help_bar_->Offer(ended_.has_value());
 }
 
 void Mirror::ConnectWindow(View& view, Window& window) {
@@ -170,6 +179,7 @@ void Mirror::FitHelpView(View& view) {
   forms_->browser.WebBrowser1.width = window.width - kBrowserMarginX;
   forms_->browser.WebBrowser1.height = window.height - kBrowserMarginY;
   for (const MirroredPtr& control : view.controls) control->Sync();
+  help_bar_->Fit();
 }
 
 void Mirror::SetTabOrder(View& view) {
@@ -201,7 +211,7 @@ void Mirror::ApplyLook() {
   }
   if (board_ != nullptr) board_->ApplyLook();
   if (extras_) extras_->ApplyLook();
-  if (help_ != nullptr && ExistingWindow(FormId::Browser)->isVisible()) FitHelpView(ViewOf(FormId::Browser));
+  if (help_ != nullptr) FitHelpView(ViewOf(FormId::Browser));
   Sync();
   KeepOnScreen();
 }

@@ -7,6 +7,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "forms/forms.h"
@@ -19,6 +20,7 @@ namespace kestrel {
 
 class BoardWidget;
 class FormWindow;
+class HelpBar;
 class HelpView;
 class MainExtras;
 class MirroredControl;
@@ -57,6 +59,8 @@ class Mirror {
   QWidget* WidgetOf(FormId form, ControlId control);
   [[nodiscard]] BoardWidget* Board() const { return board_; }
   [[nodiscard]] HelpView* Help() const { return help_; }
+  // The puzzle that the help window may tell all about; null: none.
+  void OfferSolving(const DigitGrid* givens);
   // Null before the main window was made.
   [[nodiscard]] MainExtras* Extras() const { return extras_.get(); }
 
@@ -90,6 +94,8 @@ class Mirror {
   std::array<std::unique_ptr<View>, 4> views_;
   BoardWidget* board_ = nullptr;
   HelpView* help_ = nullptr;
+  HelpBar* help_bar_ = nullptr;
+  std::optional<DigitGrid> ended_;
   std::unique_ptr<MainExtras> extras_;
 };
 

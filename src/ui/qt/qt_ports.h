@@ -66,6 +66,7 @@ class QtHelpWindow final : public HelpWindow {
  public:
   explicit QtHelpWindow(Mirror& mirror) : mirror_(mirror) {}
   void Navigate(std::string_view page) override;
+  void OfferSolving(const DigitGrid* givens) override { mirror_.OfferSolving(givens); }
 
  private:
   Mirror& mirror_;

@@ -70,6 +70,7 @@ inline constexpr const char* kScoreAxis = "score: how hard the puzzle is";
 inline constexpr const char* kBack = "&Back";
 inline constexpr const char* kForward = "&Forward";
 inline constexpr const char* kContents = "&Contents";
+inline constexpr const char* kSolved = "How this one is &solved";
 inline constexpr const char* kFind = "Find in this page";
 inline constexpr const char* kFindNext = "&Next";
 inline constexpr const char* kFindPrevious = "&Previous";
