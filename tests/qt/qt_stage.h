@@ -34,6 +34,7 @@ class QtStage final : public Stage {
   void Focus(FormId form, ControlId id) override { screen_.Focus(form, id); }
   void Beep() override { screen_.Beep(); }
   void Navigate(std::string_view page) override { help_.Navigate(page); }
+  void OfferSolving(const DigitGrid* givens) override { help_.OfferSolving(givens); }
 
   [[nodiscard]] bool BoxOpen() const override;
   [[nodiscard]] std::optional<FormId> ModalForm() const override;

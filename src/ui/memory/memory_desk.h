@@ -27,6 +27,7 @@ class MemoryDesk final : public Stage {
   void Focus(FormId, ControlId) override {}
   void Beep() override {}
   void Navigate(std::string_view) override {}
+  void OfferSolving(const DigitGrid* /*givens*/) override {}
 
   // Stage
   [[nodiscard]] bool BoxOpen() const override { return !boxes_.empty(); }

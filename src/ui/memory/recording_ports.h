@@ -92,7 +92,7 @@ class MemorySound final : public SoundDevice {
 };
 
 // Reports boxes before they open, "dialog NAME shown" and "hidden" for the windows beside the main one, "beep"
-// and "browse PAGE". What is offered inside the pages is not its concern.
+// and "browse PAGE".
 class RecordingStage final : public Asker, public Screen, public HelpWindow {
  public:
   RecordingStage(Stage& inner, Transcript& transcript) : inner_(inner), transcript_(transcript) {}
@@ -109,7 +109,7 @@ class RecordingStage final : public Asker, public Screen, public HelpWindow {
   void Focus(FormId form, ControlId control) override { inner_.Focus(form, control); }
   void Beep() override;
   void Navigate(std::string_view page) override;
-  void OfferSolving(const DigitGrid* /*givens*/) override {}
+  void OfferSolving(const DigitGrid* givens) override { inner_.OfferSolving(givens); }
 
  private:
   Stage& inner_;
