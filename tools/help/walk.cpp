@@ -43,7 +43,8 @@ Walk::Walk(const DigitGrid& givens) {
 std::string Walk::Part(HelpFiles& files, std::string_view word) const {
   if (naked_ == 0) return {};
   if (word == "start") {
-    return "<p class=\"picture\">" + Image(files, "first_steps-start", DrawBoard(Board(0), Frame::Plain)) + "</p>\n";
+    return "<p class=\"picture\">" + Image(files, "first_steps-start", DrawBoard(Board(0), Frame::Plain)) +
+           "</p>\n";
   }
   if (word == "first") return Reasoned(files, 0);
   if (word == "run") return Run(files, 1, naked_);
