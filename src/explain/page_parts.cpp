@@ -7,6 +7,18 @@
 #include "solver/technique_table.h"
 
 namespace kestrel {
+namespace {
+
+// The image of a sign by itself.
+std::string Sample(HelpFiles& files, Sign sign) {
+  const std::string file = "pictures/sign-" + std::to_string(static_cast<int>(sign) + 1) + ".svg";
+  files[file] = SignSample(sign);
+  const std::string size = std::to_string(kSampleSize * 3 / 4);
+  return "<img src=\"" + file + "\" width=\"" + size + "\" height=\"" + size + "\" alt=\"" +
+         Escaped(WordsOf(sign).look) + "\">";
+}
+
+}  // namespace
 
 std::string NameOf(Technique technique) {
   if (technique == Technique::AvoidableRectangle) return "Avoidable Rectangle";  // shortened in the window
@@ -50,13 +62,19 @@ std::string Image(HelpFiles& files, const std::string& name, const BoardPicture&
 std::string Legend(HelpFiles& files, const SignSet& signs) {
   if (signs.empty()) return {};
   std::string html = "<table class=\"legend\">\n";
-  const std::string size = std::to_string(kSampleSize * 3 / 4);
   for (const Sign sign : signs) {
-    const SignWords words = WordsOf(sign);
-    const std::string file = "pictures/sign-" + std::to_string(static_cast<int>(sign) + 1) + ".svg";
-    files[file] = SignSample(sign);
-    html += "<tr><td><img src=\"" + file + "\" width=\"" + size + "\" height=\"" + size + "\" alt=\"" +
-            Escaped(words.look) + "\"></td><td>" + Escaped(words.meaning) + "</td></tr>\n";
+    html += "<tr><td>" + Sample(files, sign) + "</td><td>" + Escaped(WordsOf(sign).meaning) + "</td></tr>\n";
+  }
+  return html + "</table>\n";
+}
+
+std::string SignTable(HelpFiles& files) {
+  std::string html = "<table class=\"legend\">\n";
+  for (int i = 0; i <= static_cast<int>(Sign::Bar); ++i) {
+    const auto sign = static_cast<Sign>(i);
+    const auto& [look, meaning] = WordsOf(sign);
+    html += "<tr><td>" + Sample(files, sign) + "</td><td>" + Escaped(look) + "</td><td>" + Escaped(meaning) +
+            "</td></tr>\n";
   }
   return html + "</table>\n";
 }

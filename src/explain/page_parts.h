@@ -33,5 +33,7 @@ std::string Image(HelpFiles& files, const std::string& name, const BoardPicture&
 
 // What the signs of a picture mean: a small table with a sample of each, or nothing when there are none.
 std::string Legend(HelpFiles& files, const SignSet& signs);
+// The same of all signs there are, and what they look like.
+std::string SignTable(HelpFiles& files);
 
 }  // namespace kestrel

@@ -270,7 +270,7 @@ std::string UniqueRectangleReason(const Example& example) {
     const Text pair = DigitNames(f.digits);
     return Cells(f, 0, 3) + " hold only " + pair + ". If " + Name(f, 3) + " were " +
            DigitNames(f.digits, "or") + " too, the four corners would hold nothing but " + pair +
-           ", and swapping the two digits would give a second solution. Every puzzle here has just one, so " +
+           ", and swapping the two digits would give a second solution. A proper puzzle has just one, so " +
            Name(f, 3) + " is neither.";
   }
   const CandidateMask pair = f.pattern[0].digits;

@@ -26,11 +26,12 @@ SignWords WordsOf(Sign sign) {
     case Sign::Removed:
       return {"struck square", "a candidate that is removed"};
     case Sign::BaseUnit:
-      return {"blue background", "a row, column or box in which the pattern lies"};
+      return {"blue background, filled header or heavy blue frame",
+              "a row, column or box in which the pattern lies"};
     case Sign::Losing:
-      return {"sand-coloured background", "cells that lose candidates"};
+      return {"sand-coloured background, framed header", "cells that lose candidates"};
     case Sign::Tie:
-      return {"dashed frame", "a row, column or box that ties the pattern together"};
+      return {"dashed frame round a header or a box", "a row, column or box that ties the pattern together"};
     case Sign::Bar:
       return {"bar", "joins cells that belong together"};
   }

@@ -158,6 +158,8 @@ class Builder {
       Practice(page, words);
     } else if (word == "@techniques") {
       Techniques();
+    } else if (word == "@signs") {
+      out_ << SignTable(site_.files);
     } else if (word == "@ladder") {
       Ladder();
     } else if (word == "@walk") {

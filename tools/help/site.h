@@ -10,6 +10,7 @@
 //   @story KEY | what to spot             an example of the page in three pictures: spot it, see why, remove
 //   @exercises                           links to the exercises of the page's techniques
 //   @practice STEP ...                   with which puzzles to practise the techniques
+//   @signs                               the table of all signs of the pictures
 //   @techniques                          the table of all techniques
 //   @ladder                              the practice puzzles of all techniques
 //   @walk PART                           a part of the puzzle that is solved step by step (walk.h)

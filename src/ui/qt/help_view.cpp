@@ -32,7 +32,7 @@ constexpr int kTextMargin = 16;
 constexpr int kNarrow = 720;  // below this, a picture stands under its explanation, not beside it
 
 // A picture and its explanation fit on one screen, below the head of a page.
-constexpr int kHeadOfPage = 190;
+constexpr int kHeadOfPage = 204;
 constexpr double kPictureShare = 0.56;  // of the page's width, beside an explanation
 constexpr int kSmallestPicture = 300;
 
