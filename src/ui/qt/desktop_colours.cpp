@@ -67,7 +67,7 @@ void DesktopColours::Watch() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
   bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
-              SLOT(OnSettingChanged(QString, QString, QDBusVariant)));
+              SLOT(OnSettingChanged(QDBusMessage)));
   Ask(kColourScheme);
   Ask(kContrast);
 }
@@ -84,8 +84,11 @@ void DesktopColours::Ask(const QString& key) {
   });
 }
 
-void DesktopColours::OnSettingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
-  if (group == QLatin1String(kAppearance)) Take(key, value.variant());
+// Group, key and value.
+void DesktopColours::OnSettingChanged(const QDBusMessage& signal) {
+  const QList<QVariant> arguments = signal.arguments();
+  if (arguments.size() != 3 || arguments[0].toString() != QLatin1String(kAppearance)) return;
+  Take(arguments[1].toString(), arguments[2]);
 }
 
 void DesktopColours::Take(const QString& key, const QVariant& value) {

@@ -3,14 +3,13 @@
 // choice "as the desktop".
 #pragma once
 
+#include <QDBusMessage>
 #include <QObject>
 #include <QProcessEnvironment>
 #include <functional>
 
 #include "ui/qt/palette.h"
 #include "view/view_settings.h"
-
-class QDBusVariant;
 
 namespace kestrel {
 
@@ -35,7 +34,7 @@ class DesktopColours final : public QObject {
   std::function<void()> on_change;
 
  private slots:
-  void OnSettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+  void OnSettingChanged(const QDBusMessage& signal);
 
  private:
   void Ask(const QString& key);
