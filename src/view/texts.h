@@ -43,6 +43,13 @@ inline constexpr std::string_view kRenewAfter = " puzzles by new ones; their bes
 inline constexpr std::string_view kTierBefore = ": needed from ";
 inline constexpr std::string_view kTierAfter = " puzzles on. Click for its help page";
 
+// What a screen reader says
+inline constexpr std::string_view kStep = " step";
+inline constexpr std::string_view kSteps = " steps";
+inline constexpr std::string_view kHintIs = "Hint: ";
+inline constexpr std::string_view kSolvedIn = "Solved in ";
+inline constexpr std::string_view kRevealed = "The solution is shown";
+
 // Headers
 inline constexpr std::string_view kHeaderTip =
     "Click to select; with a row and a column selected, Reset Cell empties the cell where they meet";

@@ -4,6 +4,10 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QComboBox>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QSlider>
 #include <stdexcept>
 
 #include "qt/qt_game.h"
@@ -157,6 +161,50 @@ TEST(Access, StopsAtDialogs) {
   });
   game.ClickControl("cmdPlayers");
   EXPECT_EQ(game.StillExpected(), 0U);
+}
+
+// The same for lists, combos and sliders of a dialog behind a box.
+TEST(Access, MovesNothingBehindABox) {
+  QtGame game;
+  const auto behind_box = [&game](QWidget& dialog, const std::function<void()>& change) {
+    game.Expect([&](QWidget& box) {
+      change();
+      game.Settle();
+      box.close();
+    });
+    QMessageBox box(&dialog);
+    box.exec();
+  };
+  game.Expect([&](QWidget& dialog) {
+    behind_box(dialog, [&] {
+      Access(game, "PageSlider").valueInterface()->setCurrentValue(4);
+      emit qobject_cast<QComboBox*>(game.Widget("SudokuTypeKeuze"))->activated(4);
+    });
+    EXPECT_EQ(game.Controls().print.PageSlider.value, 1);
+    EXPECT_EQ(qobject_cast<QSlider*>(game.Widget("PageSlider"))->value(), 1);
+    EXPECT_EQ(game.Controls().print.SudokuTypeKeuze.index, 1);
+    dialog.close();
+  });
+  game.ClickControl("CommandPrint");
+  game.Expect([&](QWidget& dialog) {
+    game.Controls().names.Naamlijst.lines = {"Ann"};
+    game.front_end.Windows().Sync();
+    behind_box(dialog, [&] { Access(game, "Naamlijst").tableInterface()->selectRow(0); });
+    EXPECT_EQ(game.Controls().names.Naamlijst.index, -1);
+    EXPECT_TRUE(qobject_cast<QListWidget*>(game.Widget("Naamlijst"))->selectedItems().isEmpty());
+    dialog.close();
+  });
+  game.ClickControl("cmdPlayers");
+  EXPECT_EQ(game.StillExpected(), 0U);
+}
+
+// A row of the technique list opens its page for who cannot click on it.
+TEST(Access, TechniqueRowsAreLinks) {
+  QtGame game(3);
+  EXPECT_EQ(Access(game, "LabelCount(6)").role(), QAccessible::Link);
+  EXPECT_EQ(Access(game, "LabelTijd").role(), QAccessible::StaticText);
+  Do(game, "LabelCount(6)", Press());
+  EXPECT_TRUE(game.Controls().browser.window.open);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "game/board.h"
 #include "view/digit_lens.h"
 #include "view/guide.h"
+#include "view/spoken_news.h"
 #include "view/state_tips.h"
 #include "view/texts.h"
 #include "view/view_settings.h"
@@ -82,6 +83,36 @@ TEST(Guide, LeadsFromTheCardToTheEnd) {
   EXPECT_EQ(GuideFor(main, view, true), Guide());
   main.end = PuzzleEnd::Solved;
   EXPECT_EQ(GuideFor(main, view, true), (Guide{false, texts::kSolvedLine, false}));
+}
+
+TEST(SpokenNews, TellsWhatOneStepDid) {
+  OpenBoard open(3);
+  SpokenNews news;
+  EXPECT_EQ(news.Since(open.main).text, "");
+  const auto step = [&](int number) { open.main.LabelStap.caption = std::to_string(number); };
+  open.board.HideMarks(511, 40);
+  open.board.SetDigit(7, 40);
+  open.board.HideMarks(64, 41);
+  step(1);
+  News told = news.Since(open.main);
+  EXPECT_TRUE(told.cell == 40 && told.text == "1 step") << told.cell << told.text;
+  open.main.Mark(3)(50).visible = false;
+  step(2);
+  EXPECT_EQ(news.Since(open.main).cell, 50);
+  open.main.Mark(3)(50).visible = open.main.Mark(3)(51).visible = open.main.Mark(4)(52).visible = false;
+  step(0);  // a restart is no single cell
+  told = news.Since(open.main);
+  EXPECT_TRUE(told.cell == -1 && told.text == "0 steps");
+  open.main.LabelHint.tag = "3";
+  open.main.LabelHint.visible = true;
+  EXPECT_EQ(news.Since(open.main).text, "Hint: Pointing Pair");
+  EXPECT_EQ(news.Since(open.main).text, "");
+  open.main.end = PuzzleEnd::Solved;
+  EXPECT_EQ(news.Since(open.main).text, "Solved in 00:00");
+  open.main.end = PuzzleEnd::None;
+  open.main.StatusBar(1).caption = "Level: Medium";
+  open.main.StatusBar(2).caption = "Number: 4";
+  EXPECT_EQ(news.Since(open.main).text, "Level: Medium, Number: 4");
 }
 
 TEST(Tips, SayWhyNothingHappens) {

@@ -100,6 +100,7 @@ FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool u
   dispatcher_.Attach(game_, [this] {
     mirror_.Sync();
     if (records_) records_->Sync();
+    if (announcer_) announcer_->Sync();
   });
   choices_.on_look = [this] {
     mirror_.ApplyLook();
@@ -108,6 +109,7 @@ FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool u
 }
 
 void FrontEnd::PrepareMainWindow() {
+  announcer_ = std::make_unique<Announcer>(*mirror_.Board());
   InstallShortcuts(mirror_);
   mirror_.Extras()->Menu().on_records = [this] { OpenRecords(); };
   for (int panel = 3; panel <= 5; ++panel) {

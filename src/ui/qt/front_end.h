@@ -13,6 +13,7 @@
 #include "core/settings.h"
 #include "forms/ports.h"
 #include "game/game.h"
+#include "ui/qt/announcer.h"
 #include "ui/qt/dispatcher.h"
 #include "ui/qt/mirror.h"
 #include "ui/qt/qt_ports.h"
@@ -73,6 +74,7 @@ class FrontEnd {
   QtPrinter printer_;
   Game game_;
   std::unique_ptr<RecordsWindow> records_;
+  std::unique_ptr<Announcer> announcer_;  // from when the main window is there
 };
 
 // Everything about the application that does not change: fonts, icon; then the look. Before the first window.

@@ -11,6 +11,7 @@
 #include "host/host_files.h"
 #include "ui/qt/device_painter.h"
 #include "ui/qt/fonts.h"
+#include "ui/qt/guide_widgets.h"
 #include "ui/qt/look.h"
 #include "ui/qt/text_conversion.h"
 
@@ -55,8 +56,28 @@ void ColourName(QPixmap& logo) {
   painter.fillRect(logo.height() + 1, 0, logo.width(), logo.height(), QColor(TheColours().text));
 }
 
+// A text; one that can be clicked is a link, which a reader's own walk reaches where the keyboard does not.
+class TextInterface final : public QAccessibleWidget {
+ public:
+  explicit TextInterface(TextLabel& label) : QAccessibleWidget(&label, QAccessible::StaticText), label_(label) {}
+
+  QAccessible::Role role() const override {
+    return label_.OnClick() ? QAccessible::Link : QAccessible::StaticText;
+  }
+  QStringList actionNames() const override {
+    return label_.OnClick() ? QStringList{pressAction()} : QStringList();
+  }
+  void doAction(const QString& action) override {
+    if (actionNames().contains(action)) label_.OnClick()();
+  }
+
+ private:
+  TextLabel& label_;
+};
+
 QAccessibleInterface* MakeLabelInterface(const QString& /*class_name*/, QObject* object) {
-  if (dynamic_cast<TextLabel*>(object) != nullptr || dynamic_cast<StatusLabel*>(object) != nullptr) {
+  if (auto* text = dynamic_cast<TextLabel*>(object)) return new TextInterface(*text);
+  if (dynamic_cast<StatusLabel*>(object) != nullptr || dynamic_cast<GuideLine*>(object) != nullptr) {
     return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::StaticText);
   }
   return nullptr;

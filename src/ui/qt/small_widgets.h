@@ -26,6 +26,7 @@ class TextLabel final : public QWidget {
   void Show(const Label& label);
   // Makes the label act: hand pointer, brighter under the pointer.
   void SetClick(std::function<void()> click);
+  [[nodiscard]] const std::function<void()>& OnClick() const { return click_; }
   void SetFrame(RowFrame frame);
   // A frame and a tick, of the clock of a solved puzzle.
   void SetSolved(bool on);

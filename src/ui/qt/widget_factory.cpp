@@ -258,7 +258,9 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
   };
   QObject::connect(widget, &LineList::itemSelectionChanged, selected);
   QObject::connect(widget, &LineList::itemDoubleClicked,
-                   [entry = mirrored.get()] { entry->Tell(EventKind::DoubleClick); });
+                   [entry = mirrored.get(), widget] {
+                     if (!BehindDialog(*widget)) entry->Tell(EventKind::DoubleClick);
+                   });
   return mirrored;
 }
 
@@ -266,7 +268,8 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
   auto* widget = new QComboBox(parent);
   auto mirrored = std::make_unique<Mirrored<ComboBox, QComboBox>>(context.form, id, context.sink, control,
                                                                   *widget, ShowCombo);
-  QObject::connect(widget, &QComboBox::activated, [entry = mirrored.get()](int index) {
+  QObject::connect(widget, &QComboBox::activated, [entry = mirrored.get(), widget](int index) {
+    if (Refused(*entry, *widget)) return;
     entry->UserChanged(&ComboBox::index, index, EventKind::Click);
   });
   return mirrored;
