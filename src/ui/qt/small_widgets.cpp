@@ -59,7 +59,8 @@ void ColourName(QPixmap& logo) {
 // A text; one that can be clicked is a link, which a reader's own walk reaches where the keyboard does not.
 class TextInterface final : public QAccessibleWidget {
  public:
-  explicit TextInterface(TextLabel& label) : QAccessibleWidget(&label, QAccessible::StaticText), label_(label) {}
+  explicit TextInterface(TextLabel& label)
+      : QAccessibleWidget(&label, QAccessible::StaticText), label_(label) {}
 
   QAccessible::Role role() const override {
     return label_.OnClick() ? QAccessible::Link : QAccessible::StaticText;

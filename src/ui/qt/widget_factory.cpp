@@ -257,10 +257,9 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
     entry->UserChanged(&ListBox::index, widget->Selected(), EventKind::Click);
   };
   QObject::connect(widget, &LineList::itemSelectionChanged, selected);
-  QObject::connect(widget, &LineList::itemDoubleClicked,
-                   [entry = mirrored.get(), widget] {
-                     if (!BehindDialog(*widget)) entry->Tell(EventKind::DoubleClick);
-                   });
+  QObject::connect(widget, &LineList::itemDoubleClicked, [entry = mirrored.get(), widget] {
+    if (!BehindDialog(*widget)) entry->Tell(EventKind::DoubleClick);
+  });
   return mirrored;
 }
 
