@@ -14,7 +14,7 @@ inline constexpr std::string_view kMarksLine =
 inline constexpr std::string_view kSolvedLine =
     "Solved! Next opens another puzzle, Help tells how this one is solved.";
 inline constexpr std::string_view kRevealedLine =
-    "This is the solution, with the missing digits in grey. Help tells how this one is solved.";
+    "This is the solution, the missing digits in another colour. Help tells how this one is solved.";
 
 // Why something does not work now
 inline constexpr std::string_view kFinishFirst = "First finish this puzzle, or give it up with Solution";

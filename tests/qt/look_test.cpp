@@ -28,6 +28,7 @@ Meetings TextsOf(const Colours& c) {
       {c.disabled_text, {c.window, c.disabled_button}},
       {c.given, {c.given_cell, c.given_lines, c.lens}},
       {c.mark, {c.paper, c.lines, c.lens}},
+      {c.filled_in, {c.paper, c.lines, c.lens}},
       {c.black, {c.window, c.hover}},
       {c.selected_header, {c.selected_ground}},
       {c.link, {c.window}},

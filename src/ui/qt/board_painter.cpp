@@ -167,7 +167,7 @@ void BoardPainter::PaintDigits(QPainter& painter, const QRegion& region) const {
     const Label& label = main_.Grid(cell);
     const QRect place = grid_.Place(label);
     if (label.caption.empty() || !label.visible || !region.intersects(place)) continue;
-    painter.setPen(colours_.Of(label.fore, main_.filled_in.Has(cell) ? colours_.mark : colours_.text));
+    painter.setPen(colours_.Of(label.fore, main_.filled_in.Has(cell) ? colours_.filled_in : colours_.text));
     PaintText(painter, place, label.align, Caption(label.caption));
   }
 }

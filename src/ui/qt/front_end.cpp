@@ -122,7 +122,7 @@ void FrontEnd::PrepareMainWindow() {
 void FrontEnd::OpenRecords(int level) {
   if (!records_) records_ = std::make_unique<RecordsWindow>(game_.State());
   const int chosen = game_.State().choices.SelectedLevel;
-  records_->Open(level != 0 ? level : chosen != 0 ? chosen : 1);
+  records_->Open(level != 0 ? level : chosen != 0 ? chosen : 1, mirror_.WindowOf(FormId::Main));
 }
 
 int FrontEnd::Run() {

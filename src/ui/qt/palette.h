@@ -21,6 +21,7 @@ struct Colours {
   QRgb given_cell;     // ground of the givens, which differ from own digits by more than their hue
   QRgb given;          // a given's digit
   QRgb mark;
+  QRgb filled_in;    // a digit that Solution put in
   QRgb ghost;        // marks while no puzzle is open: there, but not alive
   QRgb hover;        // under a mark, header or button that can be clicked
   QRgb pressed;      // the same while the button is down

@@ -3,6 +3,8 @@
 
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QScreen>
+#include <algorithm>
 
 #include "forms/texts.h"
 #include "ui/qt/scaled.h"
@@ -51,9 +53,20 @@ void RecordsWindow::ApplyLook() {
   update();
 }
 
-void RecordsWindow::Open(int level) {
+// Over the middle of the game, and whole on its screen.
+void RecordsWindow::PlaceOver(const QWidget& game) {
+  adjustSize();
+  const QRect screen = game.screen()->availableGeometry();
+  QRect place(QPoint(), size());
+  place.moveCenter(game.frameGeometry().center());
+  move(std::max(screen.left(), std::min(place.left(), screen.right() - place.width())),
+       std::max(screen.top(), std::min(place.top(), screen.bottom() - place.height())));
+}
+
+void RecordsWindow::Open(int level, const QWidget& game) {
   levels_.setCurrentIndex(level - 1);
   const bool was_open = isVisible();
+  if (!was_open) PlaceOver(game);
   show();
   Sync();
   map_.setFocus();

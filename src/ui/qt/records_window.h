@@ -19,8 +19,8 @@ class RecordsWindow final : public QWidget {
   // The session must outlive the window.
   explicit RecordsWindow(const Session& session);
 
-  // On the screen and in front, with a level's records, 1..5.
-  void Open(int level);
+  // On the screen and in front of the game's window, with a level's records, 1..5.
+  void Open(int level, const QWidget& game);
   // What the game has changed.
   void Sync();
   // After a change of size or colours.
@@ -30,6 +30,7 @@ class RecordsWindow final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void PlaceOver(const QWidget& game);
   void ShowHolders(const LevelRecords& records);
   void Point(int number);
 

@@ -86,6 +86,18 @@ void PaintFocus(QPainter& painter, const DeviceScope& scope, const QRect& place)
   painter.drawRoundedRect(QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
 }
 
+bool IsDialog(const QWidget& widget) {
+  return widget.isWindow() && (widget.windowFlags() & Qt::WindowType_Mask) == Qt::Dialog;
+}
+
+// A line round a dialog, which in dark colours could not be told from the window behind it.
+void PaintEdge(QPainter& painter, const DeviceScope& scope, const QRect& place) {
+  const double line = scope.Grid().Pixels(1);
+  painter.setPen(QPen(QColor(TheColours().thin_line), line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2));
+}
+
 QColor ButtonFace(const Colours& colours, const QStyleOptionButton& option) {
   const QColor face = option.palette.color(QPalette::Active, QPalette::Button);
   const bool coloured = face != QColor(colours.button);
@@ -302,8 +314,17 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     const DeviceScope scope(*painter, nullptr);
     return PaintFocus(*painter, scope, scope.Map(option->rect));
   }
+  if (element == PE_Widget && widget != nullptr && IsDialog(*widget)) {
+    const DeviceScope scope(*painter, nullptr);
+    return PaintEdge(*painter, scope, scope.Map(widget->rect()));
+  }
   if (element == PE_FrameLineEdit || element == PE_Frame) return PaintOutline(*option, *painter);
   QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void CalmStyle::polish(QWidget* widget) {
+  QProxyStyle::polish(widget);
+  if (IsDialog(*widget)) widget->setAttribute(Qt::WA_StyledBackground);
 }
 
 int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -17,6 +17,8 @@ class CalmStyle final : public QProxyStyle {
   explicit CalmStyle(const Look& look);
   [[nodiscard]] const Look& GetLook() const { return look_; }
 
+  using QProxyStyle::polish;
+  void polish(QWidget* widget) override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
