@@ -55,6 +55,10 @@ FileResult MemoryFiles::Copy(std::string_view from, std::string_view to) {
   return Replace(to, Bytes(file->second));
 }
 
+FileResult MemoryFiles::Create(std::string_view path, std::span<const std::uint8_t> bytes) {
+  return Exists(path) ? FileResult::Failed("File exists") : Replace(path, bytes);
+}
+
 FileResult MemoryFiles::KeepAside(std::string_view path) {
   const std::string aside = std::string(path) + ".damaged-";
   return Copy(path, aside + std::to_string(Count(aside)));

@@ -69,6 +69,10 @@ class Files {
   // The copy appears whole or not at all, and has the permissions of a new file.
   virtual FileResult Copy(std::string_view from, std::string_view to) = 0;
 
+  // Makes a file where nothing has its name yet, not even a link that leads nowhere; fails otherwise. It appears
+  // whole or not at all.
+  virtual FileResult Create(std::string_view path, std::span<const std::uint8_t> bytes) = 0;
+
   // Copies a file beside itself under a name with today's date: PATH.damaged-2031-12-24, with "-2", "-3" and
   // so on behind it when there is one already.
   virtual FileResult KeepAside(std::string_view path) = 0;

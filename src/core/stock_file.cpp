@@ -126,21 +126,20 @@ void CopyStockIfMissing(Files& files, std::string_view program_folder, std::stri
   (void)files.Copy(StockPath(program_folder), stock);
 }
 
-void KeepOlderStock(Files& files, std::string_view data_folder) {
+bool KeepOlderStock(Files& files, std::string_view data_folder) {
   const std::string path = StockPath(data_folder);
-  Bytes bytes;
-  if (files.Length(path) != kStockBytes || !files.Read(path, kStockBytes, bytes)) return;
+  const std::string older_path = path + std::string(kOlderStockEnding);
+  Bytes bytes, older;
+  if (files.Length(path) != kStockBytes || !files.Read(path, kStockBytes, bytes)) return false;
+  // Nothing new: what is in the copy was whole. Most starts end here.
+  if (files.Exists(older_path) && files.Read(older_path, kLongestStock, older) && older == bytes) return true;
   const auto stock = std::make_unique<StockTable>();
   DecodeStock(bytes, true, *stock);
   bool whole = bytes.size() == kStockBytes;
   EachRecord(
       [&](int level, int number) { whole = whole && CheckRecord((*stock)(level, number), level).empty(); });
-  if (!whole) return;
-  // Most starts find what the last one kept; flushing it to the disk again would take a part of each.
-  const std::string older = path + std::string(kOlderStockEnding);
-  Bytes kept;
-  if (files.Length(older) == kStockBytes && files.Read(older, kStockBytes, kept) && kept == bytes) return;
-  (void)files.Replace(older, bytes);
+  if (whole) (void)files.Replace(older_path, bytes);
+  return whole;
 }
 
 FileResult ReadStock(Files& files, std::string_view data_folder, StockTable& table,

@@ -28,9 +28,10 @@ constexpr std::int16_t StockLevelBit(int level) {
 // a backslash. A failure is not reported: ReadStock then finds no file.
 void CopyStockIfMissing(Files& files, std::string_view program_folder, std::string_view data_folder);
 
-// Copies the stock in a folder, which ends in a backslash, beside itself, over the copy made before. Nothing is
-// copied when it is not whole, so that damage never reaches the older copy; a failure is not reported.
-void KeepOlderStock(Files& files, std::string_view data_folder);
+// Copies the stock in a folder, which ends in a backslash, beside itself, over the copy made before. False when it is
+// not whole: then nothing is copied, so that damage never reaches the older copy. A failure to write the copy is not
+// reported.
+bool KeepOlderStock(Files& files, std::string_view data_folder);
 
 // What a running copy of the program knows of the stock file. It tells what other copies wrote since; the
 // file and the copy's own table differ where another one renewed a level.

@@ -44,7 +44,7 @@ void Game::HandleMain(const Event& event) {
     case EventKind::Release:
       return Release(event);
     case EventKind::Timer:
-      return session_.play.clock.Tick();
+      return Tick();
     case EventKind::Resize:
       return Resize(session_.forms.main.window.state);
     case EventKind::Close:

@@ -14,6 +14,16 @@
 
 namespace kestrel {
 
+namespace {
+
+// The data folder as people write it: its name ends the written form, between two backslashes.
+std::string ShownFolder(const std::string& written) {
+  const std::string name(names::kDataFolder);
+  return written.substr(0, written.size() - name.size() - 2) + '/' + name + '/';
+}
+
+}  // namespace
+
 void Game::Start() {
   const Busy busy(depth_);
   MainWindow& main = session_.forms.main;
@@ -32,6 +42,14 @@ void Game::Start() {
   session_.screen.Show(FormId::Main);
 }
 
+// The older copy is never older than a day of play: the first tick after midnight renews it.
+void Game::Tick() {
+  const int now = session_.ports.clock.SecondsOfDay();
+  if (now < last_tick_) (void)KeepOlderStock(session_.ports.files, session_.stockroom.DataFolder);
+  last_tick_ = now;
+  session_.play.clock.Tick();
+}
+
 void Game::FindFolders() {
   session_.ProgramFolder = AddBackslash(session_.ports.program.folder);
   const std::string local = AddBackslash(GetSpecialFolder(session_.ports.folders, kLocalAppData));
@@ -44,19 +62,23 @@ void Game::FindFolders() {
 void Game::LoadStock() {
   Files& files = session_.ports.files;
   Stockroom& room = session_.stockroom;
-  CopyStockIfMissing(files, session_.ProgramFolder, room.DataFolder);
-  if (ReadStock(files, room.DataFolder, *room.stock, room.StockStatus, *room.known)) {
-    KeepOlderStock(files, room.DataFolder);
-    return;
-  }
+  const std::string stock = ShownFolder(room.DataFolder) + std::string(kStockFileName);
+  const std::string older = stock + std::string(kOlderStockEnding);
   const auto tell = [this](std::string_view title, std::string_view text, MessageIcon icon) {
     return session_.asker.Message({std::string(title), std::string(text), icon, MessageButtons::Ok});
   };
+  const bool has_older =
+      files.Exists(room.DataFolder + std::string(kStockFileName) + std::string(kOlderStockEnding));
+  CopyStockIfMissing(files, session_.ProgramFolder, room.DataFolder);
+  if (ReadStock(files, room.DataFolder, *room.stock, room.StockStatus, *room.known)) {
+    if (!KeepOlderStock(files, room.DataFolder) && has_older) {
+      (void)tell(texts::kFileError, texts::DamagedStock(stock, older), MessageIcon::Exclamation);
+    }
+    return;
+  }
   if (tell(texts::kFileError, texts::kReadError, MessageIcon::Exclamation) == Answer::Ended) return;
   if (tell(texts::kCriticalError, texts::kCannotProceed, MessageIcon::Critical) == Answer::Ended) return;
-  const std::string stock = room.DataFolder + std::string(kStockFileName);
-  const std::string older = stock + std::string(kOlderStockEnding);
-  if (files.Exists(older) &&
+  if (has_older &&
       tell(texts::kCriticalError, texts::OlderStock(older), MessageIcon::Information) == Answer::Ended) {
     return;
   }

@@ -39,6 +39,7 @@ class Game final : public GameLoop {
 
   void FindFolders();
   void LoadStock();
+  void Tick();
   void ResetPlay();
   void RunRound();
   void Acknowledge();
@@ -57,6 +58,7 @@ class Game final : public GameLoop {
   Session session_;
   Renewal renewal_{session_.stockroom, session_.forms.main, session_.ports.seeds};
   int depth_ = 0;
+  int last_tick_ = 0;  // second of the day
 };
 
 }  // namespace kestrel

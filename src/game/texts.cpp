@@ -8,12 +8,20 @@
 
 namespace kestrel::texts {
 
+std::string DamagedStock(std::string_view stock, std::string_view older) {
+  return "Your file of sudokus '" + std::string(stock) +
+         "' is damaged. You can play what is left of it. An older copy, which was good, exists too: '" +
+         std::string(older) +
+         "'. The command 'kestrel-sudoku-cli stock repair' takes what is damaged from the copy and keeps all "
+         "other "
+         "sudokus and best times.";
+}
+
 std::string OlderStock(std::string_view path) {
-  return "A copy of your puzzles and best times from the last start of the game exists: '" +
-         std::string(path) +
+  return "An older copy of your puzzles and best times exists: '" + std::string(path) +
          "'. To go on with it, put it in the place of 'sudstock.kpz'. A stock that can be read but is "
-         "damaged is "
-         "made whole by 'kestrel-sudoku-cli stock repair', which uses this copy too.";
+         "damaged is made "
+         "whole by 'kestrel-sudoku-cli stock repair', which uses this copy too.";
 }
 
 std::string WrongDigit(std::string_view cell_name) {

@@ -17,6 +17,8 @@ inline constexpr std::string_view kCannotProceed =
     "The program failed to open the file with sudoku puzzles, and therefore cannot proceed. Make sure that "
     "the file 'SudStock.kpz' is in the program folder before rerunning the program. If it keeps on failing, "
     "you can try to reinstall the program. Program will be aborted.";
+// That a stock can be read and is damaged, that it and the older copy are both there, and what to do.
+std::string DamagedStock(std::string_view stock, std::string_view older);
 // Where the player's puzzles and best times still are, and what to do; only when there is such a copy.
 std::string OlderStock(std::string_view path);
 

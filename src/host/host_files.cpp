@@ -245,6 +245,10 @@ FileResult HostFiles::Copy(std::string_view from, std::string_view to) {
   return copied ? FlushFolder(calls_, folder) : Failure();
 }
 
+FileResult HostFiles::Create(std::string_view path, std::span<const std::uint8_t> bytes) {
+  return ReplaceTarget(calls_, {HostPath(path), false, {}}, bytes, &HostTemporary::AppearAs);
+}
+
 FileResult HostFiles::KeepAside(std::string_view path) {
   const std::string dated = std::string(path) + ".damaged-" + Today();
   std::string aside = dated;

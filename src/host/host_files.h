@@ -33,6 +33,7 @@ class HostFiles final : public Files {
   FileResult Replace(std::string_view path, std::span<const std::uint8_t> bytes) override;
   FileResult Update(std::string_view path, std::size_t max_bytes, const FileChange& change) override;
   FileResult Copy(std::string_view from, std::string_view to) override;
+  FileResult Create(std::string_view path, std::span<const std::uint8_t> bytes) override;
   FileResult KeepAside(std::string_view path) override;
   FileResult MakeFolder(std::string_view path) override;
   FileResult Remove(std::string_view path) override;

@@ -14,21 +14,25 @@ namespace {
 constexpr std::string_view kProbeFile = "temphtm.HTM";
 constexpr std::string_view kProbeText = "<HTML> <\\HTML>\r\n";
 
-// The file exists only while this object does.
+// The file exists only while this object does. One that is there already, or a link of its name, is somebody else's: it
+// stays, and does as well.
 class ProbeFile {
  public:
   ProbeFile(Files& files, std::string path) : files_(files), path_(std::move(path)) {
     const Bytes text(kProbeText.begin(), kProbeText.end());
-    (void)files_.Replace(path_, text);
+    made_ = static_cast<bool>(files_.Create(path_, text));
   }
   ProbeFile(const ProbeFile&) = delete;
   ProbeFile& operator=(const ProbeFile&) = delete;
-  ~ProbeFile() { (void)files_.Remove(path_); }
+  ~ProbeFile() {
+    if (made_) (void)files_.Remove(path_);
+  }
   [[nodiscard]] const std::string& Path() const { return path_; }
 
  private:
   Files& files_;
   std::string path_;
+  bool made_ = false;
 };
 
 void Report(Asker& asker, std::string_view title, std::string_view text) {

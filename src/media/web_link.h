@@ -14,7 +14,7 @@ inline constexpr std::string_view kWebSite = "https://kestrel-sudoku.example/";
 
 // Opens the address in the program that the desktop has for HTML files, and says so in a message when there
 // is none or when it does not start. To ask for the program, a file is put into the program folder (with its
-// backslash) for a moment; where that is not possible, only its name is asked about.
+// backslash) for a moment; where that is not possible, or the name is taken, only the name is asked about.
 void OpenWebSite(std::string_view address, std::string_view program_folder, Files& files, Shell& shell,
                  Asker& asker);
 

@@ -26,6 +26,9 @@ class FullDisk final : public Files {
   FileResult Update(std::string_view path, std::size_t max, const FileChange& change) override {
     return IsFull(path) ? FileResult::Failed(kReason) : inner_.Update(path, max, change);
   }
+  FileResult Create(std::string_view path, std::span<const std::uint8_t> bytes) override {
+    return inner_.Create(path, bytes);
+  }
   FileResult KeepAside(std::string_view path) override { return inner_.KeepAside(path); }
   FileResult Copy(std::string_view from, std::string_view to) override { return inner_.Copy(from, to); }
   FileResult MakeFolder(std::string_view path) override { return inner_.MakeFolder(path); }

@@ -94,5 +94,27 @@ TEST(WebLink, ReportsWhatFails) {
   }
 }
 
+// What has the probe's name already is somebody else's, and so is what a link of that name leads to.
+TEST(WebLink, LeavesAFileOrALinkOfTheProbesNameAlone) {
+  SystemCalls calls;
+  HostFiles files(calls);
+  for (const char* leads_to : {"", "victim", "nowhere"}) {
+    const TempFolder folder;
+    folder.Put("victim", "precious");
+    if (*leads_to == '\0')
+      folder.Put("temphtm.HTM", "own");
+    else
+      std::filesystem::create_symlink(leads_to, folder.Path("temphtm.HTM"));
+    LineList lines;
+    NoInput input;
+    MemoryDesk desk(input, lines);
+    MemoryShell shell(true, true, lines);
+    OpenWebSite(kWebSite, folder.Written(), files, shell, desk);
+    EXPECT_EQ(lines.lines, std::vector{"shell " + std::string(kWebSite)});
+    EXPECT_EQ(folder.Get("victim"), "precious");
+    EXPECT_EQ(folder.Count(), 2) << leads_to;
+  }
+}
+
 }  // namespace
 }  // namespace kestrel

@@ -11,6 +11,7 @@
 #include <QTextTable>
 
 #include "explain/walkthrough_page.h"
+#include "host/host_files.h"
 #include "media/help.h"
 #include "print/print_job.h"
 #include "qt/qt_game.h"
@@ -163,7 +164,9 @@ TEST(Sound, RefusesWhatIsNoWaveFile) {
       {wave(format + samples).substr(0, 48), false},
       {wave(format + "data" + number(0)), false},
   };
-  QtSoundDevice device;
+  SystemCalls calls;
+  HostFiles files(calls);
+  QtSoundDevice device(files);
   for (const auto& [content, good] : kFiles) {
     folder.Put("sound.wav", content);
     EXPECT_EQ(device.Load(folder.Written("sound.wav")) >= 0, good) << content;

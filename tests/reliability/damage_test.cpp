@@ -79,6 +79,27 @@ TEST(Damage, AFolderInThePlaceOfTheStockIsReportedAndLeftAlone) {
   EXPECT_TRUE(fs::is_directory(home.home.Path(kStock) / "folder"));
 }
 
+TEST(Damage, TheOlderCopyIsRenewedAtMidnightAndTheMessageNamesBoth) {
+  GameHome home;
+  SystemCalls calls;
+  const std::string solve = std::string(kAnnPlays) + SolveLines(1, 1);
+  EXPECT_EQ(PlayOn(home, calls, solve + "press CommandNew\nclock 23:59:59\ntick\n").status, 0);
+  const std::string older = "KestrelSudoku/sudstock.kpz.older", good = home.StockBytes();
+  EXPECT_NE(home.home.Get(older), good);
+  home.home.Put(older, "");
+  EXPECT_EQ(
+      PlayOn(home, calls, SolveLines(2, 1) + "press CommandNew\nclock 23:59:59\ntick\nclock 00:00:01\ntick\n")
+          .status,
+      0);
+  EXPECT_NE(home.StockBytes(), good);
+  EXPECT_EQ(home.home.Get(older), home.StockBytes());
+  home.home.Put(kStock, home.StockBytes().replace(40 * kRecordBytes, 9, Noise(9)));
+  const Played played = PlayOn(home, calls, "press CommandNew\nget StatusBar(5).caption\n");
+  EXPECT_EQ(played.Count("message \"File Error\" \"Your file of sudokus"), 1) << played.output;
+  EXPECT_NE(played.output.find(older), std::string::npos);
+  EXPECT_EQ(home.home.Get(older).substr(0, 9), good.substr(0, 9));
+}
+
 // No right to read, or none to write; played as another user when the superuser runs this.
 TEST(Damage, MissingRightsAreReported) {
   const std::string ann(kAnnPlays), script = ann + SolveLines(1, 1);

@@ -62,6 +62,9 @@ class RecordingFiles final : public Files {
   FileResult Replace(std::string_view path, std::span<const std::uint8_t> bytes) override;
   FileResult Update(std::string_view path, std::size_t max_bytes, const FileChange& change) override;
   FileResult Copy(std::string_view from, std::string_view to) override { return inner_.Copy(from, to); }
+  FileResult Create(std::string_view path, std::span<const std::uint8_t> bytes) override {
+    return inner_.Create(path, bytes);
+  }
   FileResult KeepAside(std::string_view path) override { return inner_.KeepAside(path); }
   FileResult MakeFolder(std::string_view path) override { return inner_.MakeFolder(path); }
   FileResult Remove(std::string_view path) override { return inner_.Remove(path); }

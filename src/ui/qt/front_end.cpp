@@ -85,12 +85,13 @@ FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool u
                  const Session& state = game_.State();
                  return TipState{state.play.puzzle.MarksAreCandidates(), state.stockroom.RenewingLevel};
                },
-               choices_, QString::fromStdString(help_folder)}),
+               choices_, host.files, QString::fromStdString(help_folder)}),
       asker_(mirror_, dispatcher_,
              [this](int level) {
                return RecordsOf(*game_.State().stockroom.stock, game_.State().players, level);
              }),
       screen_(mirror_, dispatcher_, [this] { PrepareMainWindow(); }),
+      sound_(host.files),
       help_(mirror_),
       printer_(mirror_, dispatcher_, host.host_files, asker_, host.settings),
       game_(Ports{host.program, host.folders, host.files, host.settings, host.clock, host.seeds, dispatcher_,

@@ -32,6 +32,7 @@ GameApplication::GameApplication(const GameOptions& options, const std::string& 
       program_{Absolute(data)},
       settings_file_(files_, SettingsPath(options, home_, files_)),
       settings_(Unattended() ? static_cast<Settings&>(settings_kept_) : settings_file_) {
+  files_.KeepName(program_.folder);
   MakeApplication(argv);
   SetUpApplication(FirstLook());
   front_end_ = std::make_unique<FrontEnd>(

@@ -66,7 +66,9 @@ template <class C>
 void Mirror::Add(View& view, ControlId id, C& control) {
   if constexpr (!std::is_same_v<C, Window>) {
     if (OnBoard(id)) return;
-    const WidgetContext context{view.form, sink_, *view.window,
+    const WidgetContext context{view.form,
+                                sink_,
+                                *view.window,
                                 [&view](ControlId chosen) {
                                   for (const MirroredPtr& other : view.controls) {
                                     const ControlId each = other->Id();
@@ -75,7 +77,8 @@ void Mirror::Add(View& view, ControlId id, C& control) {
                                     }
                                   }
                                 },
-                                QStringLiteral(":/icons/logo.png")};
+                                QStringLiteral(":/icons/logo.png"),
+                                surroundings_.files};
     view.controls.push_back(MakeMirrored(context, ParentFor(view, id), id, control));
     QWidget* widget = view.controls.back()->Widget();
     if (widget != nullptr && control.tab_index >= 0) view.tab_order[control.tab_index] = widget;

@@ -10,6 +10,7 @@
 #include <optional>
 #include <vector>
 
+#include "core/files.h"
 #include "forms/forms.h"
 #include "ui/qt/event_sink.h"
 #include "view/state_tips.h"
@@ -31,6 +32,7 @@ class Mirror {
   struct Surroundings {
     std::function<TipState()> state;  // of play
     ViewChoices& choices;
+    Files& files;         // of the program: its pictures
     QString help_folder;  // host path of the installed help pages
   };
 

@@ -2,15 +2,11 @@
 #include "ui/qt/qt_sound_device.h"
 
 #include <QAudioDevice>
-#include <QFile>
 #include <QMediaDevices>
 #include <QUrl>
 #include <QtEndian>
 #include <algorithm>
 #include <cstdint>
-
-#include "host/host_files.h"
-#include "ui/qt/text_conversion.h"
 
 namespace kestrel {
 
@@ -23,6 +19,7 @@ constexpr qsizetype kPcmFormat = 16;
 constexpr qsizetype kBytesPerSecond = 8;
 constexpr qsizetype kBytesPerFrame = 12;
 constexpr qsizetype kBitsPerSample = 14;
+constexpr std::size_t kMostBytes = 16U << 20U;  // of a sound file
 
 template <class Number>
 Number NumberAt(const QByteArray& bytes, qsizetype place) {
@@ -71,10 +68,11 @@ bool QtSoundDevice::Open() {
 }
 
 std::int32_t QtSoundDevice::Load(std::string_view path) {
-  QFile file(ToQString(ToHostPath(path)));
-  if (!file.open(QIODevice::ReadOnly)) return -1;
+  Bytes file;
+  if (!files_.Read(path, kMostBytes, file)) return -1;
   // The samples are decoded in the background; a file that cannot be one is refused at once.
-  const QByteArray wave = WaveWithSilence(file.readAll());
+  const QByteArray wave = WaveWithSilence(
+      QByteArray(reinterpret_cast<const char*>(file.data()), static_cast<qsizetype>(file.size())));
   if (wave.isEmpty()) return -1;
   effects_.push_back(std::make_unique<QSoundEffect>());
   effects_.back()->setSource(QUrl(QLatin1String("data:audio/wav;base64,") + QLatin1String(wave.toBase64())));

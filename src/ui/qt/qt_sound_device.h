@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "core/files.h"
 #include "forms/sound_device.h"
 
 namespace kestrel {
@@ -15,11 +16,14 @@ namespace kestrel {
 // does not pile up.
 class QtSoundDevice final : public SoundDevice {
  public:
+  // `files`, which must outlive this object, reads the sounds.
+  explicit QtSoundDevice(Files& files) : files_(files) {}
   bool Open() override;
   std::int32_t Load(std::string_view path) override;
   void Play(std::int32_t id) override;
 
  private:
+  Files& files_;
   std::vector<std::unique_ptr<QSoundEffect>> effects_;  // the id is the place
 };
 

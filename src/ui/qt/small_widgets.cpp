@@ -8,7 +8,6 @@
 #include <algorithm>
 
 #include "forms/texts.h"
-#include "host/host_files.h"
 #include "ui/qt/device_painter.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/guide_widgets.h"
@@ -21,6 +20,7 @@ namespace {
 
 constexpr int kPadding = 5;  // between a ground's edge and its text, pixels of 96 dpi
 constexpr int kTickWidth = 12;
+constexpr std::size_t kMostBytes = 16U << 20U;  // of a picture's file
 
 bool OnlyDigitsAndColon(const QString& text) {
   for (const QChar letter : text) {
@@ -275,7 +275,9 @@ void LinkLabel::paintEvent(QPaintEvent* /*event*/) {
 void PictureButton::Show(const Picture& picture) {
   pixmap_ = QPixmap();
   if (!picture.file.empty()) {
-    pixmap_.load(ToQString(ToHostPath(picture.file)));
+    Bytes file;
+    if (files_.Read(picture.file, kMostBytes, file))
+      pixmap_.loadFromData(file.data(), static_cast<uint>(file.size()));
   } else if (!stand_in_.isEmpty()) {
     pixmap_ = LoadForRatio(stand_in_, devicePixelRatioF() * TheLook().zoom);
     if (!pixmap_.isNull() && TheLook().scheme != Scheme::Light) ColourName(pixmap_);

@@ -11,6 +11,7 @@
 #include <functional>
 #include <string>
 
+#include "core/files.h"
 #include "forms/control.h"
 #include "ui/qt/device_painter.h"
 
@@ -72,8 +73,10 @@ class LinkLabel final : public QAbstractButton {
 // A picture from a file, or one that stands in where the control names none; can be clicked.
 class PictureButton final : public QAbstractButton {
  public:
-  // `stand_in` is a host path; beside it, name@2x.png and name@3x.png serve larger scales.
-  PictureButton(const QString& stand_in, QWidget* parent) : QAbstractButton(parent), stand_in_(stand_in) {}
+  // `stand_in` is a host path; beside it, name@2x.png and name@3x.png serve larger scales. `files`, which must outlive
+  // this object, reads the pictures that controls name.
+  PictureButton(const QString& stand_in, Files& files, QWidget* parent)
+      : QAbstractButton(parent), stand_in_(stand_in), files_(files) {}
   void Show(const Picture& picture);
 
  protected:
@@ -81,6 +84,7 @@ class PictureButton final : public QAbstractButton {
 
  private:
   QString stand_in_;
+  Files& files_;
   QPixmap pixmap_;
 };
 

@@ -312,7 +312,7 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
     return std::make_unique<Mirrored<Picture, StartPanel>>(context.form, id, context.sink, control,
                                                            *new StartPanel(parent), ShowPanelPicture);
   }
-  auto* widget = new PictureButton(context.logo, parent);
+  auto* widget = new PictureButton(context.logo, context.files, parent);
   auto mirrored = std::make_unique<Mirrored<Picture, PictureButton>>(context.form, id, context.sink, control,
                                                                      *widget, ShowPicture);
   QObject::connect(widget, &PictureButton::clicked,

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "core/files.h"
 #include "forms/event.h"
 #include "forms/page_view.h"
 #include "ui/qt/mirrored.h"
@@ -23,6 +24,7 @@ struct WidgetContext {
   std::function<void(ControlId)> unchoose_others;
   // The picture for Picture1 where its control names none; a host path.
   QString logo;
+  Files& files;  // reads the pictures that controls name
 };
 
 using MirroredPtr = std::unique_ptr<MirroredControl>;
