@@ -34,10 +34,11 @@ class StopAt final : public Yield {
   const Session* session_ = nullptr;
 };
 
-// Puts a stock of sound puzzles into the data folder.
+// Puts a stock of sound puzzles into the data folder, and its older copy: a start has nothing to compare or write.
 inline void PutSoundStock(MemoryFiles& files) {
   static const Bytes stock = EncodeStock(testing::MakeTestStock());
   files.Put(kStock, AsText(stock.data(), stock.size()));
+  files.Put(std::string(kStock) + std::string(kOlderStockEnding), AsText(stock.data(), stock.size()));
 }
 
 struct PlayedGame {

@@ -24,8 +24,8 @@ void TestOneInput(std::string_view input) {
   PutSoundStock(files);
   const PlayedGame played = PlayInMemory(files, WithSmallCounts(input), false);
   Require(played.status == 0 || played.status == 2);
-  // The stock, and the one of the last start beside it.
-  Require(files.Get(kStock).size() == kStockBytes && files.Count("/home\\") == 2);
+  // The stock, and the older copy beside it.
+  Require(files.Length(kStock) == kStockBytes && files.Count("/home\\") == 2);
 }
 
 }  // namespace

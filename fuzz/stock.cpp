@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The stock reader, and opening, playing, hinting, solving and printing every record of what it read. Input:
-// a byte that chooses the level, then the records of that level from number 1 on; the last one may be cut
-// short.
+// The stock reader, and opening, playing, hinting and solving the first records of what it read. Input: a byte that
+// chooses the level and whether they are printed, too, then the records of that level from number 1 on; the last one may
+// be cut short.
 #include <algorithm>
 
 #include "played_game.h"
@@ -43,14 +43,16 @@ void TestOneInput(const std::uint8_t* data, std::size_t size) {
   Require(AsText(encoded.data(), encoded.size()) == read);
 
   std::string script;
-  const int count = static_cast<int>(std::min<std::size_t>(records.size() / kRecordBytes + 1, 100));
+  // Many show nothing that two do not, and take long.
+  const int count = static_cast<int>(std::min<std::size_t>(records.size() / kRecordBytes + 1, 2));
   for (int number = 1; number <= count; ++number) script += PlayRecord(table(level, number), number);
-  script += "press CommandPrint\nselect SudokuTypeKeuze " + std::to_string(level - 1) +
-            "\npress OptionAantal(2)\npress Command2\npress Command1\n";
+  if (size > 0 && data[0] / kLevels % 8 == 0) {
+    script += "press CommandPrint\nselect SudokuTypeKeuze " + std::to_string(level - 1) +
+              "\npress OptionAantal(2)\npress Command2\npress Command1\n";
+  }
   const PlayedGame played = PlayInMemory(files, script, true);
   Require(played.status == 0);
-  Require(files.Get(kStock).size() >= read.size() ||
-          played.output.find("stock written") == std::string::npos);
+  Require(files.Length(kStock) >= read.size() || played.output.find("stock written") == std::string::npos);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@ wayland_packages="qt6-wayland"
 test_packages="libgtest-dev poppler-utils xvfb dbus at-spi2-core python3-gi gir1.2-atspi-2.0 appstream desktop-file-utils mandoc tidy"
 check_packages="clang clang-format clang-tidy libclang-rt-dev"
 proof_packages="gcovr valgrind python3 ccache"
+kill_packages="xvfb xauth xdotool python3"
 # What dpkg-buildpackage, lintian and the roots of tools/prove_platforms.sh need.
 release_packages="debhelper dpkg-dev lintian debootstrap"
 bench_packages="libbenchmark-dev qqwing"
