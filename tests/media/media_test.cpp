@@ -106,10 +106,9 @@ TEST(WebLink, LeavesAFileOrALinkOfTheProbesNameAlone) {
     else
       std::filesystem::create_symlink(leads_to, folder.Path("temphtm.HTM"));
     LineList lines;
-    NoInput input;
-    MemoryDesk desk(input, lines);
+    Listener asker(lines);
     MemoryShell shell(true, true, lines);
-    OpenWebSite(kWebSite, folder.Written(), files, shell, desk);
+    OpenWebSite(kWebSite, folder.Written(), files, shell, asker);
     EXPECT_EQ(lines.lines, std::vector{"shell " + std::string(kWebSite)});
     EXPECT_EQ(folder.Get("victim"), "precious");
     EXPECT_EQ(folder.Count(), 2) << leads_to;
