@@ -8,4 +8,4 @@ cd "$(dirname "$0")/.."
 install $build_packages $window_packages $kill_packages
 cmake --preset release -DKESTREL_QT=ON >/dev/null
 cmake --build build/release --target kestrel-sudoku kestrel-sudoku-cli
-xvfb-run -a -s '-screen 0 1280x1024x24' python3 tools/window_kills.py build/release "${1:-500}" "${2:-1}"
+xvfb-run -a -s '-screen 0 1280x1024x24 -noreset' python3 tools/window_kills.py build/release "${1:-500}" "${2:-1}"
