@@ -41,4 +41,8 @@ for file in $(grep -rlE '\bu?int(8|16|32|64)_t\b' --include='*.cpp' --include='*
   echo "$file uses a fixed-width integer without <cstdint>"
   bad=1
 done
+if grep -rn '#include ".*[.]cpp"' .; then
+  echo "a source must not be included"
+  bad=1
+fi
 exit $bad

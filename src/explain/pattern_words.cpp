@@ -11,10 +11,10 @@
 namespace kestrel {
 namespace {
 
-using Cells = std::span<const PatternCell>;
+using PatternCells = std::span<const PatternCell>;
 
 // "C2, C8, G2".
-std::string CellList(Cells cells) {
+std::string CellList(PatternCells cells) {
   std::string text;
   for (const PatternCell& cell : cells) text += (text.empty() ? "" : ", ") + CellName(cell.cell);
   return text;
@@ -30,7 +30,7 @@ std::string DigitSet(CandidateMask digits) {
 }
 
 // "C2 {2,5}, C8 {2,8}".
-std::string CellsWithDigits(Cells cells) {
+std::string CellsWithDigits(PatternCells cells) {
   std::string text;
   for (const PatternCell& cell : cells) {
     text += (text.empty() ? "" : ", ") + CellName(cell.cell) + " " + DigitSet(cell.digits);
@@ -39,7 +39,7 @@ std::string CellsWithDigits(Cells cells) {
 }
 
 // "A8=9, J8=2".
-std::string SolvedCells(Cells cells) {
+std::string SolvedCells(PatternCells cells) {
   std::string text;
   for (const PatternCell& cell : cells) {
     text += (text.empty() ? "" : ", ") + CellName(cell.cell) + '=' + DigitNames(cell.digits);
@@ -70,7 +70,7 @@ std::string FishPattern(const Finding& finding) {
 }
 
 std::string FinnedPattern(const Finding& finding) {
-  const Cells cells = finding.pattern;
+  const PatternCells cells = finding.pattern;
   std::vector<Unit> covers = finding.covers;
   std::ranges::sort(covers, {}, &Unit::index);
   return CellList(cells.first(4)) + " in " + TheUnits(finding.units) + ", " + TheUnits(covers) +
@@ -78,13 +78,13 @@ std::string FinnedPattern(const Finding& finding) {
 }
 
 std::string WingPattern(const Finding& finding) {
-  const Cells cells = finding.pattern;
+  const PatternCells cells = finding.pattern;
   return "pivot " + CellsWithDigits(cells.first(1)) + ", wings " + CellsWithDigits(cells.subspan(1));
 }
 
 // Two-String Kite and Skyscraper: two lines with two places each, joined at one end.
 std::string LinkedPairsPattern(const Finding& finding) {
-  const Cells cells = finding.pattern;
+  const PatternCells cells = finding.pattern;
   return CellList(cells.first(2)) + " in " + TheUnit(finding.units[0]) + ", " + CellList(cells.subspan(2)) +
          " in " + TheUnit(finding.units[1]) + ", joined by " + CellList(cells.subspan(1, 2)) + " in " +
          TheUnit(finding.covers[0]);
@@ -96,19 +96,19 @@ std::string MultiXWingPattern(const Finding& finding) {
 }
 
 std::string UniqueRectanglePattern(const Finding& finding) {
-  const Cells cells = finding.pattern;
+  const PatternCells cells = finding.pattern;
   const std::size_t floors = finding.form == 1 ? 3 : 2;
   return "floor " + CellsWithDigits(cells.first(floors)) + ", roof " + CellsWithDigits(cells.subspan(floors));
 }
 
 std::string AvoidableRectanglePattern(const Finding& finding) {
-  const Cells cells = finding.pattern;
+  const PatternCells cells = finding.pattern;
   const std::size_t solved = finding.form == 1 ? 3 : 2;
   return "solved " + SolvedCells(cells.first(solved)) + ", open " + CellsWithDigits(cells.subspan(solved));
 }
 
 std::string EmptyRectanglePattern(const Finding& finding) {
-  const Cells cells = finding.pattern;
+  const PatternCells cells = finding.pattern;
   const std::size_t in_box = cells.size() - 2;
   return CellList(cells.first(in_box)) + " in " + TheUnit(finding.units[0]) + " on the cross of " +
          TheUnits(finding.covers) + ", pair " + CellList(cells.subspan(in_box)) + " in " +

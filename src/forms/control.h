@@ -56,6 +56,13 @@ struct Control {
   friend bool operator==(const Control&, const Control&) = default;
 };
 
+inline void Place(Control& control, int left, int top, int width, int height) {
+  control.left = left;
+  control.top = top;
+  control.width = width;
+  control.height = height;
+}
+
 enum class Align : std::uint8_t { Left, Right, Centre };
 
 struct Label : Control {

@@ -9,13 +9,6 @@ namespace kestrel {
 
 namespace {
 
-void Place(Control& control, int left, int top, int width, int height) {
-  control.left = left;
-  control.top = top;
-  control.width = width;
-  control.height = height;
-}
-
 void PlaceButton(Button& button, int left, int top, int width, std::string_view caption, int tab_index) {
   Place(button, left, top, width, 375);
   button.caption = caption;

@@ -14,13 +14,6 @@ constexpr int kCommandWidth = 855;
 constexpr int kCommandHeight = 375;
 constexpr double kMarkPoints = 10.5;  // digits 10 pixels high leave air between the lines of marks
 
-void Place(Control& control, int left, int top, int width, int height) {
-  control.left = left;
-  control.top = top;
-  control.width = width;
-  control.height = height;
-}
-
 void DesignBoard(MainWindow& main) {
   constexpr Font kDigitFont{"Arial", 30, true};
   for (int cell = 0; cell < kCells; ++cell) {

@@ -14,7 +14,6 @@ namespace kestrel {
 namespace {
 
 constexpr int kMillimetre = 100;  // in units of a FilePage
-constexpr int kTitleSize = 18;    // points
 
 // Large pages
 constexpr GridSquare kLargeGrid{10 * kMillimetre, 40 * kMillimetre, 190 * kMillimetre};

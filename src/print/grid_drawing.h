@@ -20,6 +20,8 @@ struct LineWidths {
   int thin = 2;
 };
 
+inline constexpr int kTitleSize = 18;  // points
+
 // Styles of the page's two fonts; the size is in points.
 TextStyle TextOfSize(int size);
 TextStyle DigitOfSize(int size, bool bold = false, Colour colour = kBlack);

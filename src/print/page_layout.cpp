@@ -26,7 +26,6 @@ struct FontSizes {
   int solution;
 };
 constexpr std::array<FontSizes, 3> kSizes = {{{42, 11, 18, 11}, {28, 7, 11, 8}, {18, 5, 8, 6}}};
-constexpr int kTitleSize = 18;
 constexpr int kSummarySize = 8;
 
 // Where mark k (0..2) of a cell starts. With c = side / 9 and the gap g = (c - 3 x length) / 4:

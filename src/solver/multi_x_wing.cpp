@@ -58,10 +58,6 @@ struct Facing {
   int form;
 };
 
-int UnitOf(int cell, int kind) {
-  return kUnitTables.unit[cell][kind];
-}
-
 bool Faces(const Facing& facing) {
   const auto& [a, b, kind, form] = facing;
   return UnitOf(a.cell[0], kind) == UnitOf(b.cell[0], kind) &&

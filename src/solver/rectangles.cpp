@@ -35,11 +35,6 @@ struct CellList {
   [[nodiscard]] const int* end() const { return cell.data() + count; }
 };
 
-// The unit (0..26) of kind 0 row, 1 column, 2 box that holds the cell.
-int UnitOf(int cell, int kind) {
-  return kUnitTables.unit[cell][kind];
-}
-
 // The cell in the row of one cell and the column of the other.
 int Corner(int row_of, int column_of) {
   return RowCell[CellRow[row_of]][CellCol[column_of]];

@@ -69,6 +69,11 @@ struct UnitTables {
 
 inline constexpr UnitTables kUnitTables{};
 
+// The unit (0..26) of kind 0 row, 1 column, 2 box that holds the cell (0..80).
+constexpr int UnitOf(int cell, int kind) {
+  return kUnitTables.unit[cell][kind];
+}
+
 // The unit of that number in the words of a Finding.
 constexpr Unit NamedUnit(int unit) {
   return {static_cast<UnitKind>(unit / 9 + 1), unit % 9};

@@ -10,13 +10,13 @@
 namespace kestrel {
 namespace {
 
-void SortByScore(std::vector<SudokuRecord>& records) {
+void SortRecords(std::vector<SudokuRecord>& records) {
   std::ranges::stable_sort(records, {}, &SudokuRecord::Score);
 }
 
 // Takes `count` of the records out, at even distances of their order by score.
 std::vector<SudokuRecord> TakeSpread(std::vector<SudokuRecord> records, std::size_t count) {
-  SortByScore(records);
+  SortRecords(records);
   if (records.size() <= count) return records;
   std::vector<SudokuRecord> taken;
   for (std::size_t i = 0; i < count; ++i) {
@@ -105,7 +105,7 @@ std::vector<SudokuRecord> StockImport::Level(int level, FillWith fill, const Fil
                          [](const auto& f) { return f.first; });
   report.made = add(MakeRecords(level, std::vector<ScoreRange>(room()), run, known));
   report.times_lost = old_times - TimesIn(all);
-  SortByScore(all);
+  SortRecords(all);
   return all;
 }
 

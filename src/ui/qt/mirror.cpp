@@ -49,6 +49,14 @@ struct Mirror::View {
   Window shown;
   std::vector<MirroredPtr> controls;
   std::map<int, QWidget*> tab_order;
+
+  // Of the options of one name only one is chosen.
+  void UnchooseOthers(ControlId chosen) const {
+    for (const MirroredPtr& other : controls) {
+      const ControlId each = other->Id();
+      if (each.name == chosen.name && each.index != chosen.index) other->Unchoose();
+    }
+  }
 };
 
 Mirror::Mirror(EventSink& sink, Surroundings surroundings)
@@ -69,14 +77,7 @@ void Mirror::Add(View& view, ControlId id, C& control) {
     const WidgetContext context{view.form,
                                 sink_,
                                 *view.window,
-                                [&view](ControlId chosen) {
-                                  for (const MirroredPtr& other : view.controls) {
-                                    const ControlId each = other->Id();
-                                    if (each.name == chosen.name && each.index != chosen.index) {
-                                      other->Unchoose();
-                                    }
-                                  }
-                                },
+                                [&view](ControlId chosen) { view.UnchooseOthers(chosen); },
                                 QStringLiteral(":/icons/logo.png"),
                                 surroundings_.files};
     view.controls.push_back(MakeMirrored(context, ParentFor(view, id), id, control));

@@ -15,9 +15,9 @@ namespace kestrel {
 
 namespace {
 
-constexpr int kSide = 10;   // puzzles in a row
-constexpr int kCell = 34;   // pixels of 96 dpi
-constexpr int kSmall = 10;  // of the numbers and times
+constexpr int kSide = 10;        // puzzles in a row
+constexpr int kCell = 34;        // pixels of 96 dpi
+constexpr int kNumberSize = 10;  // of the numbers and times
 constexpr double kReadable = 7;
 
 QColor Mix(const QColor& one, const QColor& other, double part) {
@@ -38,7 +38,7 @@ class CellDelegate final : public QStyledItemDelegate {
     const QRect cell = option.rect;
     if (puzzle.seconds != 0) painter->fillRect(cell, ShadeOf(palette, puzzle.merit));
     QFont font = option.font;
-    font.setPixelSize(Scaled(kSmall));
+    font.setPixelSize(Scaled(kNumberSize));
     painter->setFont(font);
     const bool has_time = puzzle.seconds != 0;
     painter->setPen(palette.color(has_time ? QPalette::Text : QPalette::PlaceholderText));

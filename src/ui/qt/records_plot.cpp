@@ -16,7 +16,7 @@ namespace kestrel {
 
 namespace {
 
-constexpr int kSmall = 10;  // pixels of 96 dpi, as all lengths here
+constexpr int kAxisSize = 10;  // pixels of 96 dpi, as all lengths here
 constexpr int kLeft = 44;
 constexpr int kRight = 10;
 constexpr int kUpper = 20;
@@ -124,7 +124,7 @@ void RecordsPlot::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   QFont font = painter.font();
-  font.setPixelSize(Scaled(kSmall));
+  font.setPixelSize(Scaled(kAxisSize));
   painter.setFont(font);
   painter.fillRect(rect(), palette().color(QPalette::Base));
   const QRectF field =
