@@ -23,7 +23,7 @@ constexpr std::array<OptionSpec, 2> kExplainOptions{{
 }};
 
 // A page of more would be too large to read, and for browsers to show.
-constexpr std::size_t kMostPuzzles = 100;
+constexpr std::size_t kMostExplained = 100;
 
 // Solves the puzzles of the input. kBadInput when it has bad lines, which are told, or no puzzle; kFailure when it cannot
 // be read or has too many.
@@ -35,8 +35,8 @@ ExitStatus ReadPuzzles(const std::vector<std::string>& files, CliPorts& ports,
   for (InputLine line; reader.Next(line);) {
     if (!line.error.empty()) {
       status = std::max(status, TellBadLine(line, ports));
-    } else if (walkthroughs.size() == kMostPuzzles) {
-      PrintError(ports, "explain: there are more than " + std::to_string(kMostPuzzles) +
+    } else if (walkthroughs.size() == kMostExplained) {
+      PrintError(ports, "explain: there are more than " + std::to_string(kMostExplained) +
                             " puzzles, too many for one page");
       return ExitStatus::kFailure;
     } else {

@@ -52,6 +52,14 @@ std::string CellNames(const std::vector<int>& cells, const char* joint) {
   return Joined(names, joint);
 }
 
+std::string PatternCellNames(const Finding& finding, std::size_t first, std::size_t count,
+                             const char* joint) {
+  std::vector<int> cells;
+  for (std::size_t i = first; i < first + count; ++i) cells.push_back(finding.pattern[i].cell);
+  std::ranges::sort(cells);
+  return CellNames(cells, joint);
+}
+
 std::string Joined(const std::vector<std::string>& words, const char* joint) {
   std::string text;
   for (std::size_t i = 0; i < words.size(); ++i) {

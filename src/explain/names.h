@@ -22,6 +22,9 @@ std::string TheUnits(std::span<const Unit> units);
 std::string DigitNames(CandidateMask digits, const char* joint = "and");
 // "C7", "C2 and C8", "C2, C5 and C8".
 std::string CellNames(const std::vector<int>& cells, const char* joint = "and");
+// `count` cells of a pattern from number `first` on, ascending.
+std::string PatternCellNames(const Finding& finding, std::size_t first, std::size_t count,
+                             const char* joint = "and");
 // Words joined as above.
 std::string Joined(const std::vector<std::string>& words, const char* joint = "and");
 // "one", "two" .. "nine"; figures from 10.

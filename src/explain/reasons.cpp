@@ -13,14 +13,6 @@ namespace {
 
 using Text = std::string;
 
-// Cells of the pattern, ascending.
-Text Cells(const Finding& finding, std::size_t first, std::size_t count, const char* joint = "and") {
-  std::vector<int> cells;
-  for (std::size_t i = first; i < first + count; ++i) cells.push_back(finding.pattern[i].cell);
-  std::sort(cells.begin(), cells.end());
-  return CellNames(cells, joint);
-}
-
 Text Name(const Finding& finding, std::size_t i) {
   return CellName(finding.pattern[i].cell);
 }
@@ -134,7 +126,7 @@ std::string IntersectionReason(const Example& example) {
   const Text digit = DigitNames(f.digits);
   const Text from = TheUnit(f.units[0]);
   const Text to = TheUnit(f.covers[0]);
-  return "In " + from + ", " + digit + " can only go into " + Cells(f, 0, f.pattern.size(), "or") +
+  return "In " + from + ", " + digit + " can only go into " + PatternCellNames(f, 0, f.pattern.size(), "or") +
          (f.pattern.size() == 2 ? ". Both lie in " : ". All three lie in ") + to + ", so " + to +
          " has its " + digit + " there and nowhere else.";
 }
@@ -157,7 +149,7 @@ std::string HiddenSubsetReason(const Example& example) {
   const Finding& f = example.finding;
   const Text unit = TheUnit(f.units[0]);
   const Text digits = DigitNames(f.digits);
-  const Text cells = Cells(f, 0, f.pattern.size());
+  const Text cells = PatternCellNames(f, 0, f.pattern.size());
   const Text count = NumberWord(static_cast<int>(f.pattern.size()));
   return "In " + unit + ", " + digits + " can only go into " + cells + ". " +
          Text(1, static_cast<char>(count[0] - 'a' + 'A')) + count.substr(1) + " digits fill " + count +
@@ -189,8 +181,8 @@ std::string XYWingReason(const Example& example) {
   };
   return "The pivot " + Name(f, 0) + " is " + DigitNames(w.x | w.y, "or") + ". If it is " + DigitNames(w.x) +
          ", then " + wing(w.first) + "; if it is " + DigitNames(w.y) + ", then " + wing(w.second) +
-         ". Either way one of " + Cells(f, 1, 2) + " is " + z + ", so no cell that sees both can be " + z +
-         ".";
+         ". Either way one of " + PatternCellNames(f, 1, 2) + " is " + z +
+         ", so no cell that sees both can be " + z + ".";
 }
 
 std::string XYZWingReason(const Example& example) {
@@ -210,10 +202,10 @@ std::string TwoPairsReason(const Example& example) {
   const Text digit = DigitNames(f.digits);
   std::vector<int> ends{f.pattern[0].cell, f.pattern[3].cell};
   std::sort(ends.begin(), ends.end());
-  return "In " + TheUnit(f.units[0]) + ", " + digit + " can only go into " + Cells(f, 0, 2, "or") + "; in " +
-         TheUnit(f.units[1]) + " only into " + Cells(f, 2, 2, "or") + ". " + Cells(f, 1, 2) +
-         " both lie in " + TheUnit(f.covers[0]) + ", so they cannot both be " + digit +
-         ". Then at least one of the other two, " + CellNames(ends) + ", is " + digit +
+  return "In " + TheUnit(f.units[0]) + ", " + digit + " can only go into " + PatternCellNames(f, 0, 2, "or") +
+         "; in " + TheUnit(f.units[1]) + " only into " + PatternCellNames(f, 2, 2, "or") + ". " +
+         PatternCellNames(f, 1, 2) + " both lie in " + TheUnit(f.covers[0]) + ", so they cannot both be " +
+         digit + ". Then at least one of the other two, " + CellNames(ends) + ", is " + digit +
          ", and no cell that sees both of these can be " + digit + ".";
 }
 
@@ -252,12 +244,13 @@ std::string FinnedXWingReason(const Example& example) {
   const Text box = TheUnit({UnitKind::Box, CellBox[f.pattern[4].cell]});
   const Text cover = TheUnit(f.covers[0]);
   const bool one = fins == 1;
-  return "In " + TheUnit(f.units[0]) + ", " + digit + " can only go into " + Cells(f, 0, 2, "or") + ". In " +
-         TheUnit(f.units[1]) + " it can go into " + Cells(f, 2, 2, "or") + ", but also into the fin" +
-         (one ? " " : "s ") + Cells(f, 4, fins) + ". If " + (one ? "the fin is not " : "no fin is ") + digit +
-         ", this is an X-Wing, and " + cover + " loses its other " + digit + "s. If " +
-         (one ? "the fin is " : "one of the fins is ") + digit + ", the rest of " + box + " loses " + digit +
-         ". Either way " + CellNames(targets) + ", where " + cover + " meets that box, cannot be " + digit +
+  return "In " + TheUnit(f.units[0]) + ", " + digit + " can only go into " + PatternCellNames(f, 0, 2, "or") +
+         ". In " + TheUnit(f.units[1]) + " it can go into " + PatternCellNames(f, 2, 2, "or") +
+         ", but also into the fin" + (one ? " " : "s ") + PatternCellNames(f, 4, fins) + ". If " +
+         (one ? "the fin is not " : "no fin is ") + digit + ", this is an X-Wing, and " + cover +
+         " loses its other " + digit + "s. If " + (one ? "the fin is " : "one of the fins is ") + digit +
+         ", the rest of " + box + " loses " + digit + ". Either way " + CellNames(targets) + ", where " +
+         cover + " meets that box, cannot be " + digit +
          (OthersStay(example)
               ? ". The other " + digit + "s in " + TheUnits(covers) + " stay: if " + (one ? "the" : "a") +
                     " fin is " + digit + ", there is no X-Wing, and nothing rules them out."
@@ -268,15 +261,15 @@ std::string UniqueRectangleReason(const Example& example) {
   const Finding& f = example.finding;
   if (f.form == 1) {
     const Text pair = DigitNames(f.digits);
-    return Cells(f, 0, 3) + " hold only " + pair + ". If " + Name(f, 3) + " were " +
+    return PatternCellNames(f, 0, 3) + " hold only " + pair + ". If " + Name(f, 3) + " were " +
            DigitNames(f.digits, "or") + " too, the four corners would hold nothing but " + pair +
            ", and swapping the two digits would give a second solution. A proper puzzle has just one, so " +
            Name(f, 3) + " is neither.";
   }
   const CandidateMask pair = f.pattern[0].digits;
   const Text x = DigitNames(f.digits & ~pair);
-  return "The floor, " + Cells(f, 0, 2) + ", holds only " + DigitNames(pair) + ". The roof, " +
-         Cells(f, 2, 2) + ", has " + DigitNames(f.digits) + ". If neither roof cell were " + x +
+  return "The floor, " + PatternCellNames(f, 0, 2) + ", holds only " + DigitNames(pair) + ". The roof, " +
+         PatternCellNames(f, 2, 2) + ", has " + DigitNames(f.digits) + ". If neither roof cell were " + x +
          ", all four corners would hold only " + DigitNames(pair) +
          ", and swapping these would give a second solution. So one of the roof cells is " + x +
          ", and no cell that sees both can be " + x + ".";
@@ -287,7 +280,7 @@ std::string AvoidableRectangleReason(const Example& example) {
   if (f.form == 1) {
     const Text d = DigitNames(f.pattern[0].digits);
     const Text e = DigitNames(f.pattern[2].digits);
-    return Cells(f, 0, 2) + " were solved as " + d + " and " + Name(f, 2) + " as " + e +
+    return PatternCellNames(f, 0, 2) + " were solved as " + d + " and " + Name(f, 2) + " as " + e +
            ". None of the four corners is a given. If " + Name(f, 3) + " were " + e +
            ", the corners would hold " + d + " and " + e +
            " diagonally, and swapping them would give a second solution. So " + Name(f, 3) + " is not " + e +
@@ -297,10 +290,10 @@ std::string AvoidableRectangleReason(const Example& example) {
   const Text e = DigitNames(f.pattern[1].digits);
   const CandidateMask third = Common(f, 2, 3);
   return Name(f, 0) + " was solved as " + d + " and " + Name(f, 1) + " as " + e +
-         "; the other two corners of the rectangle, " + Cells(f, 2, 2) +
+         "; the other two corners of the rectangle, " + PatternCellNames(f, 2, 2) +
          ", are still open, and none of the four is a given. If " + Name(f, 2) + " were " + e + " and " +
          Name(f, 3) + " were " + d + ", swapping the two digits would give a second solution. So one of " +
-         Cells(f, 2, 2) + " is " + DigitNames(third) + ", and no cell that sees both can be " +
+         PatternCellNames(f, 2, 2) + " is " + DigitNames(third) + ", and no cell that sees both can be " +
          DigitNames(third) + ".";
 }
 
@@ -316,7 +309,7 @@ std::string EmptyRectangleReason(const Example& example) {
   const Text target = CellName(f.removals[0].cell);
   return "In " + box + ", every " + digit + " lies in " + TheUnit(f.covers[0]) + " or in " +
          TheUnit(f.covers[1]) + ". In " + TheUnit(f.units[1]) + ", " + digit + " is in " +
-         Cells(f, n - 2, 2, "or") + ". If it is in " + near + ", " + arm + " is taken, so " + box +
+         PatternCellNames(f, n - 2, 2, "or") + ". If it is in " + near + ", " + arm + " is taken, so " + box +
          " has its " + digit + " in " + other_arm + ". So either " + far + " is " + digit +
          " or the box has its " + digit + " in " + other_arm + ". " + target +
          " sees both, so it cannot be " + digit + ".";

@@ -17,14 +17,6 @@ std::string CellWithDigits(const PatternCell& part) {
   return CellName(part.cell) + " (" + DigitNames(part.digits, "or") + ')';
 }
 
-// Cells of the pattern, ascending.
-std::string Cells(const Finding& finding, std::size_t first, std::size_t count, const char* joint = "and") {
-  std::vector<int> cells;
-  for (std::size_t i = first; i < first + count; ++i) cells.push_back(finding.pattern[i].cell);
-  std::ranges::sort(cells);
-  return CellNames(cells, joint);
-}
-
 std::string WingsHere(const Finding& f) {
   return "Here the pivot is " + CellWithDigits(f.pattern[0]) + "; it sees " + CellWithDigits(f.pattern[1]) +
          " and " + CellWithDigits(f.pattern[2]) + '.';
@@ -38,14 +30,15 @@ std::string MultiXWingHere(const Finding& f) {
 
 std::string UniqueRectangleHere(const Finding& f) {
   const std::size_t floors = f.form == 1 ? 3 : 2;
-  const std::string roof = f.form == 1 ? CellName(f.pattern[3].cell) : Cells(f, 2, 2);
-  return "Here the floor is " + Cells(f, 0, floors) + " (" + DigitNames(f.pattern[0].digits, "or") +
-         "), the roof is " + roof + " (" + DigitNames(f.pattern[3].digits, "or") + ").";
+  const std::string roof = f.form == 1 ? CellName(f.pattern[3].cell) : PatternCellNames(f, 2, 2);
+  return "Here the floor is " + PatternCellNames(f, 0, floors) + " (" +
+         DigitNames(f.pattern[0].digits, "or") + "), the roof is " + roof + " (" +
+         DigitNames(f.pattern[3].digits, "or") + ").";
 }
 
 std::string AvoidableRectangleHere(const Finding& f) {
   if (f.form == 1) {
-    return "Here " + Cells(f, 0, 2) + " hold " + DigitNames(f.pattern[0].digits) + " and " +
+    return "Here " + PatternCellNames(f, 0, 2) + " hold " + DigitNames(f.pattern[0].digits) + " and " +
            CellName(f.pattern[2].cell) + " holds " + DigitNames(f.pattern[2].digits) + "; " +
            CellWithDigits(f.pattern[3]) + " is open.";
   }
@@ -58,8 +51,8 @@ std::string EmptyRectangleHere(const Finding& f) {
   const std::size_t in_box = f.pattern.size() - 2;
   const std::string digit = DigitNames(f.digits);
   return "Here the digit is " + digit + ": in " + TheUnit(f.units[0]) + " it can go into " +
-         Cells(f, 0, in_box, "or") + ", on the cross of " + TheUnits(f.covers) + "; in " +
-         TheUnit(f.units[1]) + " only into " + Cells(f, in_box, 2, "or") + '.';
+         PatternCellNames(f, 0, in_box, "or") + ", on the cross of " + TheUnits(f.covers) + "; in " +
+         TheUnit(f.units[1]) + " only into " + PatternCellNames(f, in_box, 2, "or") + '.';
 }
 
 // Where the pattern is, before anything follows from it.

@@ -33,7 +33,7 @@ class NoticeInterface final : public QAccessibleObject {
   Announcer& announcer_;
 };
 
-QAccessibleInterface* MakeInterface(const QString& /*class_name*/, QObject* object) {
+QAccessibleInterface* MakeAnnouncerInterface(const QString& /*class_name*/, QObject* object) {
   auto* announcer = dynamic_cast<Announcer*>(object);
   return announcer == nullptr ? nullptr : new NoticeInterface(*announcer);
 }
@@ -41,7 +41,7 @@ QAccessibleInterface* MakeInterface(const QString& /*class_name*/, QObject* obje
 }  // namespace
 
 Announcer::Announcer(BoardWidget& board) : board_(board) {
-  QAccessible::installFactory(MakeInterface);
+  QAccessible::installFactory(MakeAnnouncerInterface);
 }
 
 void Announcer::Sync() {

@@ -277,7 +277,7 @@ class BoardInterface final : public QAccessibleWidget, public QAccessibleTableIn
   BoardWidget& board_;
 };
 
-QAccessibleInterface* MakeInterface(const QString& /*class_name*/, QObject* object) {
+QAccessibleInterface* MakeBoardInterface(const QString& /*class_name*/, QObject* object) {
   if (auto* item = dynamic_cast<BoardItem*>(object)) return new ItemInterface(*item);
   if (auto* board = dynamic_cast<BoardWidget*>(object)) return new BoardInterface(*board);
   return nullptr;
@@ -370,7 +370,7 @@ QString BoardItem::SpokenName() const {
 }
 
 std::vector<std::unique_ptr<BoardItem>> MakeBoardItems(BoardWidget& board) {
-  QAccessible::installFactory(MakeInterface);
+  QAccessible::installFactory(MakeBoardInterface);
   std::vector<std::unique_ptr<BoardItem>> items;
   items.reserve(10 * kCells + 2 * kUnitSize);
   const auto add = [&](Kind kind, int count, int digit) {

@@ -19,7 +19,7 @@ constexpr qsizetype kPcmFormat = 16;
 constexpr qsizetype kBytesPerSecond = 8;
 constexpr qsizetype kBytesPerFrame = 12;
 constexpr qsizetype kBitsPerSample = 14;
-constexpr std::size_t kMostBytes = 16U << 20U;  // of a sound file
+constexpr std::size_t kMostSoundBytes = 16U << 20U;  // of a sound file
 
 template <class Number>
 Number NumberAt(const QByteArray& bytes, qsizetype place) {
@@ -69,7 +69,7 @@ bool QtSoundDevice::Open() {
 
 std::int32_t QtSoundDevice::Load(std::string_view path) {
   Bytes file;
-  if (!files_.Read(path, kMostBytes, file)) return -1;
+  if (!files_.Read(path, kMostSoundBytes, file)) return -1;
   // The samples are decoded in the background; a file that cannot be one is refused at once.
   const QByteArray wave = WaveWithSilence(
       QByteArray(reinterpret_cast<const char*>(file.data()), static_cast<qsizetype>(file.size())));

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kPadding = 5;  // between a ground's edge and its text, pixels of 96 dpi
 constexpr int kTickWidth = 12;
-constexpr std::size_t kMostBytes = 16U << 20U;  // of a picture's file
+constexpr std::size_t kMostPictureBytes = 16U << 20U;  // of a picture's file
 
 bool OnlyDigitsAndColon(const QString& text) {
   for (const QChar letter : text) {
@@ -276,7 +276,7 @@ void PictureButton::Show(const Picture& picture) {
   pixmap_ = QPixmap();
   if (!picture.file.empty()) {
     Bytes file;
-    if (files_.Read(picture.file, kMostBytes, file))
+    if (files_.Read(picture.file, kMostPictureBytes, file))
       pixmap_.loadFromData(file.data(), static_cast<uint>(file.size()));
   } else if (!stand_in_.isEmpty()) {
     pixmap_ = LoadForRatio(stand_in_, devicePixelRatioF() * TheLook().zoom);

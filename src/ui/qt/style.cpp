@@ -233,28 +233,28 @@ void PaintSlider(const QStyleOptionSlider& option, QPainter& painter, const QRec
 }
 
 // The sign of a message box: a coloured shape with a white symbol on it.
-struct Sign {
+struct BoxSign {
   QRgb colour;
   char symbol;
   bool triangle;
 };
 
-std::optional<Sign> SignOf(QStyle::StandardPixmap standard) {
+std::optional<BoxSign> SignOf(QStyle::StandardPixmap standard) {
   switch (standard) {
     case QStyle::SP_MessageBoxInformation:
-      return Sign{TheColours().accent, 'i', false};
+      return BoxSign{TheColours().accent, 'i', false};
     case QStyle::SP_MessageBoxQuestion:
-      return Sign{TheColours().accent, '?', false};
+      return BoxSign{TheColours().accent, '?', false};
     case QStyle::SP_MessageBoxWarning:
-      return Sign{TheColours().warning, '!', true};
+      return BoxSign{TheColours().warning, '!', true};
     case QStyle::SP_MessageBoxCritical:
-      return Sign{TheColours().target, 'x', false};
+      return BoxSign{TheColours().target, 'x', false};
     default:
       return std::nullopt;
   }
 }
 
-QPixmap PaintSign(const Sign& sign, int size) {
+QPixmap PaintSign(const BoxSign& sign, int size) {
   QPixmap pixmap(size, size);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
@@ -375,7 +375,7 @@ QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option, 
 
 QIcon CalmStyle::standardIcon(StandardPixmap standard, const QStyleOption* option,
                               const QWidget* widget) const {
-  const std::optional<Sign> sign = SignOf(standard);
+  const std::optional<BoxSign> sign = SignOf(standard);
   if (!sign) return QProxyStyle::standardIcon(standard, option, widget);
   QIcon icon;
   for (const int size : {32, 40, 48, 64, 96, 128}) icon.addPixmap(PaintSign(*sign, size));

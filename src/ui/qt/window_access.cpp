@@ -37,7 +37,7 @@ class WindowInterface final : public QAccessibleWidget {
   }
 };
 
-QAccessibleInterface* MakeInterface(const QString& /*class_name*/, QObject* object) {
+QAccessibleInterface* MakeWindowInterface(const QString& /*class_name*/, QObject* object) {
   auto* window = dynamic_cast<FormWindow*>(object);
   return window == nullptr ? nullptr : new WindowInterface(*window);
 }
@@ -45,7 +45,7 @@ QAccessibleInterface* MakeInterface(const QString& /*class_name*/, QObject* obje
 }  // namespace
 
 void InstallWindowAccess() {
-  QAccessible::installFactory(MakeInterface);
+  QAccessible::installFactory(MakeWindowInterface);
 }
 
 }  // namespace kestrel
