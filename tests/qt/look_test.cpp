@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
-// What the windows look like: contrast, texts that fit, marks that no line cuts.
+// What the windows look like, whatever they show: contrast, and texts that fit.
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QFontMetrics>
-#include <QImage>
 
 #include "qt/qt_game.h"
-#include "ui/qt/board_painter.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/palette.h"
 #include "ui/qt/text_conversion.h"
@@ -133,66 +131,6 @@ TEST(Look, TextsFitAtEveryScale) {
       EXPECT_LE(metrics.horizontalAdvance(WithoutMnemonic(text)), room) << FullName(id) << " at " << scale;
       EXPECT_LE(CapHeight(ToQFont(control.font, scale)), control.height / 15.0 * scale) << FullName(id);
     });
-  }
-}
-
-void HideMarks(MainWindow& main) {
-  for (MarkArray& marks : main.Mark.items) {
-    for (Label& mark : marks.items) mark.visible = false;
-  }
-}
-
-QImage Paint(const MainWindow& main, double scale, const Colours& colours = ColoursOf(Scheme::Light)) {
-  QImage image(QSize(587, 591) * scale, QImage::Format_RGB32);
-  image.fill(Qt::white);
-  QPainter painter(&image);
-  BoardPainter(main, scale, colours).Paint(painter, QRegion(image.rect()));
-  return image;
-}
-
-// Paints the board with and without marks: where a line is, nothing may differ, and every mark shows.
-void ExpectWholeMarks(double scale, const Colours& colours) {
-  MainWindow main = MakeMainWindow();
-  const QImage full = Paint(main, scale, colours);
-  HideMarks(main);
-  const QImage empty = Paint(main, scale, colours);
-  const BoardPainter places(main, scale, colours);
-  int on_lines = 0;
-  for (int y = 0; y < full.height(); ++y) {
-    for (int x = 0; x < full.width(); ++x) {
-      const bool line = empty.pixel(x, y) == colours.thin_line || empty.pixel(x, y) == colours.thick_line;
-      if (line && full.pixel(x, y) != empty.pixel(x, y)) ++on_lines;
-    }
-  }
-  EXPECT_EQ(on_lines, 0) << scale;
-  for (int digit = 1; digit <= 9; ++digit) {
-    const QRect place = places.MarkRect(digit, 40);
-    EXPECT_NE(full.copy(place), empty.copy(place)) << digit << " at " << scale;
-  }
-}
-
-TEST(Look, NoLineCutsAMark) {
-  for (const double scale : kScales) {
-    for (const Scheme scheme : kSchemes) ExpectWholeMarks(scale, ColoursOf(scheme));
-  }
-}
-
-// A digit stands in the middle of its cell, by its ink; all digits on the same height.
-TEST(Look, DigitsStandInTheMiddle) {
-  for (const double scale : kScales) {
-    MainWindow main = MakeMainWindow();
-    HideMarks(main);
-    main.Grid(40).caption = "8";
-    const QImage image = Paint(main, scale);
-    const QRect cell = PixelGrid(scale).Place(main.Grid(40));
-    QRect ink;
-    for (int y = cell.top() + 2; y < cell.bottom() - 2; ++y) {
-      for (int x = cell.left() + 2; x < cell.right() - 2; ++x) {
-        if (qGray(image.pixel(x, y)) < 100) ink |= QRect(x, y, 1, 1);
-      }
-    }
-    EXPECT_NEAR(ink.center().x(), cell.center().x(), 1.5 * scale) << scale;
-    EXPECT_NEAR(ink.center().y(), cell.center().y(), 1.5 * scale) << scale;
   }
 }
 

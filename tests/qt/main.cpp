@@ -25,6 +25,8 @@ int main(int argc, char** argv) {
   qputenv("CUPS_SERVER", "/nowhere");
   testing::InitGoogleTest(&argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (qEnvironmentVariableIsEmpty("FONTCONFIG_FILE"))
+    qputenv("FONTCONFIG_FILE", KESTREL_SOURCE_DIR "/tests/qt/fonts.conf");
   qputenv("CUPS_SERVER", "localhost:1");  // without the printers of this machine
   qInstallMessageHandler(FailOnWarning);
   QApplication::setDesktopSettingsAware(false);

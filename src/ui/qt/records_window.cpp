@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/records_window.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -88,11 +89,12 @@ void RecordsWindow::Sync() {
   Point(map_.currentIndex().isValid() ? RecordsModel::NumberOf(map_.currentIndex()) : 0);
 }
 
+// The window itself hears of a new palette later.
 void RecordsWindow::ShowHolders(const LevelRecords& records) {
   holders_.clear();
   int place = 0;
   for (const Holder& each : records.holders) {
-    holders_.addItem(new QListWidgetItem(HolderSign(palette(), place++),
+    holders_.addItem(new QListWidgetItem(HolderSign(QApplication::palette(), place++),
                                          ToQString(each.name) + QStringLiteral(": %1").arg(each.count)));
   }
   if (records.holders.empty()) holders_.addItem(QLatin1String(texts::kNoRecords));

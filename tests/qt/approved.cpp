@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "qt/approved.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QImageWriter>
+#include <QPaintDevice>
+#include <QPaintEngine>
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+namespace kestrel::testing {
+
+namespace {
+
+constexpr int kPlace = 16;          // pixels
+constexpr int kOtherColour = 40;    // of 255, in any channel
+constexpr int kOtherPixels = 10;    // in a place
+constexpr double kOtherGround = 3;  // of 255, in the mean of a place
+constexpr double kOtherInk = 14;    // the same where letters are
+constexpr int kRoomForText = 2;     // pixels by which letters may stand elsewhere
+
+// Paints nothing and keeps where texts would stand.
+class TextFinder final : public QPaintDevice, private QPaintEngine {
+ public:
+  explicit TextFinder(QSize size) : QPaintEngine(AllFeatures), size_(size) {}
+  QRegion texts;
+
+  [[nodiscard]] QPaintEngine* paintEngine() const override { return const_cast<TextFinder*>(this); }
+
+ private:
+  [[nodiscard]] int metric(PaintDeviceMetric metric) const override {
+    switch (metric) {
+      case PdmWidth:
+        return size_.width();
+      case PdmHeight:
+        return size_.height();
+      case PdmDpiX:
+      case PdmDpiY:
+      case PdmPhysicalDpiX:
+      case PdmPhysicalDpiY:
+        return 96;
+      case PdmWidthMM:
+        return size_.width() * 25 / 96;
+      case PdmHeightMM:
+        return size_.height() * 25 / 96;
+      case PdmNumColors:
+      case PdmDepth:
+        return 32;
+      case PdmDevicePixelRatio:
+        return 1;
+      default:
+        return static_cast<int>(devicePixelRatioFScale());
+    }
+  }
+  bool begin(QPaintDevice*) override { return true; }
+  bool end() override { return true; }
+  [[nodiscard]] Type type() const override { return User; }
+  void updateState(const QPaintEngineState& next) override {
+    if (next.state().testFlag(DirtyTransform)) transform_ = next.transform();
+  }
+  void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+  void drawPath(const QPainterPath&) override {}
+  void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
+  void drawTextItem(const QPointF& at, const QTextItem& item) override {
+    const QRectF place(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
+    texts += transform_.mapRect(place).toAlignedRect().adjusted(-kRoomForText, 0, kRoomForText, 0);
+  }
+
+  QSize size_;
+  QTransform transform_;
+};
+
+// What was seen in one place.
+struct Sums {
+  int other = 0;
+  int pixels = 0;
+  std::array<int, 3> change{};
+};
+
+void Add(Sums& sums, QRgb now, QRgb approved) {
+  const std::array change = {qRed(now) - qRed(approved), qGreen(now) - qGreen(approved),
+                             qBlue(now) - qBlue(approved)};
+  bool other = false;
+  for (std::size_t i = 0; i < 3; ++i) {
+    sums.change[i] += change[i];
+    other = other || std::abs(change[i]) > kOtherColour;
+  }
+  sums.other += other ? 1 : 0;
+  ++sums.pixels;
+}
+
+bool MeanBeyond(const Sums& sums, double most) {
+  return std::ranges::any_of(sums.change,
+                             [&](int change) { return std::abs(change) > most * kPlace * kPlace; });
+}
+
+QImage SideBySide(const QImage& approved, const Picture& now, const QRegion& difference) {
+  QImage marked = now.image;
+  QPainter marker(&marked);
+  marker.fillRect(marked.rect(), QColor(255, 255, 255, 160));
+  for (const QRect& place : difference) marker.drawImage(place, now.image, place);
+  marker.setPen(QPen(Qt::red, 1));
+  for (const QRect& place : difference) marker.drawRect(place.adjusted(0, 0, -1, -1));
+  marker.end();
+  const int height = std::max(approved.height(), now.image.height());
+  QImage all(approved.width() + 2 * marked.width() + 20, height, QImage::Format_RGB32);
+  all.fill(Qt::magenta);
+  QPainter painter(&all);
+  painter.drawImage(0, 0, approved);
+  painter.drawImage(approved.width() + 10, 0, now.image);
+  painter.drawImage(approved.width() + marked.width() + 20, 0, marked);
+  return all;
+}
+
+void Save(const QImage& image, const QString& file) {
+  QImageWriter writer(file, "png");
+  writer.setCompression(100);
+  EXPECT_TRUE(writer.write(image)) << qPrintable(file);
+}
+
+}  // namespace
+
+Picture TakePicture(QWidget& widget) {
+  TextFinder finder(widget.size());
+  widget.render(&finder);
+  return {widget.grab().toImage().convertToFormat(QImage::Format_RGB32), finder.texts};
+}
+
+QRegion Difference(const Picture& now, const QImage& approved) {
+  if (now.image.size() != approved.size()) return now.image.rect();
+  QImage letters(now.image.size(), QImage::Format_Grayscale8);
+  letters.fill(0);
+  QPainter painter(&letters);
+  for (const QRect& text : now.texts) painter.fillRect(text, Qt::white);
+  painter.end();
+  QRegion difference;
+  // Each place overlaps its neighbours by half.
+  for (int top = 0; top < letters.height(); top += kPlace / 2) {
+    for (int left = 0; left < letters.width(); left += kPlace / 2) {
+      const QRect place = QRect(left, top, kPlace, kPlace) & letters.rect();
+      Sums lines;
+      Sums texts;
+      for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x) {
+          Add(letters.constScanLine(y)[x] != 0 ? texts : lines, now.image.pixel(x, y), approved.pixel(x, y));
+        }
+      }
+      if (lines.other >= kOtherPixels || MeanBeyond(lines, kOtherGround) || MeanBeyond(texts, kOtherInk)) {
+        difference += place;
+      }
+    }
+  }
+  return difference;
+}
+
+void ExpectApproved(const std::string& name, QWidget& widget) {
+  const QString file = QStringLiteral(KESTREL_SOURCE_DIR "/tests/qt/pictures/%1.png").arg(name.c_str());
+  const Picture now = TakePicture(widget);
+  if (std::getenv("KESTREL_RENEW_PICTURES") != nullptr) Save(now.image, file);
+  const QImage approved = QImage(file).convertToFormat(QImage::Format_RGB32);
+  const QRegion difference = Difference(now, approved);
+  if (difference.isEmpty()) return;
+  QDir().mkpath("pictures");
+  const QString beside = QDir("pictures").absoluteFilePath(QString::fromStdString(name) + ".png");
+  Save(SideBySide(approved, now, difference), beside);
+  const QRect place = difference.boundingRect();
+  ADD_FAILURE() << name << " is not as approved, first at " << place.x() << "," << place.y() << ": see "
+                << qPrintable(beside);
+}
+
+}  // namespace kestrel::testing

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// Pictures of widgets against approved ones, stored in tests/qt/pictures. Used by the tests of what the windows look
+// like.
+#pragma once
+
+#include <QImage>
+#include <QRegion>
+#include <QWidget>
+#include <string>
+
+namespace kestrel::testing {
+
+// A picture, and where texts stand in it.
+struct Picture {
+  QImage image;
+  QRegion texts;
+};
+
+Picture TakePicture(QWidget& widget);
+
+// What differs between a picture and the approved one, as places of 16 x 16 pixels; nothing when nobody would see it.
+//
+// Letters are drawn a little differently by every release of Qt and of the font library, lines and grounds are not.
+// So outside of texts, ten pixels that differ are too many, and so is a ground that is another by a hair. Where there
+// are texts, in either of the pictures, the ink of a place counts: it may be spread otherwise, not be more or less.
+QRegion Difference(const Picture& now, const QImage& approved);
+
+// Compares with the approved picture of that name and says where they differ. Then approved picture, present one and
+// the difference are left side by side in NAME.png in the folder "pictures" where the test runs. With
+// KESTREL_RENEW_PICTURES=1 the present picture is stored as the approved one instead: look at it.
+void ExpectApproved(const std::string& name, QWidget& widget);
+
+}  // namespace kestrel::testing

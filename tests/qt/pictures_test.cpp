@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+// Every screen in its states against approved pictures.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QTest>
+
+#include "qt/approved.h"
+#include "qt/qt_game.h"
+#include "ui/qt/main_extras.h"
+#include "ui/qt/view_menu.h"
+
+namespace kestrel::testing {
+namespace {
+
+constexpr ColourChoice kDark = ColourChoice::Dark;
+constexpr ColourChoice kContrast = ColourChoice::HighContrast;
+
+// A game of which pictures are taken.
+struct Screens : QtGame {
+  explicit Screens(int level = 0) : QtGame(level) { QApplication::setCursorFlashTime(0); }
+
+  // With the pointer over nothing that answers.
+  void Show(const std::string& name, QWidget& widget) {
+    front_end.Windows().Sync();
+    if (!front_end.Windows().Board()->Lens()) QTest::mouseMove(widget.window()->windowHandle(), QPoint(2, 2));
+    Settle();
+    ExpectApproved(name, widget);
+  }
+  void Show(const std::string& name) { Show(name, Window()); }
+  // In the light colours, and in others.
+  void ShowIn(std::initializer_list<ColourChoice> colours, const std::string& name, QWidget& widget) {
+    for (const ColourChoice choice : colours) {
+      front_end.Choices().SetColours(choice);
+      Show(name + (choice == ColourChoice::Dark ? "_dark" : "_contrast"), widget);
+    }
+    front_end.Choices().SetColours(ColourChoice::Light);
+    Show(name, widget);
+  }
+
+  // Fills the cells in order until only `left` are empty.
+  void Fill(int left) {
+    while (std::ranges::count(State().play.puzzle.CurrentDigits, 0) > left) {
+      ClickMark(EmptyCell(), SolutionOf(EmptyCell()));
+    }
+    QTest::mouseMove(Window().windowHandle(), QPoint(2, 2));
+    Settle();
+  }
+  // What the box or dialog looks like that a click on the control opens; it is closed again.
+  void ShowBox(const std::string& name, std::string_view control) {
+    Expect([this, name](QWidget& box) {
+      Show(name, box);
+      box.close();
+    });
+    ClickControl(control);
+  }
+};
+
+TEST(Pictures, Start) {
+  Screens game;
+  game.ShowIn({kDark}, "start", game.Window());
+}
+
+TEST(Pictures, Play) {
+  Screens easy(1);
+  easy.Fill(40);
+  easy.Click(QtGame::Corner(easy.Main().LabelRow(2)) + QPoint(17, 17));
+  easy.Show("play_keypad");
+
+  Screens medium(3);
+  medium.Fill(40);
+  for (const int digit : {1, 5, 9}) medium.ClickMark(medium.EmptyCell(), digit, Qt::RightButton);
+  medium.Click(QtGame::Corner(medium.Main().LabelColumn(5)) + QPoint(17, 17));
+  medium.Click(QtGame::Corner(medium.Main().LabelRow(2)) + QPoint(17, 17));
+  medium.ShowIn({kDark, kContrast}, "play", medium.Window());
+  medium.front_end.Choices().SetSize(75);
+  medium.Show("play_75");
+  medium.front_end.Choices().SetSize(100);
+}
+
+TEST(Pictures, HintAndLens) {
+  Screens game(3);
+  game.Fill(30);
+  game.ClickControl("CommandHint");
+  const int cell = game.EmptyCell();
+  const QPoint mark = QtGame::Corner(game.Main().Mark(game.SolutionOf(cell))(cell)) + QPoint(8, 8);
+  QTest::mouseMove(game.Window().windowHandle(), mark);
+  EXPECT_TRUE(game.WaitFor([&] { return game.front_end.Windows().Board()->Lens().has_value(); }));
+  game.Show("hint");
+}
+
+TEST(Pictures, End) {
+  Screens game(2);
+  game.Fill(0);
+  game.Show("solved");
+  game.ClickControl("CommandNew");
+  game.ClickControl("CommandSolution");
+  game.Show("shown");
+}
+
+TEST(Pictures, Renewal) {
+  Screens game(3);
+  game.ExpectBox("Renew Selected Set of Sudokus", "OK");
+  game.ClickControl("RenewLevel(5)");
+  const int bar = game.Main().ProgressBar2.value;
+  game.Main().ProgressBar2.value = 37;
+  game.front_end.Windows().Sync();
+  game.Show("renewal", *game.Widget("ProgressBar2"));
+  game.Main().ProgressBar2.value = bar;
+}
+
+TEST(Pictures, Players) {
+  Screens game;
+  game.Expect([&](QWidget& dialog) {
+    game.Show("players_none", dialog);
+    for (const char* name : {"Ann", "Bo"}) {
+      game.ClickControl("KnopNieuweSpeler");
+      QTest::keyClicks(dialog.findChild<QLineEdit*>(), name);
+      QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    }
+    dialog.findChild<QListWidget*>()->setCurrentRow(1);
+    game.ShowIn({kDark, kContrast}, "players", dialog);
+    game.ClickControl("KnopWijzigen");
+    game.Show("players_typing", dialog);
+    dialog.close();
+  });
+  game.ClickControl("cmdPlayers");
+}
+
+TEST(Pictures, Print) {
+  Screens game(3);
+  game.Expect([&](QWidget& dialog) {
+    game.ShowIn({kDark}, "print", dialog);
+    game.ClickControl("OptionAantal(2)");
+    game.ClickControl("CheckSolution");
+    game.Show("print_four", dialog);
+    dialog.close();
+  });
+  game.ClickControl("CommandPrint");
+}
+
+TEST(Pictures, Records) {
+  Screens game;
+  for (int number = 1; number <= 30; ++number) {
+    SudokuRecord& record = (*game.State().stockroom.stock)(3, 3 * number);
+    record.BestMinutes = static_cast<std::int16_t>(number % 7);
+    record.BestSeconds = static_cast<std::int16_t>(2 * number % 60);
+    record.Score = 100 + 7 * number % 50;
+  }
+  game.front_end.OpenRecords(3);
+  game.ShowIn({kDark}, "records", *game.front_end.Records());
+  game.front_end.Records()->close();
+  game.ClickControl("OptionType(3)");
+  game.ShowBox("open", "CommandOpen");
+}
+
+TEST(Pictures, Boxes) {
+  Screens game(3);
+  game.ShowBox("box_renew", "RenewLevel(5)");
+  game.Expect([&](QWidget& box) {
+    game.ShowIn({kDark, kContrast}, "box_quit", box);
+    box.close();
+  });
+  game.Window().close();
+  ViewMenu& button = game.front_end.Windows().Extras()->Menu();
+  auto* menu = button.findChild<QMenu*>();
+  QTimer::singleShot(0, [&] { button.click(); });
+  EXPECT_TRUE(game.WaitFor([&] { return menu->isVisible(); }));
+  game.ShowIn({kDark, kContrast}, "view_menu", *menu);
+  menu->close();
+}
+
+TEST(Pictures, Help) {
+  Screens game(3);
+  std::filesystem::create_directory(game.program_folder.Path("help"));
+  game.program_folder.Put("help/index.html",
+                          R"(<html><body><p><a href="index.html">Contents</a></p><h1>A page</h1>
+      <table><tr><td>Some words about what stands beside them.</td>
+      <td class="picture"><img src="board.svg" width="282" height="281"></td></tr></table>
+      <h2>More</h2><p class="note">A note that is small.</p></body></html>)");
+  game.program_folder.Put("help/board.svg", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 564 562">
+      <rect class="cell" x="20" y="20" width="500" height="500" fill="#fff" stroke="#000" stroke-width="8"/></svg>)");
+  game.ClickControl("CommandHelp");
+  FormWindow& window = game.front_end.Windows().WindowOf(FormId::Browser);
+  game.ShowIn({kDark}, "help", window);
+}
+
+// The measure itself: faults of one pixel are seen, letters that are drawn otherwise are not.
+TEST(Pictures, AreComparedClosely) {
+  Screens game;
+  const Picture now = TakePicture(game.Window());
+  EXPECT_TRUE(Difference(now, now.image).isEmpty());
+  const QRect board(57, 57, 528, 528);
+  const auto copied = [&](QRect from, QPoint to) {
+    QImage faulty = now.image;
+    QPainter(&faulty).drawImage(to, now.image, from);
+    return faulty;
+  };
+  const auto differs = [&](const QImage& faulty) { return !Difference(now, faulty).isEmpty(); };
+  EXPECT_TRUE(differs(copied(board.translated(1, 0), board.topLeft()))) << "moved";
+  EXPECT_TRUE(differs(copied(QRect(230, 57, 1, 528), {232, 57}))) << "a box line of one pixel";
+  EXPECT_TRUE(differs(copied(QRect(62, 115, 110, 1), {62, 116}))) << "no line between two cells";
+  EXPECT_TRUE(differs(copied(QRect(690, 187, 48, 12), {613, 187}))) << "no text";
+  EXPECT_TRUE(differs(copied(QRect(608, 500, 8, 16), {608, 350}))) << "another ground";
+}
+
+}  // namespace
+}  // namespace kestrel::testing
