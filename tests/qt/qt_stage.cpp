@@ -82,7 +82,7 @@ QtStage::QtStage()
               {[this] {
                  return TipState{state_->play.puzzle.MarksAreCandidates(), state_->stockroom.RenewingLevel};
                },
-               choices_, QString()}),
+               choices_, files_, QString()}),
       asker_(mirror_, dispatcher_,
              [this](int level) { return RecordsOf(*state_->stockroom.stock, state_->players, level); }),
       screen_(mirror_, dispatcher_, [this] { InstallShortcuts(mirror_); }),

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 
 #include "game/game.h"
+#include "host/host_files.h"
 #include "ui/memory/stage.h"
 #include "ui/qt/dispatcher.h"
 #include "ui/qt/mirror.h"
@@ -94,6 +95,8 @@ class QtStage final : public Stage {
   QLineEdit& Field(FormId form, ControlId id);
 
   NoSettings settings_;
+  SystemCalls calls_;
+  HostFiles files_{calls_};
   DesktopColours desktop_;
   ViewChoices choices_{settings_, desktop_};
   Dispatcher dispatcher_;
