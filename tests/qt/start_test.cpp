@@ -1,33 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The game's start: command line, settings, the picture taken off screen.
+// The game's start: settings, the picture taken off screen.
 #include <gtest/gtest.h>
 
 #include <QImage>
-#include <initializer_list>
 
-#include "host/command_line.h"
 #include "qt/qt_game.h"
 
 namespace kestrel::testing {
 namespace {
-
-std::optional<GameOptions> Parse(const std::vector<std::string>& words, std::string& error) {
-  return ParseGameArguments(words, error);
-}
-
-TEST(Start, TakesTheArgumentsApart) {
-  std::string error;
-  const auto options = Parse(
-      {"--home", "/h", "--settings=/s", "--program", "/p", "--scale=1.25", "--screenshot", "x.png"}, error);
-  ASSERT_TRUE(options) << error;
-  EXPECT_EQ(options->home + options->settings + options->program + options->screenshot, "/h/s/px.png");
-  EXPECT_EQ(options->scale, 1.25);
-  EXPECT_TRUE(Parse({"--version"}, error)->version);
-  EXPECT_TRUE(Parse({"--help"}, error)->help);
-  EXPECT_FALSE(Parse({"--scale", "3"}, error));
-  EXPECT_EQ(error, "option '--scale' needs 0.75, 1, 1.25, 1.5 or 2, not '3'");
-  EXPECT_FALSE(Parse({"puzzle.kpz"}, error));
-}
 
 TEST(Start, TakesAPicture) {
   for (const bool good : {true, false}) {
