@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Debian packages, by what they are needed for. Sourced by tools/setup.sh; nothing else lists packages.
-build_packages="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libpugixml-dev libcairo2-dev fonts-liberation"
+build_packages="g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libpugixml-dev libcairo2-dev libsndfile1-dev fonts-liberation"
 window_packages="qt6-base-dev libcups2-dev libfontconfig-dev qt6-multimedia-dev qt6-svg-dev"
 wayland_packages="qt6-wayland"
 test_packages="libgtest-dev poppler-utils xvfb dbus at-spi2-core python3-gi gir1.2-atspi-2.0 appstream desktop-file-utils mandoc tidy"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Writes the ten sounds of the game: make-sounds FOLDER. Prints length, peak and loudness of each.
 #include <cstdio>
-#include <fstream>
 #include <string>
 
 #include "sounds/level.h"
@@ -15,11 +14,7 @@ int main(int argc, char** argv) {
   }
   for (const NamedSound& sound : MakeSounds()) {
     const std::string path = std::string(argv[1]) + '/' + std::string(sound.file);
-    const std::vector<std::uint8_t> bytes = EncodeWave(sound.wave);
-    std::ofstream out(path, std::ios::binary);
-    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    if (!out) {
+    if (!WriteWaveFile(path, sound.wave)) {
       std::fprintf(stderr, "make-sounds: %s cannot be written\n", path.c_str());
       return 1;
     }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Sounds as 16-bit PCM wave files (RIFF). Used by the program that makes the sounds and by its test.
+// Sounds as 16-bit PCM wave files. Used by the program that makes the sounds and by its test.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace kestrel::sounds {
@@ -19,7 +21,7 @@ struct Wave {
   [[nodiscard]] double Seconds() const { return static_cast<double>(Frames()) / sample_rate; }
 };
 
-// The bytes of a wave file: a 44-byte header and the samples, all little-endian.
-std::vector<std::uint8_t> EncodeWave(const Wave& wave);
+// Writes the wave into a file of that name, over an old one; false when that fails.
+bool WriteWaveFile(const std::string& path, const Wave& wave);
 
 }  // namespace kestrel::sounds
