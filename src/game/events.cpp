@@ -32,8 +32,8 @@ void Game::HandleForm(const Event& event) {
     case FormId::Print:
       return session_.print_dialog.Handle(event);
     case FormId::Browser:
-      if (event.kind == EventKind::Close) session_.screen.Hide(FormId::Browser);
-      return;
+      Require(event.kind == EventKind::Close);
+      return session_.screen.Hide(FormId::Browser);
   }
 }
 
@@ -44,13 +44,14 @@ void Game::HandleMain(const Event& event) {
     case EventKind::Release:
       return Release(event);
     case EventKind::Timer:
+      Require(event.control.name == "Timer1");
       return Tick();
     case EventKind::Resize:
       return Resize(session_.forms.main.window.state);
     case EventKind::Close:
       return AskToQuit();
     default:
-      return;
+      Require(false);  // no control of this form sends another
   }
 }
 

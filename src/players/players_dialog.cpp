@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "players/players_dialog.h"
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "core/check.h"
 #include "core/global.h"
 #include "players/texts.h"
 
@@ -14,32 +19,41 @@ bool PlayersDialog::Run(const Window& over) {
   return screen_.WaitUntilHidden(FormId::Names);
 }
 
+// An event that no control of this form sends is a mistake of the program.
 void PlayersDialog::Handle(const Event& event) {
-  const std::string_view name = event.control.name;
-  if (event.kind == EventKind::Close) {
-    Hide();
-  } else if (event.kind == EventKind::Key && name == "NaamInvoerveld") {
-    event.key == Key::Enter ? Enter() : EndTyping();
-  } else if (event.kind == EventKind::DoubleClick && name == "Naamlijst") {
-    ListClick();
-    if (form_.Naamlijst.index >= 0) Ok();
-  } else if (event.kind != EventKind::Click) {
-    return;
-  } else if (name == "Naamlijst") {
-    ListClick();
-  } else if (name == "KnopOK") {
-    Ok();
-  } else if (name == "KnopAnnuleren") {
-    Hide();
-  } else if (name == "CommandFree") {
-    FreePlay();
-  } else if (name == "KnopNieuweSpeler") {
-    form_.Naamlijst.index = -1;
-    StartTyping();
-  } else if (name == "KnopWijzigen") {
-    form_.NaamInvoerveld.text = players_.Name(form_.Naamlijst.index + 1);
-    StartTyping();
+  switch (event.kind) {
+    case EventKind::Close:
+      return Hide();
+    case EventKind::Click:
+      return Click(event.control.name);
+    case EventKind::DoubleClick:
+      Require(event.control.name == "Naamlijst");
+      ListClick();
+      if (form_.Naamlijst.index >= 0) Ok();
+      return;
+    case EventKind::Key:
+      Require(event.control.name == "NaamInvoerveld");
+      return event.key == Key::Enter ? Enter() : EndTyping();
+    case EventKind::Leave:
+      return;  // typing goes on until it is ended by a key or a button
+    default:
+      Require(false);
   }
+}
+
+void PlayersDialog::Click(std::string_view name) {
+  using Dialog = PlayersDialog;
+  static constexpr auto kHandlers = std::to_array<std::pair<std::string_view, void (Dialog::*)()>>({
+      {"Naamlijst", &Dialog::ListClick},
+      {"KnopOK", &Dialog::Ok},
+      {"KnopAnnuleren", &Dialog::Hide},
+      {"CommandFree", &Dialog::FreePlay},
+      {"KnopNieuweSpeler", &Dialog::TypeNewPlayer},
+      {"KnopWijzigen", &Dialog::TypeNewName},
+  });
+  const auto handler = std::ranges::find(kHandlers, name, &decltype(kHandlers)::value_type::first);
+  Require(handler != kHandlers.end());
+  (this->*handler->second)();
 }
 
 void PlayersDialog::Activate() {
@@ -71,6 +85,16 @@ void PlayersDialog::FreePlay() {
 void PlayersDialog::Hide() {
   if (form_.NaamInvoerveld.enabled) EndTyping();
   screen_.Hide(FormId::Names);
+}
+
+void PlayersDialog::TypeNewPlayer() {
+  form_.Naamlijst.index = -1;
+  StartTyping();
+}
+
+void PlayersDialog::TypeNewName() {
+  form_.NaamInvoerveld.text = players_.Name(form_.Naamlijst.index + 1);
+  StartTyping();
 }
 
 void PlayersDialog::StartTyping() {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/settings.h"
 #include "forms/asker.h"
@@ -30,10 +31,13 @@ class PlayersDialog {
 
  private:
   void Activate();
+  void Click(std::string_view name);
   void ListClick();
   void Ok();
   void FreePlay();
   void Hide();
+  void TypeNewPlayer();
+  void TypeNewName();
   void StartTyping();
   void EndTyping();
   void Enter();

@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 
+#include "core/check.h"
 #include "print/drawn_page.h"
 #include "print/names.h"
 #include "print/page_layout.h"
@@ -57,18 +58,28 @@ bool PrintDialog::Run(int selected_level, std::string_view program_folder) {
   return screen_.WaitUntilHidden(FormId::Print);
 }
 
+// An event that no control of this form sends is a mistake of the program.
 void PrintDialog::Handle(const Event& event) {
   if (printing_) return;
   const std::string_view name = event.control.name;
-  if (event.kind == EventKind::Close) {
-    Close();
-  } else if (event.kind == EventKind::Click) {
-    Click(event.control);
-  } else if (event.kind == EventKind::Change && name == "PageSlider") {
-    ChoosePages();
-  } else if (name == "TextFrom") {
-    const bool entered = event.kind == EventKind::Key && event.key == Key::Enter;
-    if (entered || event.kind == EventKind::Leave) CheckRange();
+  switch (event.kind) {
+    case EventKind::Close:
+      Close();
+      break;
+    case EventKind::Click:
+      Click(event.control);
+      break;
+    case EventKind::Change:
+      Require(name == "PageSlider");
+      ChoosePages();
+      break;
+    case EventKind::Key:
+    case EventKind::Leave:
+      Require(name == "TextFrom");
+      if (event.key != Key::Escape) CheckRange();
+      break;
+    default:
+      Require(false);
   }
   ShowFirstPage();
 }
@@ -118,7 +129,8 @@ void PrintDialog::Click(const ControlId& control) {
     ChooseLevel();
   } else if (control.name == "Command2") {
     Print();
-  } else if (control.name == "Command1") {
+  } else {
+    Require(control.name == "Command1");
     Close();
   }
 }

@@ -315,6 +315,7 @@ MirroredPtr MakeMirrored(const WidgetContext& context, QWidget* parent, ControlI
   auto* widget = new PictureButton(context.logo, context.files, parent);
   auto mirrored = std::make_unique<Mirrored<Picture, PictureButton>>(context.form, id, context.sink, control,
                                                                      *widget, ShowPicture);
+  if (control.tab_index < 0) return mirrored;  // for the eye only
   QObject::connect(widget, &PictureButton::clicked,
                    [entry = mirrored.get(), widget] { TellClick(*entry, *widget); });
   return mirrored;
