@@ -84,10 +84,14 @@ TEST(Program, ProgressBarOnATerminal) {
   if (Shell("script -q -c true /dev/null > /dev/null 2>&1 < /dev/null") != 0) {
     GTEST_SKIP() << "no terminal can be made here";
   }
-  const std::string generate = "timeout 1 " + kProgram + " generate --count 1000000 --seed 1 > /dev/null";
+  const std::string generate = "timeout 1 " + kProgram + " generate --count 1000000 --seed 1";
   Shell("script -q -c \"" + generate + "\" " + typescript + " > /dev/null 2>&1 < /dev/null");
-  EXPECT_NE(folder.Get("typescript").find("generate [..."), std::string::npos);
-  Shell(generate + " 2> " + typescript);
+  const std::string seen = folder.Get("typescript");
+  ASSERT_NE(seen.find("generate [..."), std::string::npos);
+  for (std::size_t bar = 0; (bar = seen.find("generate [", bar)) != std::string::npos; ++bar) {
+    EXPECT_LE(seen.find("\033[K", bar), seen.find('\n', bar));
+  }
+  Shell(generate + " 2> " + typescript + " > /dev/null");
   EXPECT_EQ(folder.Get("typescript"), "");
 }
 

@@ -17,6 +17,16 @@
 namespace kestrel::testing {
 namespace {
 
+void SendToNewGame(const Event& event) {
+  GameHome home;
+  SystemCalls calls;
+  HostFiles files(calls);
+  NeverStop yield;
+  std::istringstream script;
+  std::ostringstream output;
+  ScriptRunner(home.options, files, yield, script, output, output).PlayedGame().Handle(event);
+}
+
 TEST(StatusBar, AveragesAreRoundedDown) {
   StockTable stock;
   EXPECT_EQ(TimesOfLevel(stock, 1).best, 0);
@@ -27,6 +37,10 @@ TEST(StatusBar, AveragesAreRoundedDown) {
   stock(1, 7).BestMinutes = -3;  // no time
   EXPECT_EQ(TimesOfLevel(stock, 1).best, 30);
   EXPECT_EQ(TimesOfLevel(stock, 1).average, (7505 + 30) / 2);
+  stock(2, 1).BestMinutes = 1;
+  stock(2, 1).BestSeconds = -65;
+  stock(2, 2).BestSeconds = 2;
+  EXPECT_EQ(TimesOfLevel(stock, 2).average, -2);
   EXPECT_EQ(texts::Time(125, 5), "25:05");
 }
 
@@ -102,6 +116,16 @@ TEST(Game, TakesATimeOfZero) {
                                   "answer OK\n" + ask + "press CommandOpen\nanswer 1\n" + ask);
   EXPECT_TRUE(played.Has("StatusBar(3).caption = \"Best Time: 00:00 by Ann\""));
   EXPECT_TRUE(played.Has("StatusBar(3).caption = \"Best Time: 00:00 (No Best Time Yet)\""));
+}
+
+// A control that no dispatcher knows ends the program, whatever form it is on.
+TEST(GameDeathTest, KnowsEveryControl) {
+  for (const FormId form : {FormId::Main, FormId::Names, FormId::Print}) {
+    for (const EventKind kind : {EventKind::Click, EventKind::DoubleClick, EventKind::Release,
+                                 EventKind::Change, EventKind::Key, EventKind::Timer}) {
+      EXPECT_DEATH(SendToNewGame({.form = form, .control = {"NewButton"}, .kind = kind}), "check");
+    }
+  }
 }
 
 // A stock that the user has is not replaced by the one that comes with the program.

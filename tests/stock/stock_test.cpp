@@ -75,7 +75,7 @@ TEST(CheckStock, FindsEveryPlantedFault) {
   const auto first_given = [&](int level, int number) -> std::uint8_t& {
     return *std::ranges::find_if(stock(level, number).GivenCells, [](int digit) { return digit != 0; });
   };
-  stock(1, 20).TechniqueCount[0] = -1;
+  stock(1, 1).TechniqueCount[0] = -1;
   first_given(2, 2) = 200;
   stock(2, 31) = stock(2, 30);
   std::swap(stock(3, 10), stock(3, 90));
@@ -87,10 +87,10 @@ TEST(CheckStock, FindsEveryPlantedFault) {
   stock(4, 61).Score = stock(4, 62).Score;
   ++stock(5, 5).Score;
   stock(5, 6).TechniqueCount[21] += 2;
-  stock(5, 99) = SudokuRecord{};
+  stock(5, 100) = SudokuRecord{};
   const std::multimap<int, std::string> expected{
-      {120, "count HS is -1 instead of"},
-      {120, "negative"},
+      {101, "count HS is -1 instead of"},
+      {101, "negative"},
       {202, "a given differs"},
       {202, "no solution"},
       {231, "same puzzle as level 2 number 30"},
@@ -106,10 +106,10 @@ TEST(CheckStock, FindsEveryPlantedFault) {
       {461, "same puzzle as level 1 number 61"},
       {505, "score is"},
       {506, "count JF is"},
-      {599, "level is not the one"},
-      {599, "not a complete grid"},
-      {599, "more than one solution"},
-      {599, "is below the"},
+      {600, "level is not the one"},
+      {600, "not a complete grid"},
+      {600, "more than one solution"},
+      {600, "is below the"},
   };
   std::vector<StockFault> faults = CheckStock(stock, 2, [](int) {});
   for (const auto& [place, text] : expected) {
