@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // X-Wing, Swordfish and Jellyfish: n lines whose places for a digit lie in n crossing lines.
 //
-//          c1    c5    c7
+//             c1    c7
 //    r2    .  4  .  4  .        X-Wing in rows: 4 has only columns c1 and c7 in r2 and r6,
 //    r3    .  x  .  .  .        so it goes from those columns everywhere else (x)
 //    r6    .  4  .  4  .

@@ -3,9 +3,9 @@
 //
 //    2-String Kite                           Skyscraper
 //    row r     X . . . | a .                 row i    . E . . . L .
-//                      |. b                  row j    . . E . . L .     L in one column
-//    column c            .                   the digit is in one of the ends E, and goes from
-//              x         Y                   the cells that see both
+//                      | . b                 row j    . . E . . L .     L in one column
+//    column c              .                 the digit is in one of the ends E, and goes from
+//              x           Y                 the cells that see both
 //    a, b in one box; the digit is in
 //    X or Y and goes from x, which sees both
 #include <array>
