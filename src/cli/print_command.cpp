@@ -13,6 +13,7 @@
 #include "cli/puzzle_run.h"
 #include "cli/rating_text.h"
 #include "cli/stock_path.h"
+#include "core/level_names.h"
 #include "core/yield.h"
 #include "forms/texts.h"
 #include "print/print_job.h"
@@ -94,7 +95,7 @@ bool TakeFromStock(const std::string& path, CliPorts& ports, PrintJob& job) {
   const RecordRange range{level, settings.first_number, LastNumber(settings)};
   if (!ReadSoundStock(path, ports, range, stock)) return false;
   job.puzzles = PuzzlesOfStock(stock, level, settings.first_number, PuzzlesPrinted(settings));
-  job.heading = texts::kLevelNames[static_cast<std::size_t>(settings.level_index)];
+  job.heading = LevelName(settings.level_index + 1);
   return true;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/rating_text.h"
 
+#include "core/level_names.h"
 #include "forms/texts.h"
 
 #include <cstdint>
@@ -41,7 +42,7 @@ DigitGrid SolvedGrid(const SolverState& state) {
 }
 
 std::string RatingName(int level) {
-  return level > kLevels ? "Beyond" : std::string(texts::kLevelNames[static_cast<std::size_t>(level - 1)]);
+  return level > kLevels ? "Beyond" : std::string(LevelName(level));
 }
 
 std::optional<SolverState> StartOf(const InputLine& line) {

@@ -6,6 +6,7 @@
 
 #include "cli/rating_text.h"
 #include "cli/report_plots.h"
+#include "explain/svg.h"
 #include "forms/texts.h"
 
 namespace kestrel {
@@ -51,29 +52,6 @@ th { color: var(--soft); font-weight: 600; font-size: .85rem; }
 th:first-child, td:first-child { text-align: left; }
 @media print { section { break-inside: avoid; } }
 )";
-
-std::string Escaped(std::string_view text) {
-  std::string escaped;
-  for (const char c : text) {
-    switch (c) {
-      case '&':
-        escaped += "&amp;";
-        break;
-      case '<':
-        escaped += "&lt;";
-        break;
-      case '>':
-        escaped += "&gt;";
-        break;
-      case '"':
-        escaped += "&quot;";
-        break;
-      default:
-        escaped += static_cast<unsigned char>(c) < ' ' ? '?' : c;
-    }
-  }
-  return escaped;
-}
 
 // 1234567 as "1,234,567".
 std::string Grouped(std::uint64_t number) {

@@ -52,7 +52,7 @@ Json RecordJson(int level, int number, const SudokuRecord& record) {
   object["number"] = number;
   object["score"] = record.Score;
   object["givens"] = GivenCount(record);
-  object["best_seconds"] = 60 * record.BestMinutes + record.BestSeconds;
+  object["best_seconds"] = BestTime(record);
   object["best_player"] = record.BestPlayer;
   object["counts"] = CountsJson(record.TechniqueCount);
   return object;

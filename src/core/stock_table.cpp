@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "core/grid_check.h"
+
 namespace kestrel {
 
 namespace {
@@ -24,24 +26,6 @@ void EachField(Record& record, Field field) {
   field(record.BestPlayer);
   for (auto& count : record.TechniqueCount) field(count);
   field(record.Score);
-}
-
-bool IsComplete(const DigitGrid& solution) {
-  const auto all_nine = [&](const auto& unit_cell) {
-    CandidateMask seen = 0;
-    for (int position = 0; position < kUnitSize; ++position) {
-      const int digit = DigitAt(solution, unit_cell(position));
-      if (digit != 0) seen |= DigitBit(digit);
-    }
-    return seen == kAllDigits;
-  };
-  for (int unit = 0; unit < kUnitSize; ++unit) {
-    const bool complete = all_nine([&](int k) { return RowCell[unit][k]; }) &&
-                          all_nine([&](int k) { return RowCell[k][unit]; }) &&
-                          all_nine([&](int k) { return BoxCell[unit][k]; });
-    if (!complete) return false;
-  }
-  return true;
 }
 
 }  // namespace
@@ -74,7 +58,7 @@ DigitGrid SafeDigits(const DigitGrid& grid) {
 std::vector<RecordFault> RecordFaults(const SudokuRecord& record, int level) {
   std::vector<RecordFault> faults;
   if (record.Level != level) faults.push_back(RecordFault::Level);
-  if (!IsComplete(record.SolutionCells)) faults.push_back(RecordFault::Solution);
+  if (!IsFullGrid(record.SolutionCells)) faults.push_back(RecordFault::Solution);
   for (int cell = 0; cell < kCells; ++cell) {
     const int given = record.GivenCells[cell];
     if (given == 0 || given == record.SolutionCells[cell]) continue;

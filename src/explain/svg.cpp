@@ -49,7 +49,7 @@ std::string Escaped(std::string_view text) {
         escaped += "&quot;";
         break;
       default:
-        escaped += c;
+        escaped += static_cast<unsigned char>(c) < ' ' && c != '\n' ? '?' : c;
     }
   }
   return escaped;

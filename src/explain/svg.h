@@ -14,7 +14,7 @@ struct Point {
 
 // A number with at most one decimal and no superfluous ".0".
 std::string SvgNumber(double value);
-// Text with & < > and " replaced, for contents and attributes of HTML and SVG.
+// Text for contents and attributes of HTML and SVG: & < > and " as entities, characters that these may not hold as '?'.
 std::string Escaped(std::string_view text);
 
 // The look of a shape; a null colour is "none".

@@ -3,6 +3,7 @@
 #include "forms/main_window.h"
 
 #include "core/cell_names.h"
+#include "core/level_names.h"
 #include "forms/texts.h"
 
 namespace kestrel {
@@ -71,7 +72,7 @@ void DesignLevels(MainWindow& main) {
   constexpr std::array<char, 5> kMnemonics = {'V', 'E', 'M', 'H', 'y'};
   for (int level = 1; level <= 5; ++level) {
     const int top = 720 + 330 * (level - 1);
-    const std::string_view name = texts::kLevelNames[static_cast<std::size_t>(level - 1)];
+    const std::string_view name = LevelName(level);
     OptionButton& option = main.OptionType(level);
     Place(option, 9120, top, 1155, 300);
     option.caption = name;
@@ -93,7 +94,7 @@ void DesignStartPanel(MainWindow& main) {
   main.Picture3.spoken = texts::kProductName;
   for (int level = 1; level <= 5; ++level) {
     Place(main.ProgressBar1(level), 2400, 5400 + 300 * (level - 1), 4815, 120);
-    main.ProgressBar1(level).spoken = texts::kLevelNames[static_cast<std::size_t>(level - 1)];
+    main.ProgressBar1(level).spoken = LevelName(level);
   }
 }
 

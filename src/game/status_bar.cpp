@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "core/level_names.h"
 #include "forms/texts.h"
 #include "game/texts.h"
 
@@ -40,7 +41,7 @@ LevelTimes TimesOfLevel(const StockTable& stock, int level) {
 void ShowStatus(MainWindow& main, const OpenPuzzle& puzzle, const StockTable& stock, const Players& players,
                 int level) {
   auto& panels = main.StatusBar;
-  panels(1).caption = texts::LevelPanel(texts::kLevelNames[static_cast<std::size_t>(level - 1)]);
+  panels(1).caption = texts::LevelPanel(LevelName(level));
   panels(2).caption = texts::NumberPanel(puzzle.PuzzleNumber);
   ShowBestTime(main, puzzle, players);
   if (puzzle.PuzzleBestMinutes <= 0 && puzzle.PuzzleBestSeconds <= 0) panels(3).caption = texts::kNoBestTime;

@@ -32,9 +32,6 @@ namespace kestrel {
 enum ConstraintKind : std::uint8_t { kCellKind, kRowKind, kColumnKind, kBoxKind };
 inline constexpr int kKinds = 4;
 
-// Whether every row, column and box has every digit.
-bool IsFullGrid(const DigitGrid& grid);
-
 // A full valid grid with its boards.
 class ReferenceGrid {
  public:

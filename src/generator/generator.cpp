@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "generator/generator.h"
 
+#include "core/grid_check.h"
 #include "generator/alternatives.h"
 #include "generator/full_grid.h"
 #include "generator/pair_removal.h"

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 
+#include "core/level_names.h"
 #include "core/text.h"
 #include "forms/texts.h"
 #include "print/grid_drawing.h"
@@ -57,7 +58,7 @@ PageLayout::PageLayout(Page& page, const PageMetrics& metrics, const StockTable&
     : PageLayout(
           page, metrics,
           PuzzlesOfStock(stock, settings.level_index + 1, settings.first_number, PuzzlesPrinted(settings)),
-          std::string(texts::kLevelNames[static_cast<std::size_t>(settings.level_index)]), settings) {
+          std::string(LevelName(settings.level_index + 1)), settings) {
 }
 
 bool PageLayout::PrintPages() {

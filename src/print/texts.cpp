@@ -2,6 +2,7 @@
 // The composed message of printing.
 #include "print/texts.h"
 
+#include "core/level_names.h"
 #include "forms/texts.h"
 
 namespace kestrel::texts {
@@ -13,7 +14,7 @@ std::string NumberText(std::string_view label, int number) {
 std::string DocumentTitle(const PrintSettings& settings) {
   std::string title(kProductName);
   title += ' ';
-  title += kLevelNames[static_cast<std::size_t>(settings.level_index)];
+  title += LevelName(settings.level_index + 1);
   title += ' ' + std::to_string(settings.first_number);
   if (LastNumber(settings) != settings.first_number) title += '-' + std::to_string(LastNumber(settings));
   return title;

@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "core/level_names.h"
 #include "forms/texts.h"
 #include "solver/technique_table.h"
 #include "view/play_state.h"
@@ -12,10 +13,6 @@ namespace kestrel {
 
 namespace {
 
-std::string LevelName(int level) {
-  return std::string(texts::kLevelNames[static_cast<std::size_t>(level - 1)]);
-}
-
 std::string LevelTip(const MainWindow& main, const TipState& state, int level) {
   if (main.OptionType(level).enabled) return std::string(texts::kLevelTip);
   return std::string(level == state.renewing_level ? texts::kLevelInRenewal : texts::kLevelInPlay);
@@ -24,12 +21,12 @@ std::string LevelTip(const MainWindow& main, const TipState& state, int level) {
 std::string RenewTip(const MainWindow& main, const TipState& state, int level) {
   if (state.renewing_level != 0) return std::string(texts::kRenewing);
   if (main.OptionType(level).value) return std::string(texts::kRenewOther);
-  return std::string(texts::kRenewBefore) + LevelName(level) + std::string(texts::kRenewAfter);
+  return std::string(texts::kRenewBefore) + std::string(LevelName(level)) + std::string(texts::kRenewAfter);
 }
 
 std::string TechniqueTip(int slot) {
   const TechniqueRow& row = kTechniqueTable[static_cast<std::size_t>(slot % kTechniques)];
-  return std::string(row.caption) + std::string(texts::kTierBefore) + LevelName(row.tier) +
+  return std::string(row.caption) + std::string(texts::kTierBefore) + std::string(LevelName(row.tier)) +
          std::string(texts::kTierAfter);
 }
 

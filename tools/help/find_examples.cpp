@@ -8,7 +8,7 @@
 // A position of FILE is replaced when a clearer one turns up; the file is written at the end. The same files,
 // seed and number of puzzles always give the same result.
 #include <algorithm>
-#include <charconv>
+#include <cstdint>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
@@ -20,6 +20,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/text.h"
 #include "core/yield.h"
 #include "explain/clarity.h"
 #include "explain/example.h"
@@ -167,22 +168,16 @@ class Watcher final : public StepObserver {
   SolverState before_;
 };
 
-bool ReadNumber(const char* text, std::uint64_t& number) {
-  const char* end = text + std::char_traits<char>::length(text);
-  const auto [stop, error] = std::from_chars(text, end, number);
-  return error == std::errc() && stop == end;
-}
-
 bool ReadOptions(int argc, char** argv, Options& options) {
   for (int i = 1; i < argc; ++i) {
     const std::string word = argv[i];
-    std::uint64_t number = 0;
     if (word == "--seed" || word == "--puzzles") {
-      if (i + 1 >= argc || !ReadNumber(argv[++i], number) || number > 100000000) return false;
+      const auto number = ++i < argc ? ParseNumber<std::uint64_t>(argv[i]) : std::nullopt;
+      if (number.value_or(~0ULL) > 100000000) return false;
       if (word == "--seed") {
-        options.seed = number;
+        options.seed = *number;
       } else {
-        options.puzzles = static_cast<int>(number);
+        options.puzzles = static_cast<int>(*number);
       }
     } else if (word == "--exercises") {
       if (++i >= argc) return false;

@@ -5,6 +5,7 @@
 #include <array>
 #include <tuple>
 
+#include "core/level_names.h"
 #include "explain/names.h"
 #include "solver/technique_table.h"
 
@@ -101,11 +102,6 @@ std::string UseSentence(const Rung& rung) {
   if (rung.needed == 0) return "None of the 500 puzzles needs it.";
   return "Needed in " + (rung.needed == 500 ? "all" : std::to_string(rung.needed) + " of the") +
          " 500 puzzles, " + WithComma(rung.times) + (rung.times == 1 ? " time" : " times") + " in all.";
-}
-
-std::string_view LevelName(int level) {
-  constexpr std::array<std::string_view, kLevels> kNames{"Very Easy", "Easy", "Medium", "Hard", "Very Hard"};
-  return kNames[static_cast<std::size_t>(level - 1)];
 }
 
 }  // namespace kestrel::help

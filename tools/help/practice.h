@@ -36,7 +36,4 @@ std::string PracticeSentence(const Rung& rung);
 // "Needed in 45 of the 500 puzzles, 56 times in all."
 std::string UseSentence(const Rung& rung);
 
-// The level's name, 1..5.
-std::string_view LevelName(int level);
-
 }  // namespace kestrel::help

@@ -8,6 +8,7 @@
 #include <sstream>
 #include <vector>
 
+#include "core/level_names.h"
 #include "explain/page_parts.h"
 #include "explain/reasons.h"
 #include "explain/svg.h"

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/level_names.h"
 #include "core/text.h"
 #include "forms/texts.h"
 #include "solver/technique_table.h"
@@ -127,8 +128,7 @@ void MainExtras::SyncList() {
 void MainExtras::SyncRenewal() {
   const int level = surroundings_.state().renewing_level;
   if (level == 0) return;
-  const QString format =
-      ToQString(texts::kLevelNames[static_cast<std::size_t>(level - 1)]) + QStringLiteral(": %v of %m");
+  const QString format = ToQString(LevelName(level)) + QStringLiteral(": %v of %m");
   if (renewal_->format() != format) renewal_->setFormat(format);
 }
 

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "core/level_names.h"
 #include "forms/texts.h"
 #include "ui/qt/records_map.h"
 #include "ui/qt/scaled.h"
@@ -46,9 +47,8 @@ NumberBox::NumberBox(const InputBox& box, QWidget* parent) : QDialog(parent), fi
 }
 
 void NumberBox::ShowMap(const LevelRecords& records, int level) {
-  auto* title = new QLabel(ToQString(texts::kLevelNames[static_cast<std::size_t>(level - 1)]) +
-                               QStringLiteral(": ") + QLatin1String(texts::kMapOfNumbers),
-                           this);
+  auto* title = new QLabel(
+      ToQString(LevelName(level)) + QStringLiteral(": ") + QLatin1String(texts::kMapOfNumbers), this);
   auto* map = new RecordsMap(this);
   auto* pointed = new QLabel(QLatin1String(texts::kRecordsHelp), this);
   map->Show(records);
