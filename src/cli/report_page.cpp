@@ -74,7 +74,7 @@ std::string Tiles(const ReportData& data) {
   int used = 0;
   for (int slot = 0; slot < kTechniques; ++slot) used += Sum(data.Needing(slot)) > 0 ? 1 : 0;
   std::string tiles = Tile(Grouped(data.Puzzles()), data.Puzzles() == 1 ? "puzzle" : "puzzles") +
-                      Tile(std::to_string(used), "of 22 techniques needed") +
+                      Tile(std::to_string(used), "of " + std::to_string(kTechniques) + " techniques needed") +
                       Tile(std::to_string(hardest), "highest score") +
                       Tile(std::to_string(Quantile(givens, 0.5)), "givens in the middle puzzle");
   if (!data.BestTimes().empty()) tiles += Tile(Grouped(data.BestTimes().size()), "best times");

@@ -21,13 +21,13 @@ void PlaceLabel(Label& label, int left, int top, int width, std::string_view cap
 }
 
 void DesignPrintChoices(FormPrint& form) {
-  PlaceLabel(form.LabelLevel, 180, 195, 1275, "Level");
+  PlaceLabel(form.LabelLevel, 180, 195, 1275, texts::kLevelCaption);
   Place(form.SudokuTypeKeuze, 1500, 150, 1650, 345);
   for (const std::string_view name : texts::kLevelNames) form.SudokuTypeKeuze.lines.emplace_back(name);
   form.SudokuTypeKeuze.index = 0;
   form.SudokuTypeKeuze.tab_index = 0;
   form.SudokuTypeKeuze.spoken = texts::kPrintLevel;
-  PlaceLabel(form.Label3, 180, 705, 1275, "From number");
+  PlaceLabel(form.Label3, 180, 705, 1275, texts::kFromNumber);
   Place(form.TextFrom, 1500, 660, 600, 345);
   form.TextFrom.text = "1";
   form.TextFrom.digits_only = true;
@@ -47,16 +47,16 @@ void DesignPrintChoices(FormPrint& form) {
 
 void DesignPrintPages(FormPrint& form) {
   Place(form.CheckSolution, 180, 2340, 1830, 300);
-  form.CheckSolution.caption = "Solutions";
+  form.CheckSolution.caption = texts::kWithSolutions;
   form.CheckSolution.mnemonic = 'S';
   form.CheckSolution.value = true;
   form.CheckSolution.tab_index = 5;
   Place(form.CheckPencils, 180, 2670, 1830, 300);
-  form.CheckPencils.caption = "Pencilmarks";
+  form.CheckPencils.caption = texts::kWithPencilmarks;
   form.CheckPencils.mnemonic = 'm';
   form.CheckPencils.value = true;
   form.CheckPencils.tab_index = 6;
-  PlaceLabel(form.LabelPages, 180, 3180, 690, "Pages");
+  PlaceLabel(form.LabelPages, 180, 3180, 690, texts::kPages);
   Place(form.PageSlider, 870, 3120, 1860, 375);
   form.PageSlider.minimum = 1;
   form.PageSlider.maximum = 10;
@@ -93,8 +93,8 @@ FormNamen MakeFormNamen() {
   form.LabelTyping.visible = false;
   PlaceButton(form.KnopNieuweSpeler, 3300, 870, 1650, texts::kNewPlayer, 2);
   PlaceButton(form.KnopWijzigen, 3300, 1365, 1650, texts::kEditPlayer, 3);
-  PlaceButton(form.KnopOK, 3300, 2475, 1650, "&OK", 4);
-  PlaceButton(form.KnopAnnuleren, 3300, 2970, 1650, "&Cancel", 5);
+  PlaceButton(form.KnopOK, 3300, 2475, 1650, texts::kOk, 4);
+  PlaceButton(form.KnopAnnuleren, 3300, 2970, 1650, texts::kCancel, 5);
   PlaceButton(form.CommandFree, 3300, 3465, 1650, texts::kFreePlay, 6);
   form.CommandFree.mnemonic = 'F';
   form.KnopWijzigen.enabled = false;
@@ -115,10 +115,10 @@ FormPrint MakeFormPrint() {
   form.PrintVoorbeeld.spoken = texts::kPreview;
   Place(form.FirstPage, 3420, 150, 4035, 5700);
   form.FirstPage.spoken = texts::kFirstPage;
-  PlaceButton(form.Command2, 180, 3945, 1410, "Print", 8);
+  PlaceButton(form.Command2, 180, 3945, 1410, texts::kPrintNow, 8);
   form.Command2.mnemonic = 'P';
   form.Command2.is_default = true;
-  PlaceButton(form.Command1, 1740, 3945, 1410, "Close", 9);
+  PlaceButton(form.Command1, 1740, 3945, 1410, texts::kClose, 9);
   form.Command1.mnemonic = 'C';
   form.Command1.is_cancel = true;
   PlaceLabel(form.LabelOutcome, 180, 4470, 2970, "");

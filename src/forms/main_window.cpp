@@ -11,6 +11,7 @@ namespace kestrel {
 namespace {
 
 constexpr int kCommandLine = 9000;  // top of the bottom line of buttons
+constexpr int kRenewalTop = 8085;   // of the renewal's progress bar, below the technique list
 constexpr int kCommandWidth = 855;
 constexpr int kCommandHeight = 375;
 constexpr double kMarkPoints = 10.5;  // digits 10 pixels high leave air between the lines of marks
@@ -84,7 +85,8 @@ void DesignLevels(MainWindow& main) {
     renew.align = Align::Right;
     renew.spoken = std::string(texts::kRenewLevel) + ": " + std::string(name);
   }
-  Place(main.ProgressBar2, 9120, 8085, 2280, 225);
+  static_assert(kListTop + kListPitch * kTechniques < kRenewalTop, "a longer list needs narrower rows");
+  Place(main.ProgressBar2, 9120, kRenewalTop, 2280, 225);
   main.ProgressBar2.visible = false;
   main.ProgressBar2.spoken = texts::kRenewalProgress;
 }
@@ -107,14 +109,14 @@ void DesignButton(Button& button, int left, std::string_view caption, char mnemo
 }
 
 void DesignCommands(MainWindow& main) {
-  DesignButton(main.CommandNew, 960, "Next", 'N', texts::kNextTip);
+  DesignButton(main.CommandNew, 960, texts::kNext, 'N', texts::kNextTip);
   DesignButton(main.CommandOpen, 1920, texts::kOpen, 'O', texts::kOpenTip);
-  DesignButton(main.CommandRestart, 2880, "Restart", 'R', texts::kRestartTip);
-  DesignButton(main.CommandUndo, 3840, "Undo", 'U', texts::kUndoTip);
-  DesignButton(main.CommandRedo, 4800, "Redo", 'd', texts::kRedoTip);
+  DesignButton(main.CommandRestart, 2880, texts::kRestart, 'R', texts::kRestartTip);
+  DesignButton(main.CommandUndo, 3840, texts::kUndo, 'U', texts::kUndoTip);
+  DesignButton(main.CommandRedo, 4800, texts::kRedo, 'd', texts::kRedoTip);
   DesignButton(main.CommandResetCell, 5760, texts::kResetCell, 'C', texts::kResetTip);
-  DesignButton(main.CommandHint, 6720, "Hint", 'i', texts::kHintCost);
-  DesignButton(main.CommandSolution, 7920, "Solution", 't', texts::kSolutionTip);
+  DesignButton(main.CommandHint, 6720, texts::kHint, 'i', texts::kHintCost);
+  DesignButton(main.CommandSolution, 7920, texts::kSolution, 't', texts::kSolutionTip);
   DesignButton(main.CommandPrint, 9120, texts::kPrint, 'P', texts::kPrintTip);
   main.CommandPrint.width = 1080;
   for (Button* button :
@@ -131,10 +133,10 @@ void DesignCommands(MainWindow& main) {
 void DesignRightColumn(MainWindow& main) {
   DesignButton(main.cmdPlayers, 10560, texts::kPlayers, 'a', texts::kPlayersTip);
   Place(main.cmdPlayers, 10560, 180, 840, kCommandHeight);
-  DesignButton(main.CommandHelp, 10320, "Help", 'l', texts::kHelpTip);
+  DesignButton(main.CommandHelp, 10320, texts::kHelp, 'l', texts::kHelpTip);
   main.CommandHelp.width = 1080;
   Place(main.chkSound, 10485, 8475, 915, 315);
-  main.chkSound.caption = "Sounds";
+  main.chkSound.caption = texts::kSoundsCaption;
   main.chkSound.mnemonic = 'S';
   main.chkSound.tooltip = texts::kSoundsTip;
   Place(main.Picture1, 9120, 8340, 1350, 600);
@@ -164,7 +166,7 @@ void DesignStatusBar(MainWindow& main) {
   for (int panel = 1; panel <= 5; ++panel) {
     const int width = kWidths[static_cast<std::size_t>(panel - 1)];
     Place(main.StatusBar(panel), left, 9480, width, 390);
-    if (panel >= 3) main.StatusBar(panel).tooltip = "Click for the records of all levels";
+    if (panel >= 3) main.StatusBar(panel).tooltip = texts::kRecordsTip;
     left += width;
   }
 }

@@ -48,7 +48,7 @@ StockImport::StockImport(const StockTable& stock, int only_level) : stock_(stock
 std::string StockImport::WhyNot(const Verdict& verdict) const {
   if (verdict.solutions == 0) return "it has no solution";
   if (verdict.solutions > 1) return "it has more than one solution";
-  if (verdict.level > kLevels) return "it takes more than the 22 techniques";
+  if (verdict.level > kLevels) return "it takes more than the " + std::to_string(kTechniques) + " techniques";
   if (only_level_ != 0 && verdict.level != only_level_)
     return "it is of level " + std::to_string(verdict.level);
   if (const auto twin = new_forms_.find(verdict.form); twin != new_forms_.end()) {

@@ -108,7 +108,7 @@ TEST(RateAndSolve, AgreeWithThePlainSolver) {
             "puzzle\tlevel\tscore\tHS\tNS\tPP\tBL\tN2\tN3\tH2\tN4\tH3\tN5\tXW\tYW\tTS\tSS\tSF\tMX\tFX\tUR\tAR"
             "\tZW\tER\tJF\tgrid\tsolutions");
   ASSERT_TRUE(rated.size() == 301 && traces.size() == 300);
-  constexpr std::array<int, 22> kCounters{0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10,
+  constexpr std::array<int, kTechniques> kCounters{0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10,
                                           11, 14, 15, 12, 13, 16, 17, 18, 19, 21, 20};
   std::set<std::string> levels;
   std::size_t next = 0;

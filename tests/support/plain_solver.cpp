@@ -123,9 +123,11 @@ bool PlainSolver::Try(Technique technique) {
       return FindEmptyRectangle();
     case Technique::Jellyfish:
       return FindFish(4, false);
-    default:
-      return false;
+    case Technique::None:
+    case Technique::End:
+      break;
   }
+  return false;
 }
 
 Technique PlainSolver::FirstTechnique() {
@@ -136,8 +138,9 @@ Technique PlainSolver::FirstTechnique() {
 }
 
 int PlainSolver::SolveAndRate(const std::array<int, 81>& givens) {
-  static constexpr std::array<int, 23> kCounterOfStep = {-1, 0,  1,  2,  3,  4,  5,  6,  7,  8,  9, 10,
-                                                         11, 14, 15, 12, 13, 16, 17, 18, 19, 21, 20};
+  static constexpr std::array kCounterOfStep = {-1, 0,  1,  2,  3,  4,  5,  6,  7,  8,  9, 10,
+                                                11, 14, 15, 12, 13, 16, 17, 18, 19, 21, 20};
+  static_assert(kCounterOfStep.size() == kTechniques + 1);
   Givens = givens;
   TechniqueCounters.fill(0);
   Steps.clear();
@@ -160,7 +163,7 @@ int PlainSolver::SolveAndRate(const std::array<int, 81>& givens) {
   return level;
 }
 
-int PlainSolver::Score(int level, const std::array<int, 22>& c) {
+int PlainSolver::Score(int level, const std::array<int, kTechniques>& c) {
   if (level < 1 || level > 5) return 0;
   int score = c[0] + 2 * c[1];
   if (level >= 2) score += 3 * c[2] + 3 * c[3];

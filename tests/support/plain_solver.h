@@ -15,7 +15,7 @@ class PlainSolver {
   std::array<int, 81> Givens{};  // what Avoidable Rectangle takes for given
   std::array<int, 81> CellValue{};
   std::array<std::array<bool, 81>, 9> CandidateFlag{};  // [digit - 1][cell]
-  std::array<int, 22> TechniqueCounters{};              // in counter order
+  std::array<int, kTechniques> TechniqueCounters{};     // in counter order
   std::vector<Technique> Steps;                         // that succeeded, in order
 
   // Rates `givens`: 1..6. Leaves the final state, the counters and the steps.
@@ -29,7 +29,7 @@ class PlainSolver {
   bool Try(Technique technique);
 
   [[nodiscard]] int Mask(int cell) const;
-  static int Score(int level, const std::array<int, 22>& counters);
+  static int Score(int level, const std::array<int, kTechniques>& counters);
 
  private:
   using Cells = std::vector<int>;

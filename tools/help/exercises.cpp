@@ -65,7 +65,6 @@ std::string QuestionOf(const Finding& finding) {
 }
 
 std::string NarrowingHint(const Finding& finding) {
-  const auto digits = [&] { return DigitNames(finding.digits); };
   switch (finding.technique) {
     case Technique::NakedSingle:
       return "The cell is in row " + std::string(1, RowLetter(CellRow[finding.placed_cell])) + '.';
@@ -86,9 +85,22 @@ std::string NarrowingHint(const Finding& finding) {
     case Technique::AvoidableRectangle:
       return "The two digits are " +
              DigitNames(finding.pattern[0].digits | finding.pattern[finding.form == 1 ? 2 : 1].digits) + '.';
-    default:
-      return "Look at the places of the digit " + digits() + '.';
+    case Technique::HiddenSingle:
+    case Technique::PointingPair:
+    case Technique::BoxLine:
+    case Technique::XWing:
+    case Technique::TwoStringKite:
+    case Technique::Skyscraper:
+    case Technique::Swordfish:
+    case Technique::FinnedXWing:
+    case Technique::EmptyRectangle:
+    case Technique::Jellyfish:
+      return "Look at the places of the digit " + DigitNames(finding.digits) + '.';
+    case Technique::None:
+    case Technique::End:
+      break;
   }
+  return {};
 }
 
 std::string ExercisesHtml(HelpFiles& files, const std::string& page, ExercisePage kind,
