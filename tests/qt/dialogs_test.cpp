@@ -86,9 +86,7 @@ TEST(Records, FollowTheGame) {
   const auto twelve = [&] { return map->model()->index(1, 1).data(Qt::ToolTipRole).toString(); };
   EXPECT_EQ(twelve(), "Number 12: no best time yet");
   record.BestSeconds = 59;
-  Event tick;
-  tick.kind = EventKind::Timer;
-  game.front_end.Events().Send(tick);
+  game.front_end.Events().Send({.control = {"Timer1"}, .kind = EventKind::Timer});
   EXPECT_EQ(twelve(), "Number 12: 00:59 by somebody else");
   EXPECT_TRUE(window->findChild<QListWidget*>()->item(0)->text().startsWith("somebody else: "));
   QTest::keyClick(window, Qt::Key_Escape);
