@@ -62,7 +62,7 @@ struct Order {
   std::string Text(const RatedPuzzle& puzzle) const {
     return plain ? PuzzleText(*plain, {puzzle.givens, std::nullopt}) : RatedText(puzzle, json);
   }
-  // All that the output depends on.
+  // All that the output depends on: '--resume' goes on only with the file of the very same run.
   std::string InWords() const {
     return "generate seed " + std::to_string(run.seed) + " attempts " + std::to_string(run.first) + " to " +
            std::to_string(run.attempts) + " level " + std::to_string(level) + " most " +
@@ -102,6 +102,7 @@ Order OrderOf(Arguments& arguments, CliPorts& ports) {
   }
   order.run.seed = SeedOf(arguments, ports);
   if (order.level != 0) order.run.highest_level = order.level;
+  // So many of a level: one attempt after the other until there are enough. So many attempts: the part of them.
   if (order.level != 0 && !by_attempts) {
     order.most = total;
   } else {
@@ -127,6 +128,7 @@ bool Generate(const Order& order, GeneratePosition position, GenerateOutput& out
       text += order.Text(puzzle);
       ++position.written;
     }
+    // The position is that of the end of this text: an interrupted run goes on behind it.
     if (!text.empty()) progress.Hide();
     good = output.Write(text, position);
     const std::uint64_t made = position.next - order.run.first;

@@ -163,6 +163,7 @@ ExitStatus WritePages(const PrintWish& wish, const std::vector<std::string>& sou
                           " pages, one a file: only a single one can go to standard output");
     return ExitStatus::kFailure;
   }
+  // First all checks, then all writing: no pages of half a job.
   std::vector<std::string> names;
   for (std::size_t i = 0; i < files.size(); ++i) {
     names.push_back(NumberedName(wish.output, i + 1, files.size()));

@@ -16,6 +16,7 @@ PuzzleReader::PuzzleReader(std::vector<std::string> files, std::istream& in)
   if (files_.empty()) files_.emplace_back("-");
 }
 
+// 0, which means unknown, as soon as one of the inputs is no plain file.
 std::uint64_t PuzzleReader::TotalBytes() const {
   std::uint64_t total = 0;
   for (const std::string& file : files_) {
@@ -44,10 +45,11 @@ bool PuzzleReader::OpenNext(InputLine& line) {
     current_ = &file_;
   }
   stream_.emplace(*current_);
-  errno = 0;
+  errno = 0;  // a stream keeps no reason: what the last reading left in it counts
   return true;
 }
 
+// A file that cannot be opened or read on is one bad line, and the next file follows.
 bool PuzzleReader::Next(InputLine& line) {
   FoundPuzzle found;
   while (true) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Lines in, results out, in the order of the lines, however many threads work on them.
 #include "cli/puzzle_run.h"
 
 #include <algorithm>
@@ -35,6 +36,7 @@ std::string BadLineText(const InputLine& line) {
   return place + ": " + line.error + "\n";
 }
 
+// Line 0 stands for the file itself, which could not be read.
 ExitStatus BadLineStatus(const InputLine& line) {
   return line.line == 0 ? ExitStatus::kFailure : ExitStatus::kBadInput;
 }
@@ -68,6 +70,7 @@ ExitStatus RunOnPuzzles(const PuzzleRun& run, CliPorts& ports) {
   const auto read = [&](Bundle& bundle) {
     InputLine line;
     while (bundle.size() < kBundle && reader.Next(line)) {
+      // A line belongs to the part in which it ends: every line to exactly one.
       if (!run.shard.IsWhole() && line.bytes <= run.shard.Begin(total)) continue;
       if (!run.shard.IsWhole() && line.bytes > run.shard.End(total)) break;
       bundle.push_back(std::move(line));
@@ -90,6 +93,7 @@ ExitStatus RunOnPuzzles(const PuzzleRun& run, CliPorts& ports) {
     };
   };
   const auto write = [&](const BundleResult& result) {
+    // Output and bar may share the terminal.
     progress.Hide();
     ports.err << result.err << std::flush;
     ports.out << result.out;

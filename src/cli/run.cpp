@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// From the words of the command line to the command, and the options that several commands share.
 #include "cli/run.h"
 
 #include <algorithm>
@@ -60,6 +61,7 @@ ExitStatus RunCommand(const Command& command, std::span<const std::string> words
     PrintHelp(ports.out, kProgramName, *command.spec);
     return ExitStatus::kGood;
   }
+  // A command reads all its options before it acts, and gives up when one was wrong: the error is told here, once.
   const ExitStatus status = command.run(arguments, ports);
   if (arguments.Error().empty()) return status;
   return UsageError(ports, std::string(command.spec->name) + ": " + arguments.Error(), command.spec->name);
@@ -99,6 +101,7 @@ ExitStatus Dispatch(std::span<const std::string> words, CliPorts& ports) {
 
 ExitStatus RunCli(std::span<const std::string> words, CliPorts& ports) {
   const ExitStatus status = Dispatch(words, ports);
+  // A full disk shows only now. A reader that went away had enough ("... | head"): not good, but nothing to complain of.
   ports.out.flush();
   if (ports.out) return status;
   const bool had_enough = ports.reader_left != nullptr && ports.reader_left();
@@ -116,6 +119,7 @@ bool JsonOf(Arguments& arguments) {
   return arguments.OneOf(kFormatOption.name, kFormats) == 1;
 }
 
+// A drawn seed is told, so that the run can be had again.
 std::uint64_t SeedOf(Arguments& arguments, CliPorts& ports) {
   if (arguments.Has(kSeedOption.name)) return arguments.Number(kSeedOption.name, 0, 0, UINT64_MAX);
   if (!arguments.Error().empty()) return 0;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Which part of a run this is: "2/4".
 #include "cli/shard.h"
 
 #include <cstdint>

@@ -28,13 +28,6 @@ constexpr std::array<OptionSpec, 3> kExportOptions{
       "lines (default), json, or line, grid, sdk, ss, opensudoku,\ncandidates or csv for the puzzles "
       "alone"}}};
 
-// A grid of a record: '?' for what is no digit.
-std::string RecordGrid(const DigitGrid& grid) {
-  std::string text;
-  for (const int digit : grid) text += digit <= 9 ? static_cast<char>('0' + digit) : '?';
-  return text;
-}
-
 int GivenCount(const SudokuRecord& record) {
   return static_cast<int>(std::ranges::count_if(record.GivenCells, [](int digit) { return digit != 0; }));
 }
@@ -69,14 +62,14 @@ std::string ListJson(int level, int number, const SudokuRecord& record) {
 }
 
 std::string ExportLine(int level, int number, const SudokuRecord& record) {
-  return RecordGrid(record.GivenCells) + '\t' + RecordGrid(record.SolutionCells) + '\t' +
-         std::to_string(level) + '\t' + std::to_string(number) + '\t' + std::to_string(record.Score) + '\n';
+  return GridText(record.GivenCells) + '\t' + GridText(record.SolutionCells) + '\t' + std::to_string(level) +
+         '\t' + std::to_string(number) + '\t' + std::to_string(record.Score) + '\n';
 }
 
 std::string ExportJson(int level, int number, const SudokuRecord& record) {
   Json object = RecordJson(level, number, record);
-  object["puzzle"] = RecordGrid(record.GivenCells);
-  object["solution"] = RecordGrid(record.SolutionCells);
+  object["puzzle"] = GridText(record.GivenCells);
+  object["solution"] = GridText(record.SolutionCells);
   return JsonText(object);
 }
 
@@ -140,6 +133,7 @@ const CommandSpec kStockExportSpec{
     "stock export --level 3\n"
     "stock export --format json my.kpz"};
 
+// Reads the stock however it is: what is wrong with it is what this command is to tell.
 ExitStatus StockVerifyCommand(Arguments& arguments, CliPorts& ports) {
   const int jobs = JobsOf(arguments);
   const std::string path = StockPath(arguments, ports);
@@ -150,6 +144,7 @@ ExitStatus StockVerifyCommand(Arguments& arguments, CliPorts& ports) {
     progress.Show(static_cast<std::uint64_t>(checked), std::to_string(checked) + " puzzles");
   });
   progress.Hide();
+  // The table hides a wrong length: what is missing reads as zeros, what is too much is not read.
   const std::uint64_t length = ports.files.Length(path).value_or(0);
   if (length != kStockBytes) {
     ports.out << "file: " << length << " bytes instead of " << kStockBytes << '\n';

@@ -93,6 +93,7 @@ bool FollowFile(const StockTable& before, const StockTable& now, StockTable& pla
       const SudokuRecord& record = now(level, number);
       if (record.GivenCells != before(level, number).GivenCells) return false;
       if (record == before(level, number)) continue;
+      // Only its best time can be new; the plan may have moved it to another place, or left it out.
       for (int place = 1; place <= kPuzzlesPerLevel; ++place) {
         SudokuRecord& stays = planned(level, place);
         if (stays.GivenCells == record.GivenCells) stays = record;

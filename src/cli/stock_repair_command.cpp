@@ -61,6 +61,7 @@ const CommandSpec kStockRepairSpec{
 ExitStatus StockRepairCommand(Arguments& arguments, CliPorts& ports) {
   FillRun run;
   run.jobs = JobsOf(arguments);
+  // Not SeedOf, which tells a drawn seed: most repairs make no puzzle and need none.
   run.seed = arguments.Has(kSeedOption.name) ? SeedOf(arguments, ports) : ports.seeds.NextSeed();
   const std::string path = WritableStockPath(arguments, ports);
   if (!arguments.Error().empty()) return ExitStatus::kFailure;
@@ -71,6 +72,7 @@ ExitStatus StockRepairCommand(Arguments& arguments, CliPorts& ports) {
     if (!read) PrintError(ports, path + ": " + read.Reason());
     return ExitStatus::kFailure;
   }
+  // A wrong file name must not cost a file; the player's own stock may be damaged beyond recognition.
   if (!LooksLikeStock(bytes) && path != ports.user_stock && !arguments.Has("force")) {
     PrintError(ports, path + ": this does not look like a stock; --force fills it with new puzzles");
     return ExitStatus::kFailure;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The script's lines that are events.
+// The script's lines that are events: what a user does, or the clock. Words are checked here, whether the control can
+// be reached is asked of the user (ui/memory). A wrong line ends the script; a refusal is a line of the transcript.
 #include <array>
 #include <optional>
 #include <string>
@@ -48,6 +49,7 @@ ScriptRunner::LineKind ScriptRunner::Mark(std::string_view rest) {
   const auto digit = ParseNumber<unsigned>(words[1]);
   const auto button = words.size() == 3 ? ParseButton(words[2]) : MouseButton::Left;
   if (!cell || !digit || !button) return Fail(BadArguments(rest));
+  // By name, as everything else: a cell or digit that does not exist is a control that does not exist.
   const std::string name = "Mark" + std::to_string(*digit) + "(" + std::to_string(*cell) + ")";
   return Report(name, user_.Release(name, *button, 120, 120));
 }
@@ -84,6 +86,7 @@ ScriptRunner::LineKind ScriptRunner::PickLine(std::string_view rest,
   return Report(words[0], (user_.*pick)(words[0], *index));
 }
 
+// Blanks belong to what is typed, so the rest of the line is no list of words.
 ScriptRunner::LineKind ScriptRunner::Type(std::string_view rest) {
   const CommandLine parts = SplitCommand(rest);
   return Report(parts.word, user_.Type(parts.word, parts.rest));
@@ -152,6 +155,7 @@ ScriptRunner::LineKind ScriptRunner::Tick(std::string_view rest) {
   return LineKind::Event;
 }
 
+// A question, not an event: an event has one round of its own behind it, and these are counted.
 ScriptRunner::LineKind ScriptRunner::Rounds(std::string_view rest) {
   const auto words = Words(rest);
   const auto count = words.size() == 1 ? ParseNumber<unsigned>(words[0]) : std::nullopt;
@@ -162,6 +166,7 @@ ScriptRunner::LineKind ScriptRunner::Rounds(std::string_view rest) {
   return LineKind::Question;
 }
 
+// Rounds until the renewal is through, at most so many.
 ScriptRunner::LineKind ScriptRunner::Renew(std::string_view rest) {
   const auto words = Words(rest);
   const auto most = words.size() == 1 ? ParseNumber<unsigned>(words[0]) : std::nullopt;
@@ -178,6 +183,7 @@ ScriptRunner::LineKind ScriptRunner::Renew(std::string_view rest) {
   return LineKind::Question;
 }
 
+// A line for later: for the n-th yield of the line that follows.
 ScriptRunner::LineKind ScriptRunner::At(std::string_view rest) {
   const CommandLine parts = SplitCommand(rest);
   const auto yield = ParseNumber<unsigned>(parts.word);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The script's lines that are questions.
+// The script's lines that are questions: they change nothing, and no round of the game follows.
 #include <string>
 
 #include "core/text.h"
@@ -13,6 +13,7 @@ namespace kestrel {
 
 ScriptRunner::LineKind ScriptRunner::Get(std::string_view rest) {
   const auto words = Words(rest);
+  // Names have no blanks; with more than one word the error tells the line as it stands.
   const std::string_view what = words.size() == 1 ? words[0] : rest;
   const std::size_t dot = std::min(what.find('.'), what.size());
   const std::string_view property = what.substr(std::min(dot + 1, what.size()));

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What 'var' and the questions about the puzzle tell: values that no control shows.
 #include "ui/script/values.h"
 
 #include <algorithm>
