@@ -4,7 +4,7 @@
 A fault is one change on one line. Faults that do not compile are drawn again. Each worker has a copy of the sources
 with a build of its own. The test programs of a fault are built one after another, those near its folder first; one whose
 bytes and whose fellow programs' bytes are those without a fault is out of reach. The first that fails, crashes or takes
-far too long ends it. Cases that take long come last, and only in programs within reach.
+far too long ends it. Cases that take long come last and only in programs within reach, very long ones only near the fault.
 """
 import collections
 import filecmp
@@ -23,6 +23,7 @@ import time
 
 BASE = "build/mutate"
 SLOW = 1.0  # seconds from which on a test case waits until all quick ones have passed
+FAR = 10.0  # seconds from which on a case is only run for faults near its program
 PATIENCE = 15  # seconds that a run may take beyond six times what it takes without a fault
 LIMITS = ["prlimit", f"--as={6 << 30}", f"--fsize={1 << 30}"]  # a fault may well fill the memory or the disk
 # Folders without a test program of their own name, or with others that are close.
@@ -170,9 +171,13 @@ class Worker:
                    if other == name or not other.endswith("_test"))
 
     def order(self, path):
-        folders = path.split("/")[1:-1]
-        near = [f"{name}_test" for folder in reversed(folders) for name in [folder, *NEAR.get(folder, [])]]
+        near = self.near(path)
         return sorted(self.quick, key=lambda name: (near.index(name) if name in near else 99, self.quick[name].seconds))
+
+    @staticmethod
+    def near(path):
+        folders = path.split("/")[1:-1]
+        return [f"{name}_test" for folder in reversed(folders) for name in [folder, *NEAR.get(folder, [])]]
 
     def noticed(self, fault):
         """By which run the fault is noticed; "" by none, None when it does not compile."""
@@ -189,7 +194,10 @@ class Worker:
                     within.add(name)
                     if (status := self.test(self.quick[name])) != 0:
                         return name + ("" if status else ", too long")
-            for run in filter(lambda run: run.program in within, self.slow):
+            near = self.near(fault.path)
+            for run in self.slow:
+                if run.program not in within or (run.seconds >= FAR and run.program not in near):
+                    continue
                 if (status := self.test(run)) != 0:
                     return run.name + ("" if status else ", too long")
             return ""

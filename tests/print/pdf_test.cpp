@@ -178,7 +178,10 @@ TEST_F(PrintFiles, AnyPuzzlesInEveryFormat) {
   EXPECT_NE(printed.err.find("puzzles:7: "), std::string::npos) << printed.err;
   EXPECT_TRUE(folder_.Get("pages-1.png").starts_with("\x89PNG") && folder_.Get("pages-2.png").size() > 1000);
   print("one.svg", {"--pages=1", "--from=5"});
-  EXPECT_NE(folder_.Get("one.svg").find("<svg"), std::string::npos);
+  const std::string drawing = folder_.Get("one.svg");
+  for (const char* line : {"stroke-width[:=]\"?48\\b", "stroke-width[:=]\"?12\\b"}) {
+    EXPECT_TRUE(std::regex_search(drawing, std::regex(line))) << line;
+  }
   EXPECT_TRUE(RunWith({"print", "--output=-", folder_.Path("puzzles")}).out.starts_with("%PDF"));
   // Neither what is read nor a stock is written over, under whatever name.
   const Bytes bytes = EncodeStock(StockToPrint());
