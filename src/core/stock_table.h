@@ -54,11 +54,8 @@ constexpr int DigitAt(const DigitGrid& grid, int cell) {
 DigitGrid SafeDigits(const DigitGrid& grid);
 
 // The best time in seconds, minutes x 60 + seconds; negative only when the record holds nonsense.
-constexpr std::int32_t BestTime(int minutes, int seconds) {
-  return minutes * 60 + seconds;
-}
 constexpr std::int32_t BestTime(const SudokuRecord& record) {
-  return BestTime(record.BestMinutes, record.BestSeconds);
+  return record.BestMinutes * 60 + record.BestSeconds;
 }
 
 // What can be wrong with a record by itself, without looking for other solutions or rating it.

@@ -6,7 +6,8 @@
 namespace kestrel {
 
 bool IsNewBestTime(const OpenPuzzle& puzzle, std::int32_t seconds) {
-  const std::int32_t old = BestTime(puzzle.PuzzleBestMinutes, puzzle.PuzzleBestSeconds);
+  const std::int32_t old =
+      BestTime({.BestMinutes = puzzle.PuzzleBestMinutes, .BestSeconds = puzzle.PuzzleBestSeconds});
   return old == 0 || (old > 0 && seconds < old);
 }
 
