@@ -240,6 +240,8 @@ def main():
         drawn = [fault for path in sorted(paths) for fault in faults_of(path)]
         random.Random(int(sys.argv[2])).shuffle(drawn)
         print(f"{len(drawn)} faults can be planted; {count} are drawn by chance from seed {sys.argv[2]}", flush=True)
+    state = subprocess.run(["git", "describe", "--always", "--dirty"], check=True, capture_output=True, text=True)
+    print(f"The tree is {state.stdout.strip()}", flush=True)
     names = [str(n) for n in range(int(os.environ.get("WORKERS", os.cpu_count() or 1)))]
     waiting = queue.SimpleQueue()
     for fault in drawn:
