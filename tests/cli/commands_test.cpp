@@ -109,7 +109,7 @@ TEST(RateAndSolve, AgreeWithThePlainSolver) {
             "\tZW\tER\tJF\tgrid\tsolutions");
   ASSERT_TRUE(rated.size() == 301 && traces.size() == 300);
   constexpr std::array<int, kTechniques> kCounters{0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10,
-                                          11, 14, 15, 12, 13, 16, 17, 18, 19, 21, 20};
+                                                   11, 14, 15, 12, 13, 16, 17, 18, 19, 21, 20};
   std::set<std::string> levels;
   std::size_t next = 0;
   for (std::size_t i = 0; i < traces.size(); ++i) {
