@@ -12,6 +12,7 @@
 #include "cli/progress.h"
 #include "cli/rating_text.h"
 #include "cli/stock_path.h"
+#include "core/text.h"
 #include "formats/puzzle_writer.h"
 #include "stock/stock_check.h"
 
