@@ -21,4 +21,4 @@ target_compile_options(
             $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
             $<$<BOOL:${KESTREL_WERROR}>:-Werror>)
 # Assertions of the kind "cannot happen" in the standard library's containers stay on in release builds, too.
-target_compile_definitions(kestrel_options INTERFACE $<$<CONFIG:Release,Debug>:_GLIBCXX_ASSERTIONS>)
+target_compile_definitions(kestrel_options INTERFACE _GLIBCXX_ASSERTIONS)
