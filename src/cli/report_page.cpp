@@ -48,7 +48,7 @@ svg rect, svg circle { fill: var(--c); }
 .wide { overflow-x: auto; }
 table { border-collapse: collapse; width: 100%; font-variant-numeric: tabular-nums; }
 th, td { padding: .35rem .6rem; text-align: right; border-bottom: 1px solid var(--line); white-space: nowrap; }
-th { color: var(--soft); font-weight: 600; font-size: .85rem; }
+th { color: var(--soft); font-weight: 600; font-size: .85rem; white-space: normal; vertical-align: bottom; }
 th:first-child, td:first-child { text-align: left; }
 @media print { section { break-inside: avoid; } }
 )";
