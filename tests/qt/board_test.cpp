@@ -62,20 +62,6 @@ TEST(Board, GivesTheOverlapToTheLaterMark) {
   EXPECT_EQ(play.Digit(), 2);
 }
 
-TEST(Board, DiscardsWithTheRightButtonFromMediumOn) {
-  Play easy(2);
-  easy.game.Click(easy.middle, Qt::RightButton);
-  EXPECT_EQ(easy.Steps(), 0);
-
-  Play medium(3);
-  medium.game.Click(medium.middle, Qt::RightButton);
-  EXPECT_FALSE(medium.game.Main().Mark(medium.digit)(medium.cell).visible);
-  EXPECT_EQ(medium.Steps(), 1);
-  // A hidden mark gets nothing.
-  medium.game.Click(medium.middle);
-  EXPECT_EQ(medium.Steps(), 1);
-}
-
 TEST(Board, KeepsTheFirstPressWhileAnyButtonIsDown) {
   Play play(3);
   play.game.Press(play.middle, Qt::MiddleButton);
@@ -86,18 +72,6 @@ TEST(Board, KeepsTheFirstPressWhileAnyButtonIsDown) {
   play.game.Release(play.middle, Qt::MiddleButton);
   EXPECT_EQ(play.Steps(), 1);
   EXPECT_EQ(play.game.State().headers.SelectedRow, 9);
-}
-
-TEST(Board, SelectsHeadersOnlyWhileNoPuzzleIsOpen) {
-  QtGame game;
-  game.ClickMark(40, 5);
-  EXPECT_EQ(game.State().play.history.StepCount(), 0);
-  const QPoint header = QtGame::Corner(game.Main().LabelRow(2)) + QPoint(17, 17);
-  game.Press(header);
-  game.Release(header + QPoint(17, 0));
-  EXPECT_EQ(game.State().headers.SelectedRow, 9);
-  game.Click(header);
-  EXPECT_EQ(game.State().headers.SelectedRow, 2);
 }
 
 TEST(Board, ShowsWhatCanBeClicked) {
@@ -136,27 +110,6 @@ TEST(Board, PaintsOnlyWhatChanged) {
   play.game.clock.now += 61;
   EXPECT_TRUE(play.game.WaitFor([&] { return play.game.Main().LabelTijd.caption == "01:01"; }));
   EXPECT_TRUE(watch.painted.isEmpty());
-}
-
-// The state that makes board and clock look solved, and where it must not be.
-TEST(Board, KnowsHowAPuzzleEnded) {
-  Play play(1);
-  const auto fill = [&](int shift) {
-    const int cell = play.game.EmptyCell();
-    play.game.ClickMark(cell, (play.game.SolutionOf(cell) + shift - 1) % 9 + 1);
-  };
-  fill(1);
-  while (play.game.EmptyCell() >= 0) fill(0);
-  EXPECT_EQ(play.game.Main().end, PuzzleEnd::None);  // full, but wrong
-  while (play.Steps() > 0) play.game.ClickControl("CommandUndo");
-  while (play.game.EmptyCell() >= 0) fill(0);
-  EXPECT_EQ(play.game.Main().end, PuzzleEnd::Solved);
-  EXPECT_TRUE(play.game.Main().filled_in.Empty());
-  play.game.ClickControl("CommandNew");
-  EXPECT_EQ(play.game.Main().end, PuzzleEnd::None);
-  play.game.ClickControl("CommandSolution");
-  EXPECT_EQ(play.game.Main().end, PuzzleEnd::Revealed);
-  EXPECT_FALSE(play.game.Main().filled_in.Empty());
 }
 
 TEST(Board, FollowsTheViewMenuAtOnce) {

@@ -105,65 +105,42 @@ TEST(Records, ShadesCanBeRead) {
   }
 }
 
-TEST(Dialogs, PlayersAreTypedAndChosen) {
+// What the recorded games cannot do: keys with nothing selected, and texts that must not be cut.
+TEST(Dialogs, PlayersAnswerToKeys) {
   QtGame game;
   game.Expect([&game](QWidget& dialog) {
     FormNamen& form = game.Controls().names;
     auto* list = dialog.findChild<QListWidget*>("Naamlijst");
     auto* field = dialog.findChild<QLineEdit*>("NaamInvoerveld");
     EXPECT_EQ(dialog.focusWidget(), list);
-    game.ClickControl("KnopNieuweSpeler");
-    EXPECT_EQ(dialog.focusWidget(), field);
-    game.Expect([&dialog](QWidget& box) {
-      EXPECT_EQ(box.parentWidget(), &dialog);
-      EXPECT_EQ(box.windowTitle(), "Loss of memory ?");
-      PressCaption(box, "OK");
-    });
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(game.StillExpected(), 0U);
-    Type(*field, "A name that is too long");
-    EXPECT_EQ(form.NaamInvoerveld.text, "A name that is t");
-    // While a name is typed, Escape belongs to the box, and so does Enter.
+    for (int i = 0; i < 2; ++i) {
+      game.ClickControl("KnopNieuweSpeler");
+      EXPECT_EQ(dialog.focusWidget(), field);
+      Type(*field, "Ann");
+      if (i == 1) {
+        game.Expect([&dialog](QWidget& box) {
+          EXPECT_EQ(box.parentWidget(), &dialog);
+          const auto* text = box.findChild<QLabel*>("qt_msgbox_label");
+          EXPECT_EQ(text->text().count('\n'), 3);
+          EXPECT_GE(text->height(), text->sizeHint().height()) << "lines are cut";
+          PressCaption(box, "OK");
+        });
+      }
+      QTest::keyClick(field, Qt::Key_Return);
+    }
     QTest::keyClick(field, Qt::Key_Escape);
-    EXPECT_TRUE(dialog.isVisible());
-    EXPECT_EQ(field->text(), "");
-    game.ClickControl("KnopNieuweSpeler");
-    Type(*field, "Zo");
-    QTest::sendKeyEvent(QTest::Click, field, Qt::Key_Ediaeresis, QString::fromUtf8("\u00eb"), Qt::NoModifier);
-    QTest::keyClick(field, Qt::Key_Return);
-    ASSERT_EQ(list->count(), 1);
-    game.ClickControl("KnopNieuweSpeler");
-    field->setText(list->item(0)->text());
-    emit field->textEdited(field->text());
-    game.Expect([](QWidget& box) {
-      const auto* text = box.findChild<QLabel*>("qt_msgbox_label");
-      EXPECT_EQ(text->text().count('\n'), 3);
-      EXPECT_GE(text->height(), text->sizeHint().height()) << "lines are cut";
-      PressCaption(box, "OK");
-    });
-    QTest::keyClick(field, Qt::Key_Return);
-    QTest::keyClick(field, Qt::Key_Escape);
-    // With nothing selected, each of these keys chooses the only player.
     for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Home, Qt::Key_Up, Qt::Key_End}) {
       list->clearSelection();
       EXPECT_FALSE(form.KnopOK.enabled);
       QTest::keyClick(list, key);
       EXPECT_TRUE(form.KnopOK.enabled && form.Naamlijst.index == 0) << key;
     }
-    list->clearSelection();
-    const QPoint line = list->visualItemRect(list->item(0)).center();
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, line);
-    EXPECT_TRUE(form.KnopOK.enabled);
-    QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, line);
+    // Escape is the cancel button's again.
+    QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
   });
   game.ClickControl("cmdPlayers");
-  EXPECT_EQ(game.State().players.CurrentPlayer, 1);
-  EXPECT_EQ(game.Window().windowTitle(), QString::fromUtf8("Kestrel Sudoku - Zo\u00eb is playing"));
-  // Escape is the cancel button's again.
-  game.Expect([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-  game.ClickControl("cmdPlayers");
-  EXPECT_EQ(game.State().players.CurrentPlayer, 1);
+  EXPECT_EQ(game.StillExpected(), 0U);
 }
 
 TEST(Dialogs, PrintChoicesAnswerToKeysAndMouse) {
