@@ -17,20 +17,8 @@
 namespace kestrel::testing {
 namespace {
 
-void SendToNewGame(const Event& event) {
-  GameHome home;
-  SystemCalls calls;
-  HostFiles files(calls);
-  NeverStop yield;
-  std::istringstream script;
-  std::ostringstream output;
-  ScriptRunner(home.options, files, yield, script, output, output).PlayedGame().Handle(event);
-}
-
 TEST(StatusBar, AveragesAreRoundedDown) {
   StockTable stock;
-  EXPECT_EQ(TimesOfLevel(stock, 1).best, 0);
-  EXPECT_EQ(TimesOfLevel(stock, 1).average, 0);
   stock(1, 5).BestMinutes = 125;
   stock(1, 5).BestSeconds = 5;
   stock(1, 100).BestSeconds = 30;
@@ -106,37 +94,6 @@ TEST(Game, ShowsForeignRecords) {
   EXPECT_TRUE(played.Has("StatusBar(3).caption = \"Best Time: 00:00 (No Best Time Yet)\""));
   EXPECT_TRUE(played.Has("PuzzleLevel = 9"));
   EXPECT_TRUE(played.Has("StepCount = 1"));
-}
-
-// Solved before the clock has ticked: the time is 0:00, which is shown now and counts as none later.
-TEST(Game, TakesATimeOfZero) {
-  GameHome home;
-  const std::string ask = "get StatusBar(3).caption\n";
-  const Played played = home.Play(std::string(kAnnPlays) + "press CommandNew\n" + FillIn(2, 1) +
-                                  "answer OK\n" + ask + "press CommandOpen\nanswer 1\n" + ask);
-  EXPECT_TRUE(played.Has("StatusBar(3).caption = \"Best Time: 00:00 by Ann\""));
-  EXPECT_TRUE(played.Has("StatusBar(3).caption = \"Best Time: 00:00 (No Best Time Yet)\""));
-}
-
-// A control that no dispatcher knows ends the program, whatever form it is on.
-TEST(GameDeathTest, KnowsEveryControl) {
-  for (const FormId form : {FormId::Main, FormId::Names, FormId::Print}) {
-    for (const EventKind kind : {EventKind::Click, EventKind::DoubleClick, EventKind::Release,
-                                 EventKind::Change, EventKind::Key, EventKind::Timer}) {
-      EXPECT_DEATH(SendToNewGame({.form = form, .control = {"NewButton"}, .kind = kind}), "check");
-    }
-  }
-}
-
-// A stock that the user has is not replaced by the one that comes with the program.
-TEST(Game, KeepsTheUsersStock) {
-  GameHome home;
-  StockTable stock = MakeTestStock();
-  stock(1, 1).Score = 77;
-  home.PutStock(stock);
-  home.Play("");
-  EXPECT_EQ(home.Stock()(1, 1).Score, 77);
-  EXPECT_EQ(home.Stock()(5, 100), stock(5, 100));
 }
 
 }  // namespace

@@ -63,15 +63,6 @@ TEST(FindHint, HasNothingToSay) {
   EXPECT_EQ(Find(puzzle), 0);
 }
 
-// Only what the player shows counts: a naked single is one when the other marks were removed.
-TEST(FindHint, GoesByThePlayersMarks) {
-  OpenPuzzle puzzle = Opened(kHard, 3);
-  puzzle.PencilMask.fill(kAllDigits);
-  puzzle.CurrentDigits.fill(0);
-  puzzle.PencilMask[30] = DigitBit(puzzle.SolutionDigits[30]);
-  EXPECT_EQ(Find(puzzle), 2);
-}
-
 // Following the hints leads through the puzzle as the rating went, and the player's board is never touched.
 TEST(FindHint, AgreesWithTheRatingStepByStep) {
   RandomSource random(11);

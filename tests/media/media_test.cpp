@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "host/host_files.h"
-#include "media/sounds.h"
 #include "media/web_link.h"
 #include "support/temp_folder.h"
 #include "ui/memory/recording_ports.h"
@@ -33,62 +32,21 @@ class Listener final : public Asker {
   LineList& lines_;
 };
 
-// A device that takes every second file, and gives ids of its own.
-class PickyDevice final : public SoundDevice {
- public:
-  bool Open() override { return opens; }
-  std::int32_t Load(std::string_view path) override {
-    paths.emplace_back(path);
-    return paths.size() % 2 == 0 ? -1 : static_cast<std::int32_t>(100 * paths.size());
-  }
-  void Play(std::int32_t id) override { played.push_back(id); }
-  bool opens = true;
-  std::vector<std::string> paths;
-  std::vector<std::int32_t> played;
-};
-
-TEST(Sounds, PlayWhatCouldBeLoadedAndIsWanted) {
-  PickyDevice device;
-  Sounds sounds(device);
-  sounds.SoundOn = true;
-  sounds.Speel(Sound::Assign);  // before anything was opened
-  sounds.Init_Sound("/p\\");
-  EXPECT_TRUE(sounds.SoundAvailable());
-  EXPECT_EQ(device.paths.size(), 10);
-  EXPECT_EQ(device.paths.front(), "/p\\Applause.wav");
-  EXPECT_EQ(device.paths.back(), "/p\\Giggle.wav");
-  sounds.Speel(Sound::Assign);
-  sounds.Speel(Sound::Discard);
-  sounds.SoundOn = false;
-  sounds.Speel(Sound::Applause);
-  EXPECT_EQ(device.played, std::vector<std::int32_t>{300});
-  device.opens = false;
-  sounds.Init_Sound("/p\\");
-  sounds.SoundOn = true;
-  sounds.Speel(Sound::Assign);
-  EXPECT_FALSE(sounds.SoundAvailable());
-  EXPECT_EQ(device.paths.size() + device.played.size(), 11);
-}
-
 // The temporary file is gone in every case, and a folder that takes none does not stop the link.
 TEST(WebLink, ReportsWhatFails) {
-  struct Case {
-    bool has_browser, starts;
-    std::string line;
-  };
-  const std::vector<Case> cases = {{true, true, "shell " + std::string(kWebSite)},
-                                   {true, false, "URL Failed: Web Page not Opened"},
-                                   {false, true, "Browser Not Found: Could not find associated Browser"}};
   SystemCalls calls;
   HostFiles files(calls);
-  for (const Case& test : cases) {
+  for (const auto& [has_browser, starts, line] :
+       {std::tuple{true, true, "shell " + std::string(kWebSite)},
+        {true, false, "URL Failed: Web Page not Opened"},
+        {false, true, "Browser Not Found: Could not find associated Browser"}}) {
     for (const bool writable : {true, false}) {
       const TempFolder folder;
       LineList lines;
       Listener asker(lines);
-      MemoryShell shell(test.has_browser, test.starts, lines);
+      MemoryShell shell(has_browser, starts, lines);
       OpenWebSite(kWebSite, writable ? folder.Written() : folder.Written("gone\\"), files, shell, asker);
-      EXPECT_EQ(lines.lines, std::vector{test.line});
+      EXPECT_EQ(lines.lines, std::vector{line});
       EXPECT_EQ(folder.Count(), 0);
     }
   }

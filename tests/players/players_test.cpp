@@ -4,30 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <map>
 
-#include "players/best_time.h"
 #include "players/records.h"
+#include "support/map_settings.h"
 
 namespace kestrel {
 namespace {
 
-class MapSettings final : public Settings {
- public:
-  std::string Read(std::string_view section, std::string_view key, std::string_view fallback) override {
-    ++reads;
-    const auto value = values.find(std::string(section) + "/" + std::string(key));
-    return value == values.end() ? std::string(fallback) : value->second;
-  }
-  bool Write(std::string_view section, std::string_view key, std::string_view value) override {
-    values[std::string(section) + "/" + std::string(key)] = value;
-    return true;
-  }
-  std::map<std::string, std::string> values;
-  int reads = 0;
-};
-
-Players Load(MapSettings& settings) {
+Players Load(testing::MapSettings& settings) {
   Players players;
   FormNamen form = MakeFormNamen();
   players.Setup_Players(settings, form);
@@ -35,28 +19,8 @@ Players Load(MapSettings& settings) {
   return players;
 }
 
-TEST(Players, AreSavedAndLoaded) {
-  MapSettings settings;
-  Players players = Load(settings);
-  EXPECT_EQ(players.PlayerCount(), 0);
-  players.Add("Ann");
-  players.Add("A name of more than sixteen characters");
-  players.Rename(1, "Z\xC3\xA9no\xC3\xAB");
-  players.CurrentPlayer = 2;
-  players.SavePlayers(settings);
-  players.SaveLastPlayer(settings);
-  EXPECT_EQ(settings.values.at("Players/Player01"), "Z\xC3\xA9no\xC3\xAB           ");
-  EXPECT_EQ(settings.values.at("Players/Player02"), "A name of more t");
-  const Players again = Load(settings);
-  EXPECT_EQ(again.PlayerCount(), 2);
-  EXPECT_EQ(again.CurrentPlayer, 2);
-  EXPECT_EQ(again.Name(1), "Z\xC3\xA9no\xC3\xAB");
-  EXPECT_EQ(again.Name(0), "");
-  EXPECT_EQ(again.Name(3), "");
-}
-
 TEST(Players, SurviveTamperedSettings) {
-  MapSettings settings;
+  testing::MapSettings settings;
   for (const char* count : {"-1", "two", "", "99999", "1.5"}) {
     settings.values = {{"Players/Count", count}, {"Players/Last_Player", "1"}};
     const Players players = Load(settings);
@@ -76,7 +40,7 @@ TEST(Players, SurviveTamperedSettings) {
 }
 
 TEST(Records, AreWeighedWithinTheirLevel) {
-  MapSettings settings;
+  testing::MapSettings settings;
   Players players = Load(settings);
   players.Add("Ann");
   players.Add("Bob");
@@ -100,23 +64,6 @@ TEST(Records, AreWeighedWithinTheirLevel) {
   // A player of another home.
   put(3, 200, 9);
   EXPECT_EQ(texts::PuzzleRecordText(RecordsOf(stock, players, 2), 3), "Number 3: 03:20 by somebody else");
-}
-
-TEST(BestTime, IsBetterThanTheOld) {
-  OpenPuzzle puzzle;
-  EXPECT_TRUE(IsNewBestTime(puzzle, 0));
-  puzzle.PuzzleBestMinutes = 3;
-  puzzle.PuzzleBestSeconds = 7;
-  EXPECT_FALSE(IsNewBestTime(puzzle, 187));
-  EXPECT_TRUE(IsNewBestTime(puzzle, 186));
-  puzzle.PuzzleBestMinutes = -3;
-  EXPECT_FALSE(IsNewBestTime(puzzle, 0));
-  SudokuRecord record;
-  EnterBestTime(record, puzzle, 6001, 4);
-  EXPECT_EQ(record.BestMinutes, 100);
-  EXPECT_EQ(record.BestSeconds, 1);
-  EXPECT_EQ(record.BestPlayer, 4);
-  EXPECT_EQ(puzzle.PuzzleBestMinutes, 100);
 }
 
 }  // namespace

@@ -77,47 +77,6 @@ TEST(PageLayout, EveryKindOfPageHasItsTextsApart) {
   }
 }
 
-TEST(PageLayout, DrawsInOrderAtExactPlaces) {
-  StockTable stock;
-  SudokuRecord& record = stock(2, 30);
-  record.GivenCells = {7, 200};  // no digit: an empty cell
-  record.SolutionCells.fill(5);
-  record.TechniqueCount = {30, 107, 0, 2};
-  const std::vector<Drawn> page = PrintOnePage(stock, {.per_page = 4, .first_number = 29, .level_index = 1});
-  std::size_t i = 0;
-  const auto expect = [&](std::string_view text, int left, int top, std::size_t pass_over = 0) {
-    const Drawn& one = page.at(i);
-    EXPECT_TRUE(one.text == text && one.left == left && one.top == top)
-        << i << ' ' << one.text << ' ' << one.left << ' ' << one.top;
-    i += 1 + pass_over;
-  };
-  expect("Kestrel Sudoku", 250, 250);
-  expect("Easy", 1710, 250);
-  // The grid: its frame, then line by line across and down; Int(700 / 9) = 77.
-  expect("#", 250, 350);
-  expect("-", 250, 427);
-  expect("-", 327, 350, 14 + 81 * 9);  // nothing is given here
-  expect("# 29", 886, 1092);
-  expect("#", 250, 1100, 16);
-  // Puzzle 30: a given of 35 x 76 in the middle of its cell; marks of 10 x 21 in the second one, without 7.
-  expect("#", 1150, 350, 16);
-  expect("7", 1171, 351);
-  expect("1", 1240, 354, 1);
-  expect("3", 1284, 354);
-  expect("4", 1240, 378, 2);
-  expect("8", 1262, 403);
-  while (page.at(i).text != "# 30") ++i;
-  expect("# 30", 1786, 1092);
-  // Naked before hidden singles, two digits, no line for what was not needed.
-  expect("NS 07", 1866, 350);
-  expect("HS 30", 1866, 384);
-  expect("BL 02", 1866, 418);
-  expect("#", 1150, 1100, 16);
-  expect("5", 1166, 1110);
-  i = page.size() - 1;
-  expect("Page 1", 1640, 2644);
-}
-
 // A printer that breaks down in the middle of a page skips what it cannot do, and the job goes on to its end.
 TEST(PageLayout, ABrokenPrinterDoesNotStopTheJob) {
   class BrokenPage final : public RecordingPage {

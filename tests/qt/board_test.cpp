@@ -116,10 +116,8 @@ TEST(Board, FollowsTheViewMenuAtOnce) {
   Play play(3);
   ViewChoices& choices = play.game.front_end.Choices();
   choices.SetSize(150);
-  choices.SetColours(ColourChoice::Dark);
   play.game.Settle();
   EXPECT_EQ(play.game.Window().size(), QSize(1152, 987));
-  EXPECT_EQ(play.game.Window().palette().color(QPalette::Window), QColor(ColoursOf(Scheme::Dark).window));
   // A mark is where it is painted.
   const QPoint middle = (play.corner + QPoint(8, 8)) * 1.5;
   QTest::mouseMove(play.game.Window().windowHandle(), middle);
@@ -129,7 +127,6 @@ TEST(Board, FollowsTheViewMenuAtOnce) {
   play.game.Click(middle);
   EXPECT_EQ(play.Digit(), play.digit);
   choices.SetSize(100);
-  choices.SetColours(ColourChoice::Light);
 }
 
 }  // namespace

@@ -79,18 +79,6 @@ TEST(Look, EverythingCanBeSeenInEveryPalette) {
   }
 }
 
-// A colour that the game names is itself in the light palette, and of the same hue in all.
-TEST(Look, NamedColoursKeepTheirHue) {
-  for (const Colour named : {kRed, kLightYellow, kLightGreen, kLightCyan, kLightBlue, kLightRed, kDarkBlue}) {
-    const QColor light = ColoursOf(Scheme::Light).Of(named, 0);
-    EXPECT_EQ(light, ToQColor(named, 0));
-    EXPECT_NEAR(light.hue(), ColoursOf(Scheme::Dark).Of(named, 0).hue(), named == kDarkBlue ? 30 : 20);
-    // There the givens are yellow: blue cannot be bright.
-    if (named == kDarkBlue) continue;
-    EXPECT_NEAR(light.hue(), ColoursOf(Scheme::HighContrast).Of(named, 0).hue(), 20) << named;
-  }
-}
-
 // The fonts that stand in have the widths of those that are named.
 TEST(Look, FontsHaveTheWidthsOfThoseThatAreNamed) {
   const std::pair<std::string_view, int> kWidths[] = {

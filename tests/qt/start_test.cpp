@@ -21,6 +21,15 @@ TEST(Start, TakesAPicture) {
   }
 }
 
+// Dialogs open over it.
+TEST(Start, KnowsWhereTheWindowStands) {
+  QtGame game(3);
+  game.Window().move(37, 41);
+  game.Settle();
+  EXPECT_EQ(game.Main().window.left, 37 * 15);
+  EXPECT_EQ(game.Main().window.top, 41 * 15);
+}
+
 TEST(Start, SaysThatTheStockCannotBeRead) {
   QtGame game(QtGame::kNotStarted);
   std::filesystem::remove(game.program_folder.Path("sudstock.kpz"));

@@ -3,35 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
-#include <vector>
 
 #include "support/game_home.h"
 #include "ui/memory/json_string.h"
 #include "ui/memory/transcript.h"
-#include "ui/script/command_line.h"
 
 namespace kestrel::testing {
 namespace {
-
-TEST(ScriptCommandLine, IsTakenApart) {
-  const auto parse = [](std::vector<std::string> words, std::string_view error) {
-    std::string said;
-    auto command = ParseScriptArguments(words, "/data", said);
-    EXPECT_EQ(said, error);
-    return command.value_or(ScriptCommand());
-  };
-  const ScriptCommand full = parse({"--no-sound", "[x,y]", "--time=23:59:50", "--home=/h", "--seed",
-                                    "18446744073709551615", "--no-printer", "--no-browser"},
-                                   "");
-  EXPECT_EQ(full.script, "[x,y]");
-  EXPECT_EQ(full.options.time, 86390);
-  EXPECT_EQ(full.options.seed, UINT64_MAX);
-  EXPECT_FALSE(full.options.sound || full.options.printer || full.options.browser);
-  parse({}, "the folder to play in is missing, name it with '--home'");
-  parse({"--home=", "x"}, "option '--home' needs a value");
-  parse({"--home", "/h", "--time", "24:00:00"}, "option '--time' needs HH:MM:SS, not '24:00:00'");
-  EXPECT_TRUE(parse({"-h"}, "").help);
-}
 
 TEST(Script, EndsAtALineThatIsNoCommand) {
   // What each line is refused for; none of them does anything.
@@ -53,15 +31,6 @@ TEST(Script, EndsAtALineThatIsNoCommand) {
     EXPECT_TRUE(played.Has("echo one")) << line;
     EXPECT_FALSE(played.Has("echo five")) << line;
   }
-}
-
-TEST(Script, WrongAnswersEndItToo) {
-  GameHome home;
-  const Played quit = home.Play("window close\nanswer Maybe\necho on\n");
-  EXPECT_EQ(quit.status, 2);
-  EXPECT_FALSE(quit.Has("ended"));
-  EXPECT_FALSE(quit.Has("echo on"));
-  EXPECT_EQ(home.Play("window close\ncancel\n").status, 2);
 }
 
 TEST(Script, EndingInABoxLeavesTheGameAsItIs) {
