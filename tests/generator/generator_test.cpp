@@ -4,51 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
-
-#include "generator/random_order.h"
+#include "core/text.h"
 #include "generator/support.h"
 #include "support/test_puzzles.h"
 
 namespace kestrel {
 namespace {
-
-// The promise to whoever notes a seed: its puzzles do not change.
-TEST(Generator, FirstPuzzlesOfASeed) {
-  FixedSeeds seeds(1);
-  Generator generator(seeds);
-  NeverStop yield;
-  ASSERT_EQ(generator.MakeFullGrid(yield), Making::Made);
-  ASSERT_EQ(generator.MakePuzzle(yield), Making::Made);
-  EXPECT_EQ(TextOf(generator.SolutionGrid),
-            "981573426375624918246198357637259841154786293892431675728345169569812734413967582");
-  EXPECT_EQ(TextOf(generator.Givens),
-            "901070006000004008200198000607000041000000000890000605000345009500800000400060502");
-  ASSERT_EQ(generator.MakeFullGrid(yield), Making::Made);
-  ASSERT_EQ(generator.MakePuzzle(yield), Making::Made);
-  EXPECT_EQ(TextOf(generator.Givens),
-            "000900304007400010000031009000080030706000405020090000500270000060003500401006000");
-}
-
-TEST(Generator, ListsTakeTheirDrawsInPairs) {
-  RandomSource drawn(9);
-  RandomSource counted(9);
-  const CellList all = FullGridOrder(drawn);
-  CellList expected = CellsInOrder();
-  for (int i = 0; i < 500; ++i) {
-    const int first = static_cast<int>(81 * counted.Next());
-    std::swap(expected[first], expected[static_cast<int>(81 * counted.Next())]);
-  }
-  EXPECT_EQ(all, expected);
-  const CellList pairs = PairOrder(drawn);
-  for (int i = 0; i < 400; ++i) (void)counted.NextBits();
-  EXPECT_EQ(drawn.NextBits(), counted.NextBits());
-  CellList sorted = pairs;
-  std::sort(sorted.begin(), sorted.begin() + kPairs);
-  EXPECT_EQ(sorted, CellsInOrder());
-  EXPECT_NE(pairs, CellsInOrder());
-}
 
 TEST(Generator, PuzzlesAreSymmetricUniqueAndMinimalByPairs) {
   FixedSeeds seeds(42);
@@ -58,7 +19,7 @@ TEST(Generator, PuzzlesAreSymmetricUniqueAndMinimalByPairs) {
     ASSERT_EQ(generator.MakeFullGrid(yield), Making::Made);
     const DigitGrid& solution = generator.SolutionGrid;
     for (int cell = 0; cell < kCells; ++cell) {
-      ASSERT_EQ(FreeDigits(solution, cell), DigitBit(solution[cell])) << TextOf(solution);
+      ASSERT_EQ(FreeDigits(solution, cell), DigitBit(solution[cell])) << GridText(solution);
     }
     ASSERT_EQ(generator.MakePuzzle(yield), Making::Made);
     DigitGrid puzzle = generator.Givens;
@@ -69,7 +30,7 @@ TEST(Generator, PuzzlesAreSymmetricUniqueAndMinimalByPairs) {
       if (cell > 40 || puzzle[cell] == 0) continue;
       puzzle[cell] = puzzle[80 - cell] = 0;
       EXPECT_EQ(testing::CountFillings(puzzle, 2), 2)
-          << "cell " << cell << " of " << TextOf(generator.Givens);
+          << "cell " << cell << " of " << GridText(generator.Givens);
       puzzle = generator.Givens;
     }
   }

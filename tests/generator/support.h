@@ -2,8 +2,6 @@
 // What the generator's tests share.
 #pragma once
 
-#include <string>
-
 #include "core/grid.h"
 #include "core/yield.h"
 
@@ -18,18 +16,6 @@ class StopAt final : public Yield {
  private:
   int left_;
 };
-
-inline DigitGrid GridOf(const std::string& digits) {
-  DigitGrid grid{};
-  for (int cell = 0; cell < kCells; ++cell) grid[cell] = static_cast<std::uint8_t>(digits[cell] - '0');
-  return grid;
-}
-
-inline std::string TextOf(const DigitGrid& grid) {
-  std::string text;
-  for (const int digit : grid) text += static_cast<char>('0' + digit);
-  return text;
-}
 
 // The digits that no cell seeing `cell` has.
 inline CandidateMask FreeDigits(const DigitGrid& grid, int cell) {

@@ -51,36 +51,6 @@ TEST(SolverState, GivensGoInAsIfPlacedOneByOne) {
   }
 }
 
-TEST(SolverState, PlacesAndRemovesOnlyWhatItSays) {
-  SolverState state;
-  EXPECT_TRUE(state.RemoveCandidate(5, 40));
-  EXPECT_FALSE(state.RemoveCandidate(5, 40)) << "gone already";
-  state.PlaceValue(7, 0);
-  EXPECT_FALSE(state.RemoveCandidate(3, 0)) << "a solved cell has no candidates";
-  EXPECT_EQ(state.CellMask(0), 0);
-  for (int cell = 1; cell < kCells; ++cell) {
-    EXPECT_EQ(state.CandidateFlag(6, cell), !kUnitTables.peers[0].Has(cell)) << cell;
-  }
-  state.PlaceValue(8, 0);
-  EXPECT_EQ(state.CellValue(0), 8) << "a cell may be overwritten";
-  for (int cell = 0; cell < kCells; ++cell) state.PlaceValue(1, cell);
-  EXPECT_TRUE(state.Solved());
-}
-
-TEST(TechniqueTable, ScoresWithTheTechniquesOfTheLevelOnly) {
-  TechniqueCounters counters;
-  counters.fill(1);
-  const std::array<std::int32_t, 8> expected{0, 3, 9, 42, 105, 192, 0, 0};
-  for (int level = 0; level < 8; ++level) EXPECT_EQ(PuzzleScore(level, counters), expected[level]) << level;
-  // Counters whose place in the order of trial differs.
-  for (const auto& [counter, weight] :
-       {std::pair{12, 12}, {13, 13}, {14, 10}, {15, 11}, {20, 17}, {21, 16}}) {
-    counters.fill(0);
-    counters[counter] = 100;
-    EXPECT_EQ(PuzzleScore(5, counters), 100 * weight) << counter;
-  }
-}
-
 TEST(Driver, AsksTheYieldBeforeEveryStepAndStopsAtItsWord) {
   const DigitGrid easy = SignaturePuzzles().front();
   DigitGrid solution{};

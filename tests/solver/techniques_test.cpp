@@ -77,29 +77,6 @@ TEST(Techniques, DoOnHandMadePositionsWhatTheyShould) {
   }
 }
 
-// Rows and columns exchanged, every technique must find the same pattern in the mirror, where its order of
-// search allows only one.
-TEST(Techniques, FindTheSameInTheMirroredPosition) {
-  const auto mirrored = [](int cell) { return RowCell[CellCol[cell]][CellRow[cell]]; };
-  for (const HandMade& made : kPositions) {
-    if (made.technique < T::PointingPair) continue;
-    SCOPED_TRACE(std::string(RowOf(made.technique).caption) + ": " + made.marks);
-    const Position position(made.marks, made.background);
-    Position mirror("");
-    for (int cell = 0; cell < kCells; ++cell) {
-      mirror.marks[mirrored(cell)] = position.marks[cell];
-      mirror.digits[mirrored(cell)] = position.digits[cell];
-    }
-    SolverState direct = position.State();
-    SolverState turned = mirror.State();
-    Apply(direct, made.technique);
-    Apply(turned, made.technique);
-    for (int cell = 0; cell < kCells; ++cell) {
-      EXPECT_EQ(turned.CellMask(mirrored(cell)), direct.CellMask(cell)) << CellName(cell);
-    }
-  }
-}
-
 std::string FirstOf(Technique technique, const char* marks, const char* background = "") {
   const Position position(marks, background);
   SolverState state = position.State();

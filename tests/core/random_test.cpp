@@ -1,35 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The tables of the grid, and the random numbers that must never change.
-#include "core/grid.h"
+// The random numbers that must never change, and the clocks.
+#include "core/random_source.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "core/random_source.h"
 #include "host/host_clock.h"
 
 namespace kestrel {
 namespace {
-
-TEST(Grid, EveryUnitTableHoldsEveryCellOnce) {
-  std::multiset<int> rows, boxes;
-  for (int i = 0; i < 9; ++i) {
-    for (int k = 0; k < 9; ++k) {
-      rows.insert(RowCell[i][k]);
-      boxes.insert(BoxCell[i][k]);
-      EXPECT_TRUE(CellRow[RowCell[i][k]] == i && CellCol[RowCell[k][i]] == i && CellBox[BoxCell[i][k]] == i);
-      EXPECT_TRUE(k == 0 || BoxCell[i][k] > BoxCell[i][k - 1]) << "boxes are listed row by row";
-    }
-  }
-  for (int cell = 0; cell < kCells; ++cell) {
-    EXPECT_TRUE(rows.count(cell) == 1 && boxes.count(cell) == 1);
-    EXPECT_EQ(RowColBox[CellRow[cell]][CellCol[cell]], CellBox[cell]);
-    EXPECT_EQ(BoxStart[CellBox[cell]], CellBoxStart[cell]);
-    EXPECT_EQ(CellBoxStart[cell], BoxCell[CellBox[cell]][0]);
-  }
-  EXPECT_EQ(BitCount[0b101100001], 4);
-}
 
 // Puzzles are promised by seed, so these numbers are part of what users rely on.
 TEST(Random, SequencesAreThoseOfThePublishedGenerators) {
