@@ -11,19 +11,12 @@
 #include "core/stock_file.h"
 #include "support/faulty_calls.h"
 #include "support/temp_folder.h"
+#include "support/test_stock.h"
 
 namespace kestrel {
 namespace {
 
 const std::string kShipped = KESTREL_SOURCE_DIR "/data/sudstock.kpz";
-
-StockTable ReadShipped() {
-  SystemCalls calls;
-  HostFiles files(calls, PathForm::kHost);
-  StockTable stock;
-  EXPECT_TRUE(ReadStockFile(files, kShipped, stock));
-  return stock;
-}
 
 void Save(const StockTable& stock, const TempFolder& folder, std::string_view name) {
   const Bytes bytes = EncodeStock(stock);
@@ -63,7 +56,7 @@ TEST(StockNew, IsRepeatableAndVerified) {
 
 TEST(StockVerify, TellsThatTheFileIsShort) {
   TempFolder folder;
-  Save(ReadShipped(), folder, "stock");
+  Save(testing::ShippedStock(), folder, "stock");
   folder.Put("stock", folder.Get("stock").substr(0, 110'900));
   const CliResult result = RunWith({"stock", "verify", folder.Path("stock")});
   EXPECT_EQ(result.status, 1);
@@ -95,7 +88,7 @@ TEST(StockExport, LinesCanBeRatedAgain) {
   EXPECT_EQ(RunWith({"stock", "list"}).status, 2);
   // A damaged stock shows only the levels that make sense; what is no stock at all shows nothing.
   TempFolder folder;
-  StockTable stock = ReadShipped();
+  StockTable stock = testing::ShippedStock();
   stock(3, 9).GivenCells[0] = 77;
   Save(stock, folder, "damaged");
   folder.Put("junk", std::string(50'000, '\xFE'));
@@ -134,7 +127,7 @@ INSTANTIATE_TEST_SUITE_P(Stock, StockChange,
 
 // The stock is wholly old or wholly new, and new when that was said.
 TEST_P(StockChange, AnyCallMayFailOrBeTheLast) {
-  StockTable hurt = ReadShipped();
+  StockTable hurt = testing::ShippedStock();
   if (GetParam().command == "import") puzzles_ = RunWith({"generate", "--count", "20", "--seed", "9"}).out;
   if (GetParam().command == "repair") hurt(1, 50) = SudokuRecord{};
   Save(hurt, folder_, "stock");
@@ -167,7 +160,7 @@ TEST_P(StockChange, AnyCallMayFailOrBeTheLast) {
 
 TEST(StockImport, KeepsTimesThatAreSetMeanwhileAndWritesNothingWhenDry) {
   TempFolder folder;
-  StockTable stock = ReadShipped();
+  StockTable stock = testing::ShippedStock();
   stock(1, 3).BestMinutes = 4;
   Save(stock, folder, "stock");
   const std::string before = folder.Get("stock");
@@ -188,7 +181,7 @@ TEST(StockImport, KeepsTimesThatAreSetMeanwhileAndWritesNothingWhenDry) {
 
 TEST(Report, IsOnePageThatIsValid) {
   TempFolder folder;
-  StockTable stock = ReadShipped();
+  StockTable stock = testing::ShippedStock();
   stock(4, 3).BestMinutes = 71;
   Save(stock, folder, "<&\">.kpz");
   folder.Put("puzzles", RunWith({"generate", "--count", "50", "--seed", "3"}).out);

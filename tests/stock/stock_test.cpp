@@ -7,24 +7,16 @@
 #include <set>
 
 #include "core/stock_file.h"
-#include "host/host_files.h"
 #include "stock/stock_check.h"
 #include "stock/stock_doubt.h"
 #include "stock/stock_import.h"
 #include "stock/stock_maker.h"
 #include "stock/stock_repair.h"
 #include "support/test_puzzles.h"
+#include "support/test_stock.h"
 
 namespace kestrel {
 namespace {
-
-StockTable ReadShipped() {
-  SystemCalls calls;
-  HostFiles files(calls, PathForm::kHost);
-  StockTable stock;
-  EXPECT_TRUE(ReadStockFile(files, KESTREL_SOURCE_DIR "/data/sudstock.kpz", stock));
-  return stock;
-}
 
 bool IsSound(const StockTable& stock) {
   return CheckStock(stock, 2, [](int) {}).empty();
@@ -71,7 +63,7 @@ TEST(ChooseStock, SpreadsTheScoresAndKeepsRareTechniques) {
 
 // Everything that can be wrong with a stock, planted in one: just these faults are found.
 TEST(CheckStock, FindsEveryPlantedFault) {
-  StockTable stock = ReadShipped();
+  StockTable stock = testing::ShippedStock();
   const auto first_given = [&](int level, int number) -> std::uint8_t& {
     return *std::ranges::find_if(stock(level, number).GivenCells, [](int digit) { return digit != 0; });
   };
@@ -124,7 +116,7 @@ TEST(CheckStock, FindsEveryPlantedFault) {
 // Damage of every kind, with and without an older copy: what is good stays in its place, byte by byte.
 TEST(RepairStock, KeepsWhatIsGoodAndReplacesTheRest) {
   const StockTable whole = [] {
-    StockTable stock = ReadShipped();
+    StockTable stock = testing::ShippedStock();
     for (int number = 1; number <= kPuzzlesPerLevel; ++number) {
       stock(3, number).BestMinutes = static_cast<std::int16_t>(number);
       stock(3, number).BestPlayer = 2;
@@ -189,7 +181,7 @@ class ImportTest : public ::testing::Test {
   void Take(StockImport& import, const DigitGrid& givens) {
     import.Take("line " + std::to_string(++line_), givens, judge_.Judge(givens));
   }
-  StockTable stock_ = ReadShipped();
+  StockTable stock_ = testing::ShippedStock();
   RandomSource random_{4};
   PuzzleJudge judge_;
   std::vector<DigitGrid> others_;  // Easy puzzles that are not in the stock
@@ -241,23 +233,23 @@ TEST_F(ImportTest, SpreadsTooManyOverTheirScores) {
 }
 
 TEST(StockDoubt, TellsStocksFromOtherFiles) {
-  const Bytes whole = EncodeStock(ReadShipped());
+  const Bytes whole = EncodeStock(testing::ShippedStock());
   Bytes cut(whole.begin(), whole.begin() + 300);
   Bytes noise = whole;
   for (std::size_t i = 0; i < noise.size(); i += 100) noise[i] = 0xEE;
   EXPECT_TRUE(LooksLikeStock(whole) && LooksLikeStock(cut));
   EXPECT_FALSE(LooksLikeStock({}) || LooksLikeStock(Bytes(1000, 'a')) || LooksLikeStock(noise));
-  StockTable stock = ReadShipped();
+  StockTable stock = testing::ShippedStock();
   stock(2, 7).GivenCells[3] = 11;
   stock(2, 8).BestSeconds = 77;
   EXPECT_EQ(WhyNoStock(kStockBytes, stock, {.level = 2, .first = 8}), "");
   EXPECT_NE(WhyNoStock(kStockBytes, stock, {.last = 7}), "");
-  EXPECT_NE(WhyNoStock(kStockBytes - 1, ReadShipped(), {}), "");
+  EXPECT_NE(WhyNoStock(kStockBytes - 1, testing::ShippedStock(), {}), "");
 }
 
 // What the game comes with.
 TEST(ShippedStock, IsSoundVariedAndSpread) {
-  const StockTable stock = ReadShipped();
+  const StockTable stock = testing::ShippedStock();
   EXPECT_TRUE(CheckStock(stock, 2, [](int) {}).empty());
   std::array<int, kTechniques> with{};
   for (int level = 1; level <= kLevels; ++level) {

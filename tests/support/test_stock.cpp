@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "support/test_stock.h"
 
+#include <gtest/gtest.h>
+
 #include <array>
 #include <string_view>
 
+#include "core/stock_file.h"
+#include "host/host_files.h"
 #include "solver/technique_table.h"
 #include "support/test_puzzles.h"
 
@@ -61,6 +65,14 @@ StockTable MakeTestStock() {
   stock(3, 2).BestMinutes = 2;
   stock(3, 2).BestSeconds = 1;
   stock(3, 1).BestPlayer = stock(3, 2).BestPlayer = 1;
+  return stock;
+}
+
+StockTable ShippedStock() {
+  SystemCalls calls;
+  HostFiles files(calls, PathForm::kHost);
+  StockTable stock;
+  EXPECT_TRUE(ReadStockFile(files, KESTREL_SOURCE_DIR "/data/sudstock.kpz", stock));
   return stock;
 }
 

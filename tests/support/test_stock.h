@@ -12,4 +12,7 @@ namespace kestrel::testing {
 // level 3: number 1 has 1:30 and number 2 has 2:01, both of player 1.
 StockTable MakeTestStock();
 
+// The one that comes with the game.
+StockTable ShippedStock();
+
 }  // namespace kestrel::testing
