@@ -37,10 +37,14 @@ click() {
   sleep 0.5
 }
 
-# take SCREEN: the whole screen, so that tooltips and dialogs are on it.
+# take SCREEN: the whole screen, so that tooltips and dialogs are on it. A window that closes meanwhile ends import
+# with an error: once more.
 take() {
   sleep "${2:-0.3}"
-  import -window root -trim +repage "$folder/$1-$palette-$size.png"
+  for _ in 1 2; do
+    import -window root -trim +repage "$folder/$1-$palette-$size.png" && return
+  done
+  return 1
 }
 
 play() {

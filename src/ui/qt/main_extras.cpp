@@ -13,6 +13,7 @@
 #include "ui/qt/small_widgets.h"
 #include "ui/qt/text_conversion.h"
 #include "ui/qt/view_menu.h"
+#include "ui/qt/window_access.h"
 
 namespace kestrel {
 
@@ -41,6 +42,7 @@ MainExtras::MainExtras(Mirror& mirror, const MainWindow& main, QWidget& window, 
     auto* label = dynamic_cast<TextLabel*>(mirror_.WidgetOf(FormId::Main, {"LabelCount", i}));
     list_[static_cast<std::size_t>(i)] = label;
     SetTip(*label, StateTip(main_, {}, {"LabelCount", i}));
+    if (i < kTechniques) LeaveToAnother(*label);  // the count is read with its name
   }
   EachControl(main_, [&](ControlId id, const auto& control) {
     if (std::ranges::find(kTipped, id) == std::end(kTipped)) return;

@@ -24,6 +24,7 @@ constexpr int kAir = 12;
 
 RecordsWindow::RecordsWindow(const Session& session) : session_(session) {
   setObjectName(QStringLiteral("Records"));
+  setAttribute(Qt::WA_StyledBackground);  // the line round it
   setWindowTitle(QLatin1String(texts::kRecordsTitle));
   for (const std::string_view name : texts::kLevelNames) levels_.addTab(ToQString(name));
   levels_.setAccessibleName(QLatin1String(texts::kRecordsLevels));

@@ -86,11 +86,13 @@ void PaintFocus(QPainter& painter, const DeviceScope& scope, const QRect& place)
   painter.drawRoundedRect(QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
 }
 
-bool IsDialog(const QWidget& widget) {
-  return widget.isWindow() && (widget.windowFlags() & Qt::WindowType_Mask) == Qt::Dialog;
+// Dialogs, and every window that asks to have its ground painted by the style.
+bool HasEdge(const QWidget& widget) {
+  return widget.isWindow() && ((widget.windowFlags() & Qt::WindowType_Mask) == Qt::Dialog ||
+                               widget.testAttribute(Qt::WA_StyledBackground));
 }
 
-// A line round a dialog, which in dark colours could not be told from the window behind it.
+// A line round a window that opens over the game's: in dark colours they could not be told apart.
 void PaintEdge(QPainter& painter, const DeviceScope& scope, const QRect& place) {
   const double line = scope.Grid().Pixels(1);
   painter.setPen(QPen(QColor(TheColours().thin_line), line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
@@ -293,6 +295,9 @@ void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, 
     if (element == CE_CheckBox) return PaintChoice(*button, *painter, widget, false);
   }
   QProxyStyle::drawControl(element, option, painter, widget);
+  if (element != CE_TabBarTabShape || !Has(*option, State_Selected)) return;
+  // The base's own sign of the chosen tab is lost on dark grounds.
+  painter->fillRect(option->rect.adjusted(2, option->rect.height() - 4, -2, 0), TheColours().accent);
 }
 
 void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -314,7 +319,7 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     const DeviceScope scope(*painter, nullptr);
     return PaintFocus(*painter, scope, scope.Map(option->rect));
   }
-  if (element == PE_Widget && widget != nullptr && IsDialog(*widget)) {
+  if (element == PE_Widget && widget != nullptr && HasEdge(*widget)) {
     const DeviceScope scope(*painter, nullptr);
     return PaintEdge(*painter, scope, scope.Map(widget->rect()));
   }
@@ -324,7 +329,7 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 
 void CalmStyle::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
-  if (IsDialog(*widget)) widget->setAttribute(Qt::WA_StyledBackground);
+  if (HasEdge(*widget)) widget->setAttribute(Qt::WA_StyledBackground);
 }
 
 int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -333,11 +338,12 @@ int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:
+    case SH_MessageBox_CenterButtons:
       return 0;
     case SH_UnderlineShortcut:
       return 1;
-    case SH_MessageBox_CenterButtons:
-      return 0;
+    case SH_Table_GridLineColor:
+      return static_cast<int>(TheColours().thin_line);
     default:
       return QProxyStyle::styleHint(hint, option, widget, return_data);
   }

@@ -11,6 +11,15 @@ namespace kestrel {
 
 namespace {
 
+constexpr const char* kLeftOut = "readWithAnother";
+
+// The panel of the start with its progress bars is gone once it is hidden.
+bool IsRead(QObject* object) {
+  const auto* panel = dynamic_cast<StartPanel*>(object);
+  if (panel != nullptr && panel->isHidden()) return false;
+  return object == nullptr || !object->property(kLeftOut).toBool();
+}
+
 class WindowInterface final : public QAccessibleWidget {
  public:
   explicit WindowInterface(FormWindow& window)
@@ -25,13 +34,11 @@ class WindowInterface final : public QAccessibleWidget {
   }
 
  private:
-  // The panel of the start with its progress bars is gone once it is hidden.
   [[nodiscard]] QList<QAccessibleInterface*> Children() const {
     QList<QAccessibleInterface*> children;
     for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
       QAccessibleInterface* each = QAccessibleWidget::child(i);
-      const auto* panel = each == nullptr ? nullptr : dynamic_cast<StartPanel*>(each->object());
-      if (each != nullptr && (panel == nullptr || !panel->isHidden())) children << each;
+      if (each != nullptr && IsRead(each->object())) children << each;
     }
     return children;
   }
@@ -46,6 +53,10 @@ QAccessibleInterface* MakeWindowInterface(const QString& /*class_name*/, QObject
 
 void InstallWindowAccess() {
   QAccessible::installFactory(MakeWindowInterface);
+}
+
+void LeaveToAnother(QWidget& widget) {
+  widget.setProperty(kLeftOut, true);
 }
 
 }  // namespace kestrel
