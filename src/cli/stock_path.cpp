@@ -5,6 +5,12 @@
 
 namespace kestrel {
 
+namespace {
+
+constexpr const char* kNotMadeYet = "; the game makes it when it is first started, or name another FILE";
+
+}  // namespace
+
 std::string WritableStockPath(Arguments& arguments, CliPorts& ports) {
   const bool by_option = arguments.Has(kStockOption.name);
   if (by_option && !arguments.Operands().empty()) arguments.Fail("the stock file is named twice");
@@ -21,7 +27,8 @@ std::string StockPath(Arguments& arguments, CliPorts& ports) {
 
 bool ReadStockOf(const std::string& path, CliPorts& ports, StockTable& stock) {
   const FileResult result = ReadStockFile(ports.files, path, stock);
-  if (!result) PrintError(ports, path + ": " + result.Reason());
+  const bool not_made_yet = path == ports.user_stock && !ports.files.Exists(path);
+  if (!result) PrintError(ports, path + ": " + result.Reason() + (not_made_yet ? kNotMadeYet : ""));
   return static_cast<bool>(result);
 }
 
