@@ -16,7 +16,6 @@ target_compile_options(
             -Wnon-virtual-dtor
             -Woverloaded-virtual
             -Wnull-dereference
-            $<$<CXX_COMPILER_ID:Clang>:-Wreserved-identifier>
             # GCC 12 takes std::string's copying for overlapping when it optimises fully (GCC bug 105651).
             $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
             $<$<BOOL:${KESTREL_WERROR}>:-Werror>)

@@ -15,7 +15,7 @@ lint() {
   shift 3
   files=$(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$in/compile_commands.json" | grep -E "$pattern" | grep -v autogen | sort -u)
   { echo "$files" | grep /ui/qt/; echo "$files" | grep -v /ui/qt/; } |
-    xargs -P "$(nproc)" -n 1 clang-tidy -quiet -checks="$checks" -p "$in" "$@" >"$build/lint.log" 2>&1 && return 0
+    xargs -P "$(nproc)" -n 1 clang-tidy -quiet -checks="$checks" -p "$in" --extra-arg=-Wreserved-identifier "$@" >"$build/lint.log" 2>&1 && return 0
   grep -E 'warning:|error:' "$build/lint.log" | sort -u || tail "$build/lint.log"
   return 1
 }
