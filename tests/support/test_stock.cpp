@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "support/test_stock.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <string_view>
 
+#include "core/check.h"
 #include "core/stock_file.h"
 #include "host/host_files.h"
 #include "solver/technique_table.h"
@@ -72,7 +71,7 @@ StockTable ShippedStock() {
   SystemCalls calls;
   HostFiles files(calls, PathForm::kHost);
   StockTable stock;
-  EXPECT_TRUE(ReadStockFile(files, KESTREL_SOURCE_DIR "/data/sudstock.kpz", stock));
+  Require(static_cast<bool>(ReadStockFile(files, KESTREL_SOURCE_DIR "/data/sudstock.kpz", stock)));
   return stock;
 }
 
