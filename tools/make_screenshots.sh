@@ -71,6 +71,9 @@ play() {
   click 732 25
   take players
   xdotool key Escape
+  click 155 612
+  take open
+  xdotool key Escape
   click 645 612
   take print 1
   xdotool key Escape

@@ -10,3 +10,4 @@ kill_packages="xvfb xauth xdotool python3"
 # What dpkg-buildpackage, lintian and the roots of tools/prove_platforms.sh need.
 release_packages="debhelper dpkg-dev lintian debootstrap"
 bench_packages="libbenchmark-dev qqwing"
+paint_packages="xvfb metacity sgt-puzzles libxcb1-dev pkg-config"

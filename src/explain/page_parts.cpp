@@ -44,6 +44,8 @@ std::string HelpPage(const std::string& file, const std::string& name, const std
          "</title>\n<link rel=\"stylesheet\" type=\"text/css\" href=\"help.css\">\n"
          "<link rel=\"stylesheet\" href=\"browser.css\">\n"
          "<link rel=\"stylesheet\" media=\"(prefers-color-scheme: dark)\" href=\"help_dark.css\">\n"
+         "<link rel=\"stylesheet\" media=\"(prefers-color-scheme: dark) and (prefers-contrast: more)\" "
+         "href=\"help_contrast.css\">\n"
          "</head>\n<body>\n" +
          line + "<h1>" + Escaped(title) + "</h1>\n" + content + line + "</body>\n</html>\n";
 }

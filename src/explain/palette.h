@@ -25,5 +25,8 @@ inline constexpr Palette kLightPalette{"#ffffff", "#20262d", "#9aa3ad", "#4a4f57
                                        "#1a56a8", "#ffffff", "#b3261e", "#fdeceb", "#e3edfa", "#fbf1d9"};
 inline constexpr Palette kDarkPalette{"#1e2227", "#e4e7eb", "#59626d", "#b6bec8", "#93bbff", "#f3f5f7",
                                       "#7db1f7", "#1e2227", "#ff9087", "#4b2624", "#25374f", "#483d20"};
+// Every text 7 to 1 and every line 3 to 1 on each ground.
+inline constexpr Palette kContrastPalette{"#000000", "#ffffff", "#a8a8a8", "#f0f0f0", "#ffff66", "#ffffff",
+                                          "#8ccbff", "#000000", "#ffb3a8", "#330a00", "#00264d", "#332b00"};
 
 }  // namespace kestrel

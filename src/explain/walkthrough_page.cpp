@@ -27,10 +27,14 @@ std::string Counted(int number, std::string_view one, std::string_view several) 
   return std::to_string(number).append(" ").append(number == 1 ? one : several);
 }
 
+std::string AllTechniques() {
+  return Counted(kTechniques, "technique", "techniques");
+}
+
 std::string Verdict(const Walkthrough& walk) {
   const std::string steps = Counted(static_cast<int>(walk.steps.size()), "step", "steps");
   if (walk.rating.level == kBeyondTechniques) {
-    return "The 22 techniques do not solve this puzzle. They come to an end after " + steps + '.';
+    return "The " + AllTechniques() + " do not solve this puzzle. They come to an end after " + steps + '.';
   }
   const auto level = static_cast<std::size_t>(walk.rating.level - 1);
   return "Level " + std::to_string(walk.rating.level) + " (" + std::string(kLevelNames[level]) + "), score " +
@@ -180,7 +184,7 @@ class Telling {
 
   void End() {
     const bool solved = walk_.rating.state.Solved();
-    Heading({}, solved ? "The solution" : "Where the 22 techniques end");
+    Heading({}, solved ? "The solution" : "Where the " + AllTechniques() + " end");
     Show(solved ? "<p>Every cell has its digit.</p>\n"
                 : "<p>None of the techniques finds anything in this position.</p>\n",
          steps_.size(), DrawBoard(walk_.PositionAt(steps_.size()), Frame::Plain));

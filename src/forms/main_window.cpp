@@ -92,10 +92,11 @@ void DesignLevels(MainWindow& main) {
 }
 
 void DesignStartPanel(MainWindow& main) {
-  Place(main.Picture3, 960, 960, CellEdge(8) + kCellSize - 960, CellEdge(8) + kCellSize - 960);
+  // Over the whole board, its outer lines included.
+  Place(main.Picture3, 825, 825, CellEdge(8) + kCellSize + 135 - 825, CellEdge(8) + kCellSize + 135 - 825);
   main.Picture3.spoken = texts::kProductName;
   for (int level = 1; level <= 5; ++level) {
-    Place(main.ProgressBar1(level), 2400, 5400 + 300 * (level - 1), 4815, 120);
+    Place(main.ProgressBar1(level), 2850, 5400 + 300 * (level - 1), 4815, 120);
     main.ProgressBar1(level).spoken = LevelName(level);
   }
 }

@@ -28,13 +28,16 @@ TEST(Help, FollowsPagesForwardAndBack) {
   std::filesystem::create_directory(game.program_folder.Path("help"));
   game.program_folder.Put("help/index.html",
                           "<html><body><a href=\"naked_single.html\">Naked Single</a></body></html>");
-  game.program_folder.Put("help/naked_single.html", "<html><body>One candidate left</body></html>");
+  game.program_folder.Put(
+      "help/naked_single.html",
+      "<html><head><title>Naked Single - Help</title></head><body>One candidate left</body></html>");
   game.ClickControl("CommandHelp");
   FormWindow& window = game.front_end.Windows().WindowOf(FormId::Browser);
   HelpView& view = *game.front_end.Windows().Help();
   EXPECT_TRUE(window.isMaximized());
   EXPECT_EQ(window.windowTitle(), "Kestrel Sudoku - Help");
   EXPECT_EQ(view.toPlainText(), "Naked Single");
+  EXPECT_EQ(view.accessibleName(), "Help page");  // without a title
   // The game goes on beside it.
   game.ClickMark(game.EmptyCell(), game.SolutionOf(game.EmptyCell()));
   EXPECT_EQ(game.State().play.history.StepCount(), 1);
@@ -42,6 +45,9 @@ TEST(Help, FollowsPagesForwardAndBack) {
   QTest::keyClick(&view, Qt::Key_Tab);
   QTest::keyClick(&view, Qt::Key_Return);
   EXPECT_EQ(view.toPlainText(), "One candidate left");
+  window.resize(900, 700);
+  game.Settle();
+  EXPECT_EQ(view.accessibleName(), "Naked Single - Help");
   EXPECT_FALSE(window.findChild<QPushButton*>("HelpForward")->isEnabled());
   for (const auto& [button, page] : {std::pair{"HelpBack", "Naked Single"},
                                      {"HelpForward", "One candidate left"},

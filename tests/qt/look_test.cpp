@@ -4,14 +4,26 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QTextBlock>
+#include <QTextTable>
 
 #include "qt/qt_game.h"
+#include "ui/qt/desktop_colours.h"
 #include "ui/qt/fonts.h"
+#include "ui/qt/help_view.h"
+#include "ui/qt/look.h"
 #include "ui/qt/palette.h"
 #include "ui/qt/text_conversion.h"
 
 namespace kestrel::testing {
 namespace {
+
+// A variable of the environment for as long as this lives; none of them is set while the tests run.
+struct EnvironmentValue {
+  EnvironmentValue(const char* variable, const char* value) : name(variable) { qputenv(variable, value); }
+  ~EnvironmentValue() { qunsetenv(name); }
+  const char* name;
+};
 
 constexpr double kScales[] = {0.75, 1, 1.25, 1.5, 2};
 constexpr Scheme kSchemes[] = {Scheme::Light, Scheme::Dark, Scheme::HighContrast};
@@ -77,6 +89,77 @@ TEST(Look, EverythingCanBeSeenInEveryPalette) {
       }
     }
   }
+}
+
+// What the desktop's own files say, where no portal is asked: each case alone in a settings folder.
+TEST(Look, FollowsTheFilesOfDesktops) {
+  struct Case {
+    const char* desktop;
+    const char* file;
+    const char* text;
+    DesktopLook look;
+  };
+  const Case kCases[] = {
+      {"KDE", "kdeglobals", "[Colors:Window]\nBackgroundNormal=35,38,41\n", {true, false}},
+      {"KDE", "kdeglobals", "[Colors:Window]\nBackgroundNormal=239,240,241\n", {false, false}},
+      {"LXQt", "lxqt/lxqt.conf", "[Palette]\nwindow_color=#31363b\n", {true, false}},
+      {"XFCE",
+       "xfce4/xfconf/xfce-perchannel-xml/xsettings.xml",
+       R"(<channel><property name="Net"><property name="ThemeName" value="Adwaita-dark"/></property></channel>)",
+       {true, false}},
+      {"", "gtk-3.0/settings.ini", "[Settings]\ngtk-theme-name=HighContrastInverse\n", {true, true}},
+      {"", "gtk-3.0/settings.ini", "[Settings]\ngtk-application-prefer-dark-theme=1\n", {true, false}},
+  };
+  for (const Case& each : kCases) {
+    const TempFolder folder;
+    std::filesystem::create_directories(std::filesystem::path(folder.Path(each.file)).parent_path());
+    folder.Put(each.file, each.text);
+    const EnvironmentValue config("XDG_CONFIG_HOME", folder.Path().c_str());
+    const EnvironmentValue desktop("XDG_CURRENT_DESKTOP", each.desktop);
+    EXPECT_EQ(DesktopLookAtStart(), each.look) << each.desktop << ' ' << each.text;
+    const EnvironmentValue theme("GTK_THEME", "HighContrast");
+    EXPECT_EQ(DesktopLookAtStart(), (DesktopLook{false, true}));
+  }
+}
+
+// What stands on a help page, as the view laid it out: every text against the ground of its cell, or the page's.
+void ExpectReadable(const QTextDocument& page, double least) {
+  const auto ground_of = [](const QTextFormat& format, const QColor& around) {
+    return format.hasProperty(QTextFormat::BackgroundBrush) ? format.background().color() : around;
+  };
+  const QColor paper = ground_of(page.rootFrame()->frameFormat(), TheColours().paper);
+  for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+    const QTextTable* table = QTextCursor(block).currentTable();
+    const QColor cell = table == nullptr ? paper : ground_of(table->cellAt(block.position()).format(), paper);
+    for (auto at = block.begin(); !at.atEnd(); ++at) {
+      const QTextCharFormat format = at.fragment().charFormat();
+      const QColor ink =
+          format.hasProperty(QTextFormat::ForegroundBrush) ? format.foreground().color() : TheColours().text;
+      EXPECT_GE(ContrastRatio(ink, ground_of(format, cell)), least) << qPrintable(at.fragment().text());
+    }
+  }
+}
+
+TEST(Look, HelpPagesCanBeReadInEveryPalette) {
+  for (const Scheme scheme : kSchemes) {
+    SetUpLook({scheme, 1});
+    const double least = scheme == Scheme::HighContrast ? 7 : 4.5;
+    HelpView view(nullptr);
+    view.SetFolder(QStringLiteral(KESTREL_SOURCE_DIR "/data/help"));
+    for (const char* name : {"index.html", "words.html", "x_wing.html", "practice.html"}) {
+      view.Navigate(std::string(kHelpFolder) + name);
+      EXPECT_GT(view.document()->blockCount(), 10) << name;
+      ExpectReadable(*view.document(), least);
+    }
+    const Palette& p = HelpView::PictureColours(scheme);
+    Meetings signs = {{p.on_cause, {p.cause}}, {p.cause, {p.paper}}, {p.ink, {p.gone_ground, p.paper}}};
+    for (const char* ink : {p.mark, p.given, p.digit})
+      signs.push_back({ink, {p.paper, p.unit_wash, p.lose_wash}});
+    ExpectContrast(signs, least);
+    const std::vector<QColor> grounds = {p.paper, p.unit_wash, p.lose_wash};
+    ExpectContrast({{p.cause, grounds}, {p.gone, grounds}}, 3);
+  }
+  SetUpLook({});
 }
 
 // The fonts that stand in have the widths of those that are named.

@@ -62,6 +62,10 @@ struct Screens : QtGame {
 TEST(Pictures, Start) {
   Screens game;
   game.ShowIn({kDark}, "start", game.Window());
+  game.Main().Picture3.visible = true;
+  for (int level = 1; level <= 5; ++level) game.Main().ProgressBar1(level).value = 120 - 20 * level;
+  game.Show("start_panel");
+  game.Main().Picture3.visible = false;
 }
 
 TEST(Pictures, Play) {
@@ -89,7 +93,7 @@ TEST(Pictures, HintAndLens) {
   const QPoint mark = QtGame::Corner(game.Main().Mark(game.SolutionOf(cell))(cell)) + QPoint(8, 8);
   QTest::mouseMove(game.Window().windowHandle(), mark);
   EXPECT_TRUE(game.WaitFor([&] { return game.front_end.Windows().Board()->Lens().has_value(); }));
-  game.Show("hint");
+  game.ShowIn({kDark}, "hint", game.Window());
 }
 
 TEST(Pictures, End) {
@@ -151,7 +155,7 @@ TEST(Pictures, Records) {
     record.Score = 100 + 7 * number % 50;
   }
   game.front_end.OpenRecords(3);
-  game.ShowIn({kDark}, "records", *game.front_end.Records());
+  game.ShowIn({kDark, kContrast}, "records", *game.front_end.Records());
   game.front_end.Records()->close();
   game.ClickControl("OptionType(3)");
   game.ShowBox("open", "CommandOpen");

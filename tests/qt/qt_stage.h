@@ -97,7 +97,7 @@ class QtStage final : public Stage {
   NoSettings settings_;
   SystemCalls calls_;
   HostFiles files_{calls_};
-  DesktopColours desktop_;
+  DesktopColours desktop_{{}};
   ViewChoices choices_{settings_, desktop_};
   Dispatcher dispatcher_;
   WithoutTicks sink_{dispatcher_};

@@ -22,7 +22,7 @@ SiteSources ReadSiteInput(const std::filesystem::path& project) {
   for (const auto& entry : std::filesystem::directory_iterator(project / "tools/help/pages", error)) {
     sources.input.texts[entry.path().filename().string()] = FileText(entry.path());
   }
-  for (const char* name : {"help.css", "help_dark.css", "browser.css"}) {
+  for (const char* name : {"help.css", "help_dark.css", "help_contrast.css", "browser.css"}) {
     sources.input.styles[name] = FileText(project / "tools/help" / name);
   }
   sources.input.examples = ReadExamples(FileText(project / "data/examples.txt"));

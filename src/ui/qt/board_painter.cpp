@@ -11,7 +11,6 @@ namespace {
 
 constexpr double kHalfGap = (840 - kCellSize) / 2.0;           // from a cell to the thin line
 constexpr double kHalfBoxGap = (840 + 120 - kCellSize) / 2.0;  // from a cell to the thick line
-constexpr double kBoardStart = CellEdge(0) - kHalfBoxGap;
 constexpr double kBoardEnd = CellEdge(8) + kCellSize + kHalfBoxGap;
 
 // The pixel at which a line of `width` pixels begins whose middle is at `twips`.
@@ -19,11 +18,25 @@ int LineStart(const PixelGrid& grid, double twips, int width) {
   return grid.At(twips - width * kTwipsPerPixel / grid.Ratio() / 2);
 }
 
+// The middle of the line before a row or column; of the last line, 9.
+double LineBefore(int line) {
+  if (line == kUnitSize) return kBoardEnd;
+  return CellEdge(line) - (line % 3 == 0 ? kHalfBoxGap : kHalfGap);
+}
+
 QString Caption(const std::string& caption) {
   return QString::fromStdString(caption);
 }
 
 }  // namespace
+
+QRect RectOnLines(const PixelGrid& grid, QPoint first, QPoint last) {
+  const int line = grid.Pixels(2);
+  const auto before = [&](int at) { return LineStart(grid, LineBefore(at), line); };
+  const QPoint corner(before(first.x()), before(first.y()));
+  const QPoint end(before(last.x() + 1) + line, before(last.y() + 1) + line);
+  return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
+}
 
 BoardPainter::BoardPainter(const MainWindow& main, double ratio, const Colours& colours)
     : main_(main),
@@ -35,10 +48,7 @@ BoardPainter::BoardPainter(const MainWindow& main, double ratio, const Colours& 
 }
 
 QRect BoardPainter::BoardRect() const {
-  const int line = grid_.Pixels(2);
-  const int from = LineStart(grid_, kBoardStart, line);
-  const int to = LineStart(grid_, kBoardEnd, line) + line;
-  return {from, from, to - from, to - from};
+  return RectOnLines(grid_, {0, 0}, {8, 8});
 }
 
 QRect BoardPainter::CellRect(int cell) const {
@@ -105,7 +115,7 @@ void BoardPainter::PaintLines(QPainter& painter) const {
   const QColor box_line = main_.end == PuzzleEnd::Solved ? colours_.solved : colours_.thick_line;
   for (int line = 0; line < kUnitSize; ++line) {
     if (line % 3 == 0) continue;
-    const int at = LineStart(grid_, CellEdge(line) - kHalfGap, thin);
+    const int at = LineStart(grid_, LineBefore(line), thin);
     for (int box = 0; box < 3; ++box) {
       const int from = grid_.At(CellEdge(3 * box) - kHalfGap);
       const int length = grid_.At(CellEdge(3 * box + 2) + kCellSize + kHalfGap) - from;
@@ -114,8 +124,7 @@ void BoardPainter::PaintLines(QPainter& painter) const {
     }
   }
   for (int box = 0; box <= 3; ++box) {
-    const double twips = box == 3 ? kBoardEnd : CellEdge(3 * box) - kHalfBoxGap;
-    const int at = LineStart(grid_, twips, thick);
+    const int at = LineStart(grid_, LineBefore(3 * box), thick);
     painter.fillRect(at, board.top(), thick, board.height(), box_line);
     painter.fillRect(board.left(), at, board.width(), thick, box_line);
   }

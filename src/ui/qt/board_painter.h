@@ -39,6 +39,10 @@ struct BoardPointer {
   std::optional<DigitLens> lens;
 };
 
+// The outline of something that covers the cells from row and column `first` to `last`, both 0..8: it lies on the
+// lines round them, so that no stump of a line sticks out. In pixels of the grid.
+QRect RectOnLines(const PixelGrid& grid, QPoint first, QPoint last);
+
 class BoardPainter {
  public:
   // `main` and `colours` must outlive the painter.

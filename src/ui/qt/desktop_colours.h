@@ -19,12 +19,25 @@ void StartNoSessionBus();
 // The environment as other programs are to get it: without the trace of the above.
 [[nodiscard]] QProcessEnvironment EnvironmentForOthers();
 
+// What a desktop looks like.
+struct DesktopLook {
+  bool dark = false;
+  bool high_contrast = false;
+  friend bool operator==(const DesktopLook&, const DesktopLook&) = default;
+};
+
+// What can be known without asking another program, for desktops without a settings portal; light where nothing is.
+// The first of these that says anything: the environment's GTK_THEME, the palette of a platform theme that Qt was
+// told to use, the settings file of KDE, LXQt or Xfce where that is the desktop, GTK's settings file. Before the
+// application gets a palette of its own.
+DesktopLook DesktopLookAtStart();
+
 class DesktopColours final : public QObject {
   Q_OBJECT
 
  public:
-  // Knows what the environment says; light where it says nothing.
-  DesktopColours();
+  // Shows `at_start` until the portal has answered, and where it has no preference.
+  explicit DesktopColours(const DesktopLook& at_start) : at_start_(at_start), now_(at_start) {}
 
   [[nodiscard]] Scheme SchemeFor(ColourChoice choice) const;
 
@@ -40,8 +53,8 @@ class DesktopColours final : public QObject {
   void Ask(const QString& key);
   void Take(const QString& key, const QVariant& value);
 
-  bool dark_ = false;
-  bool high_contrast_ = false;
+  DesktopLook at_start_;
+  DesktopLook now_;
 };
 
 }  // namespace kestrel

@@ -78,8 +78,10 @@ class ClickFilter final : public QObject {
 
 }  // namespace
 
-FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool unattended)
-    : choices_(host.settings, desktop_),
+FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool unattended,
+                   const DesktopLook& desktop)
+    : desktop_(desktop),
+      choices_(host.settings, desktop_),
       mirror_(dispatcher_,
               {[this] {
                  const Session& state = game_.State();

@@ -38,8 +38,10 @@ struct HostPorts {
 
 class FrontEnd {
  public:
-  // Needs a QApplication. `help_folder` is a host path. When unattended, nobody is there to answer a box.
-  FrontEnd(const HostPorts& host, const std::string& help_folder, bool unattended = false);
+  // Needs a QApplication. `help_folder` is a host path. When unattended, nobody is there to answer a box. `desktop` is
+  // what it looks like as long as nothing else is heard.
+  FrontEnd(const HostPorts& host, const std::string& help_folder, bool unattended = false,
+           const DesktopLook& desktop = {});
 
   [[nodiscard]] Game& TheGame() { return game_; }
   [[nodiscard]] Mirror& Windows() { return mirror_; }

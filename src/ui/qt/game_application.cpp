@@ -34,10 +34,11 @@ GameApplication::GameApplication(const GameOptions& options, const std::string& 
       settings_(Unattended() ? static_cast<Settings&>(settings_kept_) : settings_file_) {
   files_.KeepName(program_.folder);
   MakeApplication(argv);
-  SetUpApplication(FirstLook());
+  const DesktopLook desktop = DesktopLookAtStart();
+  SetUpApplication(FirstLook(desktop));
   front_end_ = std::make_unique<FrontEnd>(
       HostPorts{program_, folders_, files_, host_files_, settings_, clock_, seeds_},
-      program_.folder + "/help", Unattended());
+      program_.folder + "/help", Unattended(), desktop);
 }
 
 void GameApplication::MakeApplication(char** argv) {
@@ -52,7 +53,7 @@ void GameApplication::MakeApplication(char** argv) {
   QApplication::setDesktopFileName(QStringLiteral("example.kestrel_sudoku.KestrelSudoku"));
 }
 
-Look GameApplication::FirstLook() {
+Look GameApplication::FirstLook(const DesktopLook& desktop) {
   const ViewSettings before = LoadViewSettings(settings_);
   ViewSettings view = before;
   if (options_.scale) view.size = static_cast<int>(*options_.scale * 100);
@@ -62,7 +63,7 @@ Look GameApplication::FirstLook() {
     std::fprintf(stderr, "kestrel-sudoku: the screen is too small for scale %g; %g is used\n",
                  *options_.scale, size / 100.0);
   }
-  return {DesktopColours().SchemeFor(view.colours), size / 100.0};
+  return {DesktopColours(desktop).SchemeFor(view.colours), size / 100.0};
 }
 
 int GameApplication::Run() {

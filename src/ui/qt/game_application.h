@@ -31,7 +31,7 @@ class GameApplication {
   [[nodiscard]] bool Unattended() const { return !options_.screenshot.empty(); }
   void MakeApplication(char** argv);
   // The colours and the size to start with; a scale of the command line is remembered.
-  [[nodiscard]] Look FirstLook();
+  [[nodiscard]] Look FirstLook(const DesktopLook& desktop);
 
   GameOptions options_;
   std::string home_;

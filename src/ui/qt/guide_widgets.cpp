@@ -3,6 +3,7 @@
 
 #include <QPainter>
 
+#include "ui/qt/board_painter.h"
 #include "ui/qt/device_painter.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/look.h"
@@ -13,9 +14,12 @@ namespace kestrel {
 
 namespace {
 
-// Twips; the card stands in the middle of the board, the line between board and commands.
-constexpr QRect kCard(2805, 3765, 4005, 2085);
-constexpr QRect kCardNext(1080, 1020, 1845, 525);  // on the card
+// The cells that the card covers, in the middle of the board.
+constexpr QPoint kCardFirst(2, 3);
+constexpr QPoint kCardLast(6, 5);
+// Twips; on the card, and the line between board and commands.
+constexpr int kCardWidth = 4470;
+constexpr QRect kCardNext(1313, 1260, 1845, 570);
 constexpr QRect kLine(960, 8805, 7695, 180);
 constexpr int kCross = 240;
 
@@ -83,10 +87,10 @@ void GuideCard::SetLevel(const QString& name) {
 }
 
 void GuideCard::PlaceAll() {
-  setGeometry(LogicalRect(kCard));
+  setGeometry(RectOnLines(PixelGrid(TheLook().zoom), kCardFirst, kCardLast));
   next_.setGeometry(LogicalRect(kCardNext));
   next_.setFont(ToQFont(Font{"MS Sans Serif", 12, true}, TheLook().zoom));
-  cross_.setGeometry(LogicalRect(QRect(kCard.width() - kCross - 90, 90, kCross, kCross)));
+  cross_.setGeometry(LogicalRect(QRect(kCardWidth - kCross - 90, 90, kCross, kCross)));
 }
 
 void GuideCard::paintEvent(QPaintEvent* /*event*/) {
@@ -94,14 +98,14 @@ void GuideCard::paintEvent(QPaintEvent* /*event*/) {
   QPainter& painter = surface.Painter();
   const PixelGrid& grid = surface.Grid();
   const Colours& colours = TheColours();
-  PaintRounded(painter, surface.Area(), grid.Pixels(8), colours.paper, colours.thick_line, grid.Pixels(2));
+  PaintRounded(painter, surface.Area(), 0, colours.paper, colours.thick_line, grid.Pixels(2));
   painter.setPen(QColor(colours.text));
   painter.setFont(ToQFont(Font{"MS Sans Serif", 11.25, true}, grid.Ratio()));
-  PaintText(painter, grid.Rect(0, 330, kCard.width(), 300), Align::Centre, QLatin1String(texts::kCardTitle));
+  PaintText(painter, grid.Rect(0, 525, kCardWidth, 300), Align::Centre, QLatin1String(texts::kCardTitle));
   painter.setFont(ToQFont(Font{"MS Sans Serif", 9, false}, grid.Ratio()));
-  PaintText(painter, grid.Rect(0, 645, kCard.width(), 270), Align::Centre,
+  PaintText(painter, grid.Rect(0, 855, kCardWidth, 270), Align::Centre,
             QLatin1String(texts::kCardLevel).arg(level_));
-  PaintText(painter, grid.Rect(0, 1635, kCard.width(), 300), Align::Centre, QLatin1String(texts::kCardHelp));
+  PaintText(painter, grid.Rect(0, 1965, kCardWidth, 300), Align::Centre, QLatin1String(texts::kCardHelp));
 }
 
 // ---- GuideLine ----

@@ -41,16 +41,23 @@ QByteArray Content(const QUrl& file) {
   return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
 }
 
-// The drawing in the colours of dark pages. Drawings carry plain colour values, and the two palettes have none in
-// common.
-QByteArray InDark(QByteArray svg) {
-  const auto quoted = [](const char* colour) { return '"' + QByteArray(colour) + '"'; };
-  for (const auto part :
-       {&Palette::paper, &Palette::ink, &Palette::thin, &Palette::mark, &Palette::given, &Palette::digit,
-        &Palette::cause, &Palette::gone, &Palette::gone_ground, &Palette::unit_wash, &Palette::lose_wash}) {
-    svg.replace(quoted(kLightPalette.*part), quoted(kDarkPalette.*part));
+// The drawing, which carries plain colour values of the light palette, in those of another. In one go, for what is
+// ink in one palette is paper in the other.
+QByteArray InColours(const QByteArray& svg, const Palette& colours) {
+  QByteArray result;
+  qsizetype done = 0;
+  for (qsizetype at = svg.indexOf("\"#"); at >= 0; at = svg.indexOf("\"#", at + 1)) {
+    const QByteArray colour = svg.mid(at + 1, 7);
+    for (const auto part :
+         {&Palette::paper, &Palette::ink, &Palette::thin, &Palette::mark, &Palette::given, &Palette::digit,
+          &Palette::cause, &Palette::gone, &Palette::gone_ground, &Palette::unit_wash, &Palette::lose_wash}) {
+      if (colour != kLightPalette.*part) continue;
+      result += svg.mid(done, at + 1 - done) + colours.*part;
+      done = at + 1 + colour.size();
+      break;
+    }
   }
-  return svg;
+  return result + svg.mid(done);
 }
 
 QString ErrorPage(const QUrl& name) {
@@ -67,7 +74,8 @@ HelpView::HelpView(QWidget* parent)
       pictures_(new HelpPictures(this,
                                  [this](const QString& name) {
                                    const QByteArray svg = Drawing(name);
-                                   return dark_ ? InDark(svg) : svg;
+                                   if (scheme_ == Scheme::Light) return svg;
+                                   return InColours(svg, PictureColours(scheme_));
                                  })),
       find_(new HelpFind(*this)) {
   setOpenLinks(true);
@@ -83,7 +91,14 @@ void HelpView::FollowLook() {
   setFont(ToQFont(font, TheLook().zoom));
   pictures_->SetZoom(TheLook().zoom);
   FitSides();
-  if (!page_.isEmpty()) Fit();
+  if (page_.isEmpty()) return;
+  if (TheLook().scheme != scheme_) Renew();
+  Fit();
+}
+
+const Palette& HelpView::PictureColours(Scheme scheme) {
+  if (scheme == Scheme::Dark) return kDarkPalette;
+  return scheme == Scheme::HighContrast ? kContrastPalette : kLightPalette;
 }
 
 QUrl HelpView::UrlOf(std::string_view page) const {
@@ -131,12 +146,13 @@ void HelpView::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
   }
   page_ = target;
   narrow_ = IsNarrow();
-  dark_ = IsDark();
+  scheme_ = TheLook().scheme;
   pictures_->Forget();
   QTextBrowser::doSetSource(name, type);
   // Not only what Qt takes for changed: nothing of the page before may stay.
   update();
   viewport()->update();
+  if (on_page) on_page(documentTitle());
 }
 
 QVariant HelpView::loadResource(int type, const QUrl& name) {
@@ -154,18 +170,18 @@ QVariant HelpView::loadResource(int type, const QUrl& name) {
     }
     return html;
   }
-  if (type == QTextDocument::StyleSheetResource && dark_) {
-    return Content(target) + Content(target.resolved(QUrl(QStringLiteral("help_dark.css"))));
+  if (type == QTextDocument::StyleSheetResource) {
+    QByteArray style = Content(target);
+    const auto add = [&](const QString& more) { style += Content(target.resolved(QUrl(more))); };
+    if (scheme_ != Scheme::Light) add(QStringLiteral("help_dark.css"));
+    if (scheme_ == Scheme::HighContrast) add(QStringLiteral("help_contrast.css"));
+    return style;
   }
   return QTextBrowser::loadResource(type, name);
 }
 
 bool HelpView::IsNarrow() const {
   return width() < kNarrow * TheLook().zoom;
-}
-
-bool HelpView::IsDark() const {
-  return palette().color(QPalette::Base).lightness() < 128;
 }
 
 void HelpView::FitPictures() {
@@ -205,11 +221,6 @@ void HelpView::resizeEvent(QResizeEvent* event) {
   FitSides();  // before the text is laid out between them
   QTextBrowser::resizeEvent(event);
   Fit();
-}
-
-void HelpView::changeEvent(QEvent* event) {
-  QTextBrowser::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && IsDark() != dark_) Renew();
 }
 
 void HelpView::keyPressEvent(QKeyEvent* event) {

@@ -4,11 +4,14 @@
 
 #include <QTextBrowser>
 #include <QUrl>
+#include <functional>
 #include <optional>
 #include <string_view>
 
 #include "core/grid.h"
 #include "explain/page_parts.h"
+#include "explain/palette.h"
+#include "ui/qt/palette.h"
 
 namespace kestrel {
 
@@ -19,8 +22,11 @@ class HelpView final : public QTextBrowser {
  public:
   explicit HelpView(QWidget* parent);
 
-  // Takes the size of its text from the present look.
+  // Takes colours and the size of its text from the present look.
   void FollowLook();
+
+  // The colours of the pictures.
+  static const Palette& PictureColours(Scheme scheme);
 
   // The host folder that stands for the game's help folder.
   void SetFolder(const QString& folder) { folder_ = folder; }
@@ -32,11 +38,13 @@ class HelpView final : public QTextBrowser {
   // and what is shown of one goes away.
   void OfferSolving(const DigitGrid* givens);
 
+  // A page has come; its title, which may be empty.
+  std::function<void(const QString& title)> on_page;
+
   QVariant loadResource(int type, const QUrl& name) override;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
-  void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
 
@@ -48,7 +56,6 @@ class HelpView final : public QTextBrowser {
   [[nodiscard]] QUrl UrlOf(std::string_view page) const;
   // The window is too narrow for text and picture side by side.
   [[nodiscard]] bool IsNarrow() const;
-  [[nodiscard]] bool IsDark() const;
   // Makes the page again, for another width or other colours, with the same line at the top.
   void Renew();
   // Follows the view's size, or the look's.
@@ -63,7 +70,7 @@ class HelpView final : public QTextBrowser {
   HelpPictures* pictures_;
   HelpFind* find_;
   bool narrow_ = false;  // how the page at hand was made
-  bool dark_ = false;
+  Scheme scheme_ = Scheme::Light;
 };
 
 }  // namespace kestrel

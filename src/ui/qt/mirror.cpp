@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <map>
 
+#include "forms/texts.h"
 #include "ui/qt/board_widget.h"
 #include "ui/qt/form_window.h"
 #include "ui/qt/help_bar.h"
@@ -139,6 +140,11 @@ void Mirror::BuildBrowser(View& view) {
   help_ = dynamic_cast<HelpView*>(WidgetOf(FormId::Browser, {"WebBrowser1"}));
   help_->SetFolder(surroundings_.help_folder);
   help_bar_ = new HelpBar(*view.window, *help_);
+  help_->on_page = [this, &view](const QString& title) {
+    WebView& control = forms_->browser.WebBrowser1;
+    control.spoken = title.isEmpty() ? std::string(texts::kHelpPage) : title.toStdString();
+    for (const MirroredPtr& each : view.controls) each->Sync();
+  };
   OfferSolving(ended_ ? &*ended_ : nullptr);
 }
 

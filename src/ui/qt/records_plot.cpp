@@ -7,7 +7,7 @@
 #include <array>
 #include <cmath>
 
-#include "ui/qt/palette.h"
+#include "ui/qt/look.h"
 #include "ui/qt/scaled.h"
 #include "ui/qt/text_conversion.h"
 #include "ui/qt/texts.h"
@@ -19,7 +19,7 @@ namespace {
 constexpr int kAxisSize = 10;  // pixels of 96 dpi, as all lengths here
 constexpr int kLeft = 44;
 constexpr int kRight = 10;
-constexpr int kUpper = 20;
+constexpr int kUpper = 26;
 constexpr int kLower = 32;
 constexpr int kSign = 7;
 constexpr int kShapes = 4;
@@ -134,7 +134,7 @@ void RecordsPlot::paintEvent(QPaintEvent* /*event*/) {
   const auto x = [&](int score) { return field.left() + field.width() * across.Part(score); };
   const auto y = [&](int seconds) { return field.bottom() - field.height() * up.Part(seconds); };
   const QColor text = palette().color(QPalette::Text);
-  const QColor line = palette().color(QPalette::Mid);
+  const QColor line = TheColours().thin_line;
   const double height = painter.fontMetrics().height();
   for (int time = 0; time <= up.high; time += up.step) {
     painter.setPen(line);

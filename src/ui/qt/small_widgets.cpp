@@ -308,7 +308,7 @@ void StartPanel::paintEvent(QPaintEvent* /*event*/) {
   DevicePainter surface(*this);
   QPainter& painter = surface.Painter();
   const QRect area = surface.Area();
-  painter.fillRect(area, QColor(TheColours().paper));
+  PaintRounded(painter, area, 0, TheColours().paper, TheColours().thick_line, surface.Grid().Pixels(2));
   painter.setPen(QColor(TheColours().text));
   painter.setFont(ToQFont(Font{"Arial", 30, true}, surface.Grid().Ratio()));
   const QRect upper(area.left(), area.top(), area.width(), area.height() / 2);

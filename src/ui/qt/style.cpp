@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/style.h"
 
-#include <QIcon>
 #include <QPainter>
-#include <QPixmap>
 #include <QStyleOption>
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <optional>
 
+#include "ui/qt/box_signs.h"
 #include "ui/qt/device_painter.h"
+#include "ui/qt/device_scope.h"
 #include "ui/qt/fonts.h"
 #include "ui/qt/palette.h"
 
@@ -21,52 +21,6 @@ constexpr int kIndicator = 13;    // pixels of 96 dpi
 constexpr int kIndicatorGap = 6;  // to the text
 constexpr int kSignSize = 32;     // in a message box
 constexpr double kButtonRadius = 4;
-
-double ScreenRatio(const QPainter& painter) {
-  return painter.device() != nullptr ? painter.device()->devicePixelRatioF() : 1;
-}
-
-// A painter in device pixels for the duration of one drawing call.
-class DeviceScope {
- public:
-  DeviceScope(QPainter& painter, const QWidget* widget)
-      : painter_(painter), screen_(ScreenRatio(painter)), grid_(screen_.Ratio() * TheLook().zoom) {
-    painter_.save();
-    UseDevicePixels(painter_);
-    if (widget == nullptr) return;
-    painter_.setFont(Scaled(widget->font()));
-    corner_ = widget->mapTo(widget->window(), QPoint(0, 0));
-  }
-  ~DeviceScope() { painter_.restore(); }
-  DeviceScope(const DeviceScope&) = delete;
-  DeviceScope& operator=(const DeviceScope&) = delete;
-
-  // For lengths of the design, the present size included.
-  [[nodiscard]] const PixelGrid& Grid() const { return grid_; }
-  // A place in the widget's own pixels, which know the present size already.
-  // Edges are rounded where they are in the window, as the widget's own are.
-  [[nodiscard]] QRect Map(const QRect& logical) const {
-    constexpr double kTwips = kTwipsPerPixel;
-    const QRect in_window = logical.translated(corner_);
-    return screen_
-        .Rect(in_window.x() * kTwips, in_window.y() * kTwips, in_window.width() * kTwips,
-              in_window.height() * kTwips)
-        .translated(-screen_.At(corner_.x() * kTwips), -screen_.At(corner_.y() * kTwips));
-  }
-
- private:
-  [[nodiscard]] QFont Scaled(QFont font) const {
-    if (font.pixelSize() > 0) {
-      font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * screen_.Ratio())));
-    }
-    return font;
-  }
-
-  QPainter& painter_;
-  QPoint corner_;  // of the widget in its window
-  PixelGrid screen_;
-  PixelGrid grid_;
-};
 
 bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
   return (option.state & flag) != 0;
@@ -192,13 +146,13 @@ QColor BorderColour(const QStyleOption& option) {
   return Has(option, QStyle::State_Enabled) ? TheColours().border : TheColours().disabled_border;
 }
 
-// The outline of a text box or list; its ground stays as it is.
-void PaintOutline(const QStyleOption& option, QPainter& painter) {
+// The outline of a text box, list or menu; its ground stays as it is.
+void PaintOutline(const QStyleOption& option, QPainter& painter, const QColor& colour) {
   const DeviceScope scope(painter, nullptr);
   const QRect place = scope.Map(option.rect);
   const int line = scope.Grid().Pixels(1);
   painter.setClipRegion(QRegion(place) - place.adjusted(line, line, -line, -line));
-  painter.fillRect(place, BorderColour(option));
+  painter.fillRect(place, colour);
 }
 
 void PaintComboBox(const QStyleOptionComboBox& option, QPainter& painter) {
@@ -234,52 +188,50 @@ void PaintSlider(const QStyleOptionSlider& option, QPainter& painter, const QRec
                scope.Grid().Pixels(Has(option, QStyle::State_HasFocus) ? 2 : 1));
 }
 
-// The sign of a message box: a coloured shape with a white symbol on it.
-struct BoxSign {
-  QRgb colour;
-  char symbol;
-  bool triangle;
-};
-
-std::optional<BoxSign> SignOf(QStyle::StandardPixmap standard) {
-  switch (standard) {
-    case QStyle::SP_MessageBoxInformation:
-      return BoxSign{TheColours().accent, 'i', false};
-    case QStyle::SP_MessageBoxQuestion:
-      return BoxSign{TheColours().accent, '?', false};
-    case QStyle::SP_MessageBoxWarning:
-      return BoxSign{TheColours().warning, '!', true};
-    case QStyle::SP_MessageBoxCritical:
-      return BoxSign{TheColours().target, 'x', false};
-    default:
-      return std::nullopt;
+// A bar whose handle can be told from the ground in every palette; Fusion derives both from one colour.
+void PaintScrollBar(const QStyleOptionSlider& option, QPainter& painter, const QRect& handle,
+                    const std::array<QRect, 2>& arrows) {
+  const DeviceScope scope(painter, nullptr);
+  const Colours& colours = TheColours();
+  const bool across = option.orientation == Qt::Horizontal;
+  const bool held =
+      Has(option, QStyle::State_Sunken) && option.activeSubControls == QStyle::SC_ScrollBarSlider;
+  painter.fillRect(scope.Map(option.rect), QColor(colours.window));
+  const int inset = scope.Grid().Pixels(3);
+  const QRect grip = scope.Map(handle).adjusted(across ? 0 : inset, across ? inset : 0, across ? 0 : -inset,
+                                                across ? -inset : 0);
+  PaintRounded(painter, grip, std::min(grip.width(), grip.height()) / 2.0,
+               held ? QColor(colours.accent) : BorderColour(option));
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(BorderColour(option));
+  for (std::size_t i = 0; i < arrows.size(); ++i) {
+    const QRectF place = scope.Map(arrows[i]);
+    const double size = std::min(place.width(), place.height()) / 4;
+    const double tip = i == 0 ? -size : size;
+    QPolygonF arrow({QPointF(-size, -tip / 2), QPointF(size, -tip / 2), QPointF(0, tip / 2)});
+    if (across) arrow = QTransform().rotate(-90).map(arrow);
+    painter.drawPolygon(arrow.translated(place.center()));
   }
 }
 
-QPixmap PaintSign(const BoxSign& sign, int size) {
-  QPixmap pixmap(size, size);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.scale(size / 32.0, size / 32.0);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(sign.colour));
-  if (sign.triangle) {
-    painter.setPen(QPen(QColor(sign.colour), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolygon(QPolygonF({QPointF(16, 4), QPointF(29.5, 27), QPointF(2.5, 27)}));
-  } else {
-    painter.drawEllipse(QRectF(1, 1, 30, 30));
-  }
-  painter.setPen(QPen(QColor(TheColours().accent_text), 3.4, Qt::SolidLine, Qt::RoundCap));
-  if (sign.symbol == 'x') {
-    painter.drawLine(QPointF(11, 11), QPointF(21, 21));
-    painter.drawLine(QPointF(21, 11), QPointF(11, 21));
-    return pixmap;
-  }
-  painter.setFont(ToQFont(Font{"Arial", 16.5, true}, 1));
-  const QRect place(0, sign.triangle ? 3 : 0, 32, 32);
-  PaintText(painter, place, Align::Centre, QString(QLatin1Char(sign.symbol)));
-  return pixmap;
+void PaintTab(const QStyleOptionTab& option, QPainter& painter) {
+  const DeviceScope scope(painter, nullptr);
+  const Colours& colours = TheColours();
+  const bool chosen = Has(option, QStyle::State_Selected);
+  const bool hovered = Has(option, QStyle::State_MouseOver) && !chosen;
+  // Each shares its edge with the next one.
+  const int line = scope.Grid().Pixels(1);
+  const bool last = option.position == QStyleOptionTab::End || option.position == QStyleOptionTab::OnlyOneTab;
+  const QRect place = scope.Map(option.rect).adjusted(0, 0, last ? 0 : line, 0);
+  PaintRounded(painter, place, 0,
+               hovered  ? colours.hover
+               : chosen ? colours.paper
+                        : colours.window,
+               colours.thin_line, line);
+  const int strip = scope.Grid().Pixels(4);
+  if (chosen)
+    painter.fillRect(place.adjusted(line, place.height() - strip, -line, 0), QColor(colours.accent));
 }
 
 }  // namespace
@@ -294,10 +246,14 @@ void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, 
     if (element == CE_RadioButton) return PaintChoice(*button, *painter, widget, true);
     if (element == CE_CheckBox) return PaintChoice(*button, *painter, widget, false);
   }
+  const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+  if (element == CE_TabBarTabShape && tab != nullptr) return PaintTab(*tab, *painter);
+  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  if (element == CE_MenuItem && item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator) {
+    return painter->fillRect(item->rect.left(), item->rect.center().y(), item->rect.width(), 1,
+                             QColor(TheColours().thin_line));
+  }
   QProxyStyle::drawControl(element, option, painter, widget);
-  if (element != CE_TabBarTabShape || !Has(*option, State_Selected)) return;
-  // The base's own sign of the chosen tab is lost on dark grounds.
-  painter->fillRect(option->rect.adjusted(2, option->rect.height() - 4, -2, 0), TheColours().accent);
 }
 
 void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -309,6 +265,11 @@ void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
   if (control == CC_Slider && slider != nullptr && slider->orientation == Qt::Horizontal) {
     return PaintSlider(*slider, *painter, subControlRect(CC_Slider, option, SC_SliderGroove, widget),
                        subControlRect(CC_Slider, option, SC_SliderHandle, widget));
+  }
+  if (control == CC_ScrollBar && slider != nullptr) {
+    const auto part = [&](SubControl each) { return subControlRect(CC_ScrollBar, option, each, widget); };
+    return PaintScrollBar(*slider, *painter, part(SC_ScrollBarSlider),
+                          {part(SC_ScrollBarSubLine), part(SC_ScrollBarAddLine)});
   }
   QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
@@ -323,7 +284,10 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     const DeviceScope scope(*painter, nullptr);
     return PaintEdge(*painter, scope, scope.Map(widget->rect()));
   }
-  if (element == PE_FrameLineEdit || element == PE_Frame) return PaintOutline(*option, *painter);
+  if (element == PE_FrameLineEdit || element == PE_Frame) {
+    return PaintOutline(*option, *painter, BorderColour(*option));
+  }
+  if (element == PE_FrameMenu) return PaintOutline(*option, *painter, TheColours().border);
   QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
@@ -356,6 +320,8 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
       return Zoomed(kIndicator);
+    case PM_MenuPanelWidth:
+      return 1;
     case PM_MessageBoxIconSize:
       return Zoomed(kSignSize);
     case PM_RadioButtonLabelSpacing:
@@ -381,11 +347,8 @@ QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option, 
 
 QIcon CalmStyle::standardIcon(StandardPixmap standard, const QStyleOption* option,
                               const QWidget* widget) const {
-  const std::optional<BoxSign> sign = SignOf(standard);
-  if (!sign) return QProxyStyle::standardIcon(standard, option, widget);
-  QIcon icon;
-  for (const int size : {32, 40, 48, 64, 96, 128}) icon.addPixmap(PaintSign(*sign, size));
-  return icon;
+  const QIcon sign = BoxSign(standard);
+  return sign.isNull() ? QProxyStyle::standardIcon(standard, option, widget) : sign;
 }
 
 QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,

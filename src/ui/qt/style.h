@@ -9,9 +9,9 @@
 
 namespace kestrel {
 
-// Buttons, options, check boxes, combo boxes, sliders, frames and the signs of message boxes are drawn here, with
-// borders that can be seen in every palette; everything else comes from
-// Fusion, which is on every system.
+// Buttons, options, check boxes, combo boxes, sliders, scroll bars, tabs, frames and the signs of message boxes are
+// drawn here, with borders that can be seen in every palette; everything else comes from Fusion, which is on every
+// system.
 class CalmStyle final : public QProxyStyle {
  public:
   explicit CalmStyle(const Look& look);
