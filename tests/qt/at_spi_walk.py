@@ -50,9 +50,12 @@ def all_under(node):
 
 
 def walk(application):
-    def find(name, role=None):
+    def find(name, *roles):
         return next((node for node in all_under(application) if node.get_name().startswith(name)
-                     and (role is None or node.get_role_name() == role)), None)
+                     and (not roles or node.get_role_name() in roles)), None)
+
+    def button(name):
+        return find(name, "push button", "button")  # as older and newer ones call it
 
     def press(node, action="Press"):
         names = [node.get_action_name(i) for i in range(node.get_n_actions())]
@@ -63,7 +66,7 @@ def walk(application):
     assert window.get_role_name() in ("window", "frame"), window.get_role_name()
     wait("the first round", lambda: not find("Very Easy", "progress bar"))
     press(find("Medium"), "Toggle")
-    press(find("Next", "push button"))
+    press(button("Next"))
     board = wait("the board", lambda: find("Sudoku board", "table"))
     table = board.get_table_iface()
     assert (table.get_n_rows(), table.get_n_columns()) == (9, 9)
@@ -77,9 +80,9 @@ def walk(application):
     digit = before.rsplit(" ", 1)[1]
     press(next(mark for mark in all_under(cell) if mark.get_name().startswith("mark " + digit)))
     wait("the digit", lambda: cell.get_name() == before.split(", ")[0] + ", " + digit)
-    press(find("Undo", "push button"))
+    press(button("Undo"))
     wait("the digit to go", lambda: cell.get_name() == before)
-    press(find("Hint", "push button"))
+    press(button("Hint"))
     wait("the hint", lambda: find("Show help on "))
 
 

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSlider>
+#include <QTableView>
 #include <QTest>
 
 #include "qt/qt_game.h"
@@ -52,7 +53,7 @@ TEST(Dialogs, OpenAsksUntilTheNumberFits) {
   game.Expect([](QWidget& box) {
     // A click in the map fills the number in, and no more.
     auto* field = box.findChild<QLineEdit*>();
-    auto* map = box.findChild<RecordsMap*>();
+    auto* map = box.findChild<QTableView*>();
     const QRect place = map->visualRect(map->model()->index(4, 1));
     QTest::mouseClick(map->viewport(), Qt::LeftButton, {}, place.center());
     EXPECT_EQ(field->selectedText(), "42");
@@ -73,7 +74,7 @@ TEST(Records, FollowTheGame) {
   game.ClickControl("StatusBar(4)");
   RecordsWindow* window = game.front_end.Records();
   ASSERT_NE(window, nullptr);
-  const auto* map = window->findChild<RecordsMap*>();
+  const auto* map = window->findChild<QTableView*>();
   const auto twelve = [&] { return map->model()->index(1, 1).data(Qt::ToolTipRole).toString(); };
   EXPECT_EQ(twelve(), "Number 12: no best time yet");
   record.BestSeconds = 59;
