@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/main_extras.h"
 
-#include <algorithm>
+#include <type_traits>
 
 #include "core/level_names.h"
 #include "core/text.h"
@@ -19,12 +19,12 @@ namespace kestrel {
 
 namespace {
 
-// The controls of the main window whose tooltips depend on the state.
-constexpr ControlId kTipped[] = {
-    {"CommandNew"},       {"CommandOpen"},   {"CommandRestart"},  {"CommandUndo"},   {"CommandRedo"},
-    {"CommandResetCell"}, {"CommandHint"},   {"CommandSolution"}, {"chkSound"},      {"OptionType", 1},
-    {"OptionType", 2},    {"OptionType", 3}, {"OptionType", 4},   {"OptionType", 5}, {"RenewLevel", 1},
-    {"RenewLevel", 2},    {"RenewLevel", 3}, {"RenewLevel", 4},   {"RenewLevel", 5}};
+// Whether the tooltip of such a control depends on the state: what can be pressed says why it cannot be now.
+template <typename Control>
+constexpr bool IsTipped(ControlId id) {
+  return std::is_same_v<Control, Button> || std::is_same_v<Control, CheckBox> ||
+         std::is_same_v<Control, OptionButton> || id.name == "RenewLevel";
+}
 
 void SetTip(QWidget& widget, const std::string& tip) {
   const QString text = ToQString(tip);
@@ -45,7 +45,7 @@ MainExtras::MainExtras(Mirror& mirror, const MainWindow& main, QWidget& window, 
     if (i < kTechniques) LeaveToAnother(*label);  // the count is read with its name
   }
   EachControl(main_, [&](ControlId id, const auto& control) {
-    if (std::ranges::find(kTipped, id) == std::end(kTipped)) return;
+    if (!IsTipped<std::remove_cvref_t<decltype(control)>>(id)) return;
     tipped_.push_back({id, mirror_.WidgetOf(FormId::Main, id), control.tooltip});
   });
   clock_ = dynamic_cast<TextLabel*>(mirror_.WidgetOf(FormId::Main, {"LabelTijd"}));
