@@ -46,11 +46,12 @@ std::optional<std::string> Unquoted(std::string_view text) {
   return std::nullopt;
 }
 
-// What one line says: a section, a key with its value, or neither.
+// What one line says: a section, a key with what stands behind it, or neither. A value is taken out of its quotes only
+// where it is wanted: every question reads all lines.
 struct Line {
   std::optional<std::string_view> section;
   std::string_view key;
-  std::optional<std::string> value;
+  std::string_view quoted;
 };
 
 Line ParseLine(std::string_view text) {
@@ -61,7 +62,7 @@ Line ParseLine(std::string_view text) {
     line.section = text.substr(1, text.size() - 2);
   } else if (const std::size_t equals = text.find('='); equals != kNowhere) {
     line.key = Trimmed(text.substr(0, equals));
-    line.value = Unquoted(Trimmed(text.substr(equals + 1)));
+    line.quoted = Trimmed(text.substr(equals + 1));
   }
   return line;
 }
@@ -78,13 +79,14 @@ Place FindPlace(const std::vector<std::string>& lines, std::string_view section,
   Place place;
   bool inside = section.empty();
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    Line line = ParseLine(lines[i]);
+    const Line line = ParseLine(lines[i]);
     if (line.section) inside = *line.section == section;
     if (!inside) continue;
     if (!Trimmed(lines[i]).empty()) place.section_end = i + 1;
-    if (!line.section && line.value && line.key == key) {
+    if (line.section || line.key != key) continue;
+    if (std::optional<std::string> value = Unquoted(line.quoted)) {
       place.line = i;
-      place.value = std::move(*line.value);
+      place.value = std::move(*value);
     }
   }
   return place;
