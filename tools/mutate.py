@@ -88,10 +88,9 @@ class Worker:
         self.scratch = os.path.abspath(f"{self.root}/scratch")
         self.copy_sources()
         launcher = ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"] if shutil.which("ccache") else []
-        linker = ["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"] if shutil.which("ld.lld") else []
         configured = self.run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
                                "-DCMAKE_CXX_FLAGS_DEBUG=-O1", "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST",
-                               *launcher, *linker], 300)
+                               *launcher], 300)
         if configured or self.make("all"):
             raise RuntimeError(f"{self.root} does not build without a fault")
         self.measure()
