@@ -5,6 +5,7 @@
 #   start      from the moment the program is started until the first round is done and the window painted; the
 #              fastest and the middle one of RUNS starts (10 when left out)
 #   clicks     from the release of the mouse button until the board has been painted, idle and during a renewal
+#   counting   mere counting, as long as a click in the middle: its slowest ones are the machine's own doing
 #   idling     processor time with a puzzle open and the clock running
 #   renewals   from the answer to the question until the level can be chosen again
 #   memory     the most that was resident

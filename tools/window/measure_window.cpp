@@ -167,6 +167,27 @@ void PrintClicks(const char* what, const std::vector<double>& times) {
               at(0.99), times.back(), times.size());
 }
 
+// How long mere counting takes that needs `milliseconds` at best, 500 times as far apart as clicks: what the machine
+// adds by itself, to read the times of clicks against.
+std::vector<double> CountingTimes(double milliseconds) {
+  const auto count = [](long steps) {
+    const Clock::time_point start = Clock::now();
+    for (volatile long i = 0; i < steps;) i = i + 1;
+    return Milliseconds(Clock::now() - start);
+  };
+  constexpr long kTrial = 200'000;
+  double fastest = count(kTrial);
+  for (int i = 0; i < 50; ++i) fastest = std::min(fastest, count(kTrial));
+  const auto steps = static_cast<long>(milliseconds / fastest * static_cast<double>(kTrial));
+  std::vector<double> times;
+  for (int i = 0; i < 500; ++i) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(25));
+    times.push_back(count(steps));
+  }
+  std::sort(times.begin(), times.end());
+  return times;
+}
+
 void Send(GameApplication& game, ControlId control) {
   Event event;
   event.control = control;
@@ -247,7 +268,9 @@ int main(int argc, char** argv) {
   BoardWidget& board = *game.TheFrontEnd().Windows().Board();
   ClickTimer clicks(board);
   Open(game, 3);
-  PrintClicks("click to painted board", clicks.Run(game, 500));
+  const std::vector<double> played = clicks.Run(game, 500);
+  PrintClicks("click to painted board", played);
+  PrintClicks("mere counting as long", CountingTimes(played[played.size() / 2]));
   std::printf("peak memory, playing               %.1f MB\n", PeakMemory());
   constexpr int kIdleSeconds = 10;
   const double before = ProcessorSeconds();
