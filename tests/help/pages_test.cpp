@@ -158,6 +158,7 @@ TEST(Pages, MistakesInTheTextsAreReported) {
                            "\n@walk back\n", "\n@example swordfish-rows | Rows\n"}) {
     EXPECT_NE(error_after([&](SiteInput& input) { input.texts["x_wing.html"] += line; }), "") << line;
   }
+  EXPECT_NE(error_after([](SiteInput& input) { input.styles["help.css"].clear(); }), "");
   // An example that no page shows would ship a picture for nobody.
   EXPECT_NE(error_after([](SiteInput& input) {
               std::string& text = input.texts["x_wing.html"];

@@ -123,11 +123,13 @@ TEST(Look, FollowsTheFilesOfDesktops) {
 }
 
 // What stands on a help page, as the view laid it out: every text against the ground of its cell, or the page's.
-void ExpectReadable(const QTextDocument& page, double least) {
+// The page's ground is that of its pictures.
+void ExpectReadable(const QTextDocument& page, const QColor& pictures, double least) {
   const auto ground_of = [](const QTextFormat& format, const QColor& around) {
     return format.hasProperty(QTextFormat::BackgroundBrush) ? format.background().color() : around;
   };
   const QColor paper = ground_of(page.rootFrame()->frameFormat(), TheColours().paper);
+  EXPECT_EQ(paper, pictures);
   for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
     const QTextTable* table = QTextCursor(block).currentTable();
     const QColor cell = table == nullptr ? paper : ground_of(table->cellAt(block.position()).format(), paper);
@@ -144,14 +146,14 @@ TEST(Look, HelpPagesCanBeReadInEveryPalette) {
   for (const Scheme scheme : kSchemes) {
     SetUpLook({scheme, 1});
     const double least = scheme == Scheme::HighContrast ? 7 : 4.5;
+    const Palette& p = HelpView::PictureColours(scheme);
     HelpView view(nullptr);
     view.SetFolder(QStringLiteral(KESTREL_SOURCE_DIR "/data/help"));
     for (const char* name : {"index.html", "words.html", "x_wing.html", "practice.html"}) {
       view.Navigate(std::string(kHelpFolder) + name);
       EXPECT_GT(view.document()->blockCount(), 10) << name;
-      ExpectReadable(*view.document(), least);
+      ExpectReadable(*view.document(), p.paper, least);
     }
-    const Palette& p = HelpView::PictureColours(scheme);
     Meetings signs = {{p.on_cause, {p.cause}}, {p.cause, {p.paper}}, {p.ink, {p.gone_ground, p.paper}}};
     for (const char* ink : {p.mark, p.given, p.digit})
       signs.push_back({ink, {p.paper, p.unit_wash, p.lose_wash}});

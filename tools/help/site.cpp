@@ -77,6 +77,9 @@ class Builder {
     for (const Example& example : input_.examples.examples) {
       if (!IsPicture(example.key)) Fail("example " + example.key, "is on no page");
     }
+    for (const auto& [name, style] : input_.styles) {
+      if (style.empty()) Fail(name, "is missing or empty");
+    }
     site_.files.insert(input_.styles.begin(), input_.styles.end());
     return std::move(site_);
   }
