@@ -47,7 +47,7 @@ struct Screens : QtGame {
       ClickMark(EmptyCell(), SolutionOf(EmptyCell()));
     }
     QTest::mouseMove(Window().windowHandle(), QPoint(2, 2));
-    Settle();
+    EXPECT_TRUE(WaitFor([this] { return !front_end.Windows().Board()->Lens(); }));
   }
   // What the box or dialog looks like that a click on the control opens; it is closed again.
   void ShowBox(const std::string& name, std::string_view control) {
