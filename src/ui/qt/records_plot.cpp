@@ -97,15 +97,15 @@ Axis TimeAxis(const LevelRecords& records) {
 }  // namespace
 
 QIcon HolderSign(const QPalette& palette, int place) {
-  constexpr int kIcon = 16;
-  QPixmap pixmap(2 * kIcon, 2 * kIcon);
+  const int size = Scaled(kHolderSign);
+  QPixmap pixmap(2 * size, 2 * size);
   pixmap.setDevicePixelRatio(2);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(HolderColour(palette, place));
-  PaintSign(painter, QPointF(kIcon / 2.0, kIcon / 2.0), 10, place);
+  PaintSign(painter, QPointF(size / 2.0, size / 2.0), Scaled(10), place);
   return QIcon(pixmap);
 }
 

@@ -21,6 +21,8 @@ class RecordsPlot final : public QWidget {
   LevelRecords records_;
 };
 
+inline constexpr int kHolderSign = 16;  // pixels of 96 dpi
+
 // The sign of the holder in that place, from 0: shape and colour, so that neither has to be seen alone.
 [[nodiscard]] QIcon HolderSign(const QPalette& palette, int place);
 

@@ -47,6 +47,7 @@ RecordsWindow::RecordsWindow(const Session& session) : session_(session) {
 void RecordsWindow::ApplyLook() {
   map_.Resize();
   holders_.setFixedSize(Scaled(kPlotWidth), Scaled(kHoldersHeight));
+  holders_.setIconSize(QSize(Scaled(kHolderSign), Scaled(kHolderSign)));
   plot_.setFixedWidth(Scaled(kPlotWidth));
   plot_.setMinimumHeight(Scaled(kHoldersHeight));
   layout()->setContentsMargins(Scaled(kAir), Scaled(kAir), Scaled(kAir), Scaled(kAir));
