@@ -42,9 +42,12 @@ TEST(Help, FollowsPagesForwardAndBack) {
   game.ClickMark(game.EmptyCell(), game.SolutionOf(game.EmptyCell()));
   EXPECT_EQ(game.State().play.history.StepCount(), 1);
 
+  QString told;
+  game.front_end.Windows().on_other_page = [&](const QString& title) { told += title + ';'; };
   QTest::keyClick(&view, Qt::Key_Tab);
   QTest::keyClick(&view, Qt::Key_Return);
   EXPECT_EQ(view.toPlainText(), "One candidate left");
+  EXPECT_EQ(told, "Naked Single - Help;");
   window.resize(900, 700);
   game.Settle();
   EXPECT_EQ(view.accessibleName(), "Naked Single - Help");

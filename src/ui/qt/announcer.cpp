@@ -48,10 +48,15 @@ void Announcer::Sync() {
   if (!QAccessible::isActive()) return;
   const News news = news_.Since(board_.Main());
   if (news.text.empty()) return;
-  text_ = QString::fromStdString(news.text);
+  QString text = QString::fromStdString(news.text);
   if (news.cell >= 0) {
-    text_ = board_.Items()[static_cast<std::size_t>(news.cell)]->SpokenName() + QStringLiteral("; ") + text_;
+    text = board_.Items()[static_cast<std::size_t>(news.cell)]->SpokenName() + QStringLiteral("; ") + text;
   }
+  Say(text);
+}
+
+void Announcer::Say(const QString& text) {
+  text_ = text;
   QAccessibleEvent event(this, QAccessible::ObjectShow);
   QAccessible::updateAccessibility(&event);
 }

@@ -20,6 +20,9 @@ class Announcer final : public QObject {
   // Says what is new on the board since the last call, if anybody listens.
   void Sync();
 
+  // Says this, if anybody listens.
+  void Say(const QString& text);
+
   [[nodiscard]] const QString& Text() const { return text_; }
   [[nodiscard]] BoardWidget& Board() const { return board_; }
 

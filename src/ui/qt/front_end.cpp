@@ -113,6 +113,7 @@ FrontEnd::FrontEnd(const HostPorts& host, const std::string& help_folder, bool u
 
 void FrontEnd::PrepareMainWindow() {
   announcer_ = std::make_unique<Announcer>(*mirror_.Board());
+  mirror_.on_other_page = [this](const QString& title) { announcer_->Say(title); };
   InstallShortcuts(mirror_);
   mirror_.Extras()->Menu().on_records = [this] { OpenRecords(); };
   for (int panel = 3; panel <= 5; ++panel) {

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "forms/texts.h"
 #include "ui/qt/board_widget.h"
@@ -141,9 +142,12 @@ void Mirror::BuildBrowser(View& view) {
   help_->SetFolder(surroundings_.help_folder);
   help_bar_ = new HelpBar(*view.window, *help_);
   help_->on_page = [this, &view](const QString& title) {
-    WebView& control = forms_->browser.WebBrowser1;
-    control.spoken = title.isEmpty() ? std::string(texts::kHelpPage) : title.toStdString();
+    std::string& spoken = forms_->browser.WebBrowser1.spoken;
+    const std::string before =
+        std::exchange(spoken, title.isEmpty() ? std::string(texts::kHelpPage) : title.toStdString());
     for (const MirroredPtr& each : view.controls) each->Sync();
+    // When the window opens, a screen reader says it with the place of the keyboard.
+    if (on_other_page && help_->isVisible() && spoken != before) on_other_page(ToQString(spoken));
   };
   OfferSolving(ended_ ? &*ended_ : nullptr);
 }

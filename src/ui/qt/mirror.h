@@ -61,6 +61,8 @@ class Mirror {
   QWidget* WidgetOf(FormId form, ControlId control);
   [[nodiscard]] BoardWidget* Board() const { return board_; }
   [[nodiscard]] HelpView* Help() const { return help_; }
+  // The help window, while it is open, shows another page; its title.
+  std::function<void(const QString& title)> on_other_page;
   // The puzzle that the help window may tell all about; null: none.
   void OfferSolving(const DigitGrid* givens);
   // Null before the main window was made.
