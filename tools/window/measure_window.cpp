@@ -167,25 +167,23 @@ void PrintClicks(const char* what, const std::vector<double>& times) {
               at(0.99), times.back(), times.size());
 }
 
-// How long mere counting takes that needs `milliseconds` at best, 500 times as far apart as clicks: what the machine
-// adds by itself, to read the times of clicks against.
+// How long mere counting takes that needs `milliseconds` in the middle, as far apart as clicks: how much longer it
+// takes now and then is what the machine adds by itself, to read the times of clicks against.
 std::vector<double> CountingTimes(double milliseconds) {
-  const auto count = [](long steps) {
-    const Clock::time_point start = Clock::now();
-    for (volatile long i = 0; i < steps;) i = i + 1;
-    return Milliseconds(Clock::now() - start);
+  const auto measure = [](long steps, int times) {
+    std::vector<double> taken;
+    for (int i = 0; i < times; ++i) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(25));
+      const Clock::time_point start = Clock::now();
+      for (volatile long step = 0; step < steps;) step = step + 1;
+      taken.push_back(Milliseconds(Clock::now() - start));
+    }
+    std::sort(taken.begin(), taken.end());
+    return taken;
   };
-  constexpr long kTrial = 200'000;
-  double fastest = count(kTrial);
-  for (int i = 0; i < 50; ++i) fastest = std::min(fastest, count(kTrial));
-  const auto steps = static_cast<long>(milliseconds / fastest * static_cast<double>(kTrial));
-  std::vector<double> times;
-  for (int i = 0; i < 500; ++i) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(25));
-    times.push_back(count(steps));
-  }
-  std::sort(times.begin(), times.end());
-  return times;
+  constexpr long kTrial = 100'000;
+  const double trial = measure(kTrial, 51)[25];
+  return measure(static_cast<long>(milliseconds / trial * static_cast<double>(kTrial)), 500);
 }
 
 void Send(GameApplication& game, ControlId control) {
