@@ -227,6 +227,28 @@ def write_report(results):
             file.write(f"| `{folder}` | {planted} | {seen} |\n")
 
 
+class Handled:
+    """What has been planted, in a file: a run of the same sources, seed and pattern that was broken off goes on."""
+    path = f"{BASE}/handled.json"
+
+    def __init__(self, run):
+        self.run, self.faults = run, []  # of a fault that did not compile None is kept instead of a test's name
+        if os.path.isfile(self.path):
+            with open(self.path, encoding="utf-8") as file:
+                before = json.load(file)
+            if before["run"] == run:
+                self.faults = [(Fault(*fault), seen) for fault, seen in before["faults"]]
+
+    def add(self, fault, seen):
+        self.faults.append((fault, seen))
+        with open(self.path + ".new", "w", encoding="utf-8") as file:
+            json.dump({"run": self.run, "faults": self.faults}, file)
+        os.replace(self.path + ".new", self.path)
+
+    def results(self):
+        return [(fault, seen) for fault, seen in self.faults if seen is not None]
+
+
 def main():
     os.nice(10)
     os.makedirs(BASE, exist_ok=True)
@@ -242,10 +264,18 @@ def main():
     state = subprocess.run(["git", "describe", "--always", "--dirty"], check=True, capture_output=True, text=True)
     print(f"The tree is {state.stdout.strip()}", flush=True)
     names = [str(n) for n in range(int(os.environ.get("WORKERS", os.cpu_count() or 1)))]
+    run = [state.stdout.strip(), *sys.argv[2:]]
+    if sys.argv[1] == "again" or run[0].endswith("-dirty"):
+        run.append(time.time())  # not the sources of any run before
+    handled = Handled(run)
+    before = {fault for fault, _ in handled.faults}
     waiting = queue.SimpleQueue()
     for fault in drawn:
-        waiting.put(fault)
-    results, lock, start = [], threading.Lock(), time.monotonic()
+        if fault not in before:
+            waiting.put(fault)
+    results, lock, start = handled.results(), threading.Lock(), time.monotonic()
+    if results:
+        print(f"{len(results)} of them were planted before", flush=True)
 
     def work(name):
         worker = Worker(name)
@@ -253,6 +283,7 @@ def main():
             fault = waiting.get()
             seen = worker.noticed(fault)
             with lock:
+                handled.add(fault, seen)
                 if seen is None or len(results) >= count:
                     continue
                 results.append((fault, seen))
