@@ -46,12 +46,13 @@ std::string Drawn(std::string_view bar, std::string_view band, char open, std::s
 TEST(Formats, AreToldApartAndMixed) {
   const std::string line(kPuzzle);
   std::string utf16 = "\xFF\xFE";
-  for (const char c : line + "\r\n" + line) utf16 += {c, '\0'};
+  for (const char c : line + "\r\n" + line + "\r\n" + line) utf16 += {c, '\0'};
+  utf16.replace(utf16.size() - 82, 2, "5\1", 2);  // a letter whose low byte is that of a digit
   const std::vector<std::pair<std::string, std::string>> cases{
       {"\xEF\xBB\xBF" + line + " a note\r\n\r\n \t\n# a remark\n" + std::string(130, ' ') + line + ",x",
        "1 #|5 #"},
       {line + "\r" + line + "\r", "1 #|2 #"},
-      {utf16, "1 #|2 #"},
+      {utf16, "1 #|2 #|3 character 41 is '?', not a digit or '.'"},
       {"quizzes,solutions\n" + line + "," + line + "\nid;Puzzle\n7;\"" + line + "\"\n", "2 #|4 #"},
       {Drawn("", "", '.') + Drawn("", "", '0', " ") + "\n" + line, "1 #|10 #|20 #"},
       {Drawn("|", "|-------+-------+-------|\n", '*', " "), "2 #"},

@@ -48,6 +48,8 @@ TEST(Help, FollowsPagesForwardAndBack) {
   QTest::keyClick(&view, Qt::Key_Return);
   EXPECT_EQ(view.toPlainText(), "One candidate left");
   EXPECT_EQ(told, "Naked Single - Help;");
+  window.showNormal();
+  EXPECT_EQ(window.width(), game.Controls().browser.window.width / kTwipsPerPixel);
   window.resize(900, 700);
   game.Settle();
   EXPECT_EQ(view.accessibleName(), "Naked Single - Help");

@@ -31,6 +31,8 @@ TEST(Script, EndsAtALineThatIsNoCommand) {
     EXPECT_TRUE(played.Has("echo one")) << line;
     EXPECT_FALSE(played.Has("echo five")) << line;
   }
+  GameHome home;
+  EXPECT_TRUE(home.Play("press cmdPlayers\nselect Naamlijst 0\n").errors.starts_with("line 2: "));
 }
 
 TEST(Script, EndingInABoxLeavesTheGameAsItIs) {
