@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The stock reader, and opening, playing, hinting and solving the first records of what it read. Input: a byte that
-// chooses the level and whether they are printed, too, then the records of that level from number 1 on; the last one may
-// be cut short.
+// chooses the level and whether they are played, and printed, too, then the records of that level from number 1 on; the
+// last one may be cut short.
 #include <algorithm>
 
 #include "played_game.h"
@@ -42,6 +42,7 @@ void TestOneInput(const std::uint8_t* data, std::size_t size) {
   const Bytes encoded = EncodeStock(table);
   Require(AsText(encoded.data(), encoded.size()) == read);
 
+  if (size > 0 && data[0] / kLevels % 4 != 0) return;
   std::string script;
   // Many show nothing that two do not, and take long.
   const int count = static_cast<int>(std::min<std::size_t>(records.size() / kRecordBytes + 1, 2));
