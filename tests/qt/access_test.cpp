@@ -182,6 +182,11 @@ TEST(Access, TechniqueRowsAreLinks) {
   EXPECT_EQ(links, kTechniques);
   EXPECT_EQ(Access(game, "LabelCount(6)").role(), QAccessible::Link);
   EXPECT_EQ(Access(game, "LabelTijd").role(), QAccessible::StaticText);
+  QWidget* row = game.Widget("LabelCount(6)");
+  QTest::mouseClick(row, Qt::RightButton);
+  QTest::mousePress(row, Qt::LeftButton);
+  QTest::mouseRelease(row, Qt::LeftButton, {}, QPoint(-20, 5));
+  EXPECT_FALSE(game.Controls().browser.window.open);
   Do(game, "LabelCount(6)", Press());
   EXPECT_TRUE(game.Controls().browser.window.open);
 }
