@@ -187,6 +187,11 @@ TEST(Access, TechniqueRowsAreLinks) {
   QTest::mousePress(row, Qt::LeftButton);
   QTest::mouseRelease(row, Qt::LeftButton, {}, QPoint(-20, 5));
   EXPECT_FALSE(game.Controls().browser.window.open);
+  QTest::mouseClick(row, Qt::LeftButton);
+  EXPECT_TRUE(game.Controls().browser.window.open);
+  game.front_end.Windows().WindowOf(FormId::Browser).close();
+  game.Settle();
+  EXPECT_FALSE(game.Controls().browser.window.open);
   Do(game, "LabelCount(6)", Press());
   EXPECT_TRUE(game.Controls().browser.window.open);
 }
