@@ -203,6 +203,8 @@ TEST(Report, IsOnePageThatIsValid) {
     all[2] = folder.Path("<&\">.kpz");
     EXPECT_EQ(RunWith(all).status, 2);
   }
+  EXPECT_NE(RunWith({"report", folder.Path("puzzles")}).out.find("Very Easy, score 60: 2<"),
+            std::string::npos);
   EXPECT_NE(RunWith({"report", "--stock", folder.Path("<&\">.kpz")}).out.find("Hard 3: 1:11:00, score"),
             std::string::npos);
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <sstream>
+#include <utility>
 
 #include "core/text.h"
 #include "formats/puzzle_stream.h"
@@ -48,6 +49,8 @@ TEST(Formats, AreToldApartAndMixed) {
   std::string utf16 = "\xFF\xFE";
   for (const char c : line + "\r\n" + line + "\r\n" + line) utf16 += {c, '\0'};
   utf16.replace(utf16.size() - 82, 2, "5\1", 2);  // a letter whose low byte is that of a digit
+  std::string big_endian = utf16;
+  for (std::size_t i = 0; i < utf16.size(); i += 2) std::swap(big_endian[i], big_endian[i + 1]);
   const std::vector<std::pair<std::string, std::string>> cases{
       {"\xEF\xBB\xBF" + line + " a note\r\n\r\n \t\n# a remark\n" + std::string(130, ' ') + line + ",x",
        "1 #|5 #"},
@@ -76,6 +79,7 @@ TEST(Formats, AreToldApartAndMixed) {
       {Drawn("", "", '.').replace(12, 1, "") + line, "1 row 2: has 8 cells instead of 9|10 #"},
       {"<opensudoku>\n<game", "1 broken XML: Error parsing start element tag"},
       {std::string(3'000'000, '7') + "\n" + line, "1 more than 81 characters|2 #"},
+      {big_endian, "1 #|2 #|3 character 41 is '?', not a digit or '.'"},
   };
   for (const auto& [text, expected] : cases) {
     EXPECT_EQ(Read(text), expected) << text.substr(0, 2000);
