@@ -92,8 +92,10 @@ void DesignLevels(MainWindow& main) {
 }
 
 void DesignStartPanel(MainWindow& main) {
-  // Over the whole board, its outer lines included.
-  Place(main.Picture3, 825, 825, CellEdge(8) + kCellSize + 135 - 825, CellEdge(8) + kCellSize + 135 - 825);
+  constexpr int kOuterLines = 135;  // from the outer cells to behind the board's outer lines
+  constexpr int kStart = CellEdge(0) - kOuterLines;
+  constexpr int kSide = CellEdge(8) + kCellSize + kOuterLines - kStart;
+  Place(main.Picture3, kStart, kStart, kSide, kSide);
   main.Picture3.spoken = texts::kProductName;
   for (int level = 1; level <= 5; ++level) {
     Place(main.ProgressBar1(level), 2850, 5400 + 300 * (level - 1), 4815, 120);

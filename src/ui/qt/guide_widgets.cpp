@@ -18,7 +18,7 @@ namespace {
 constexpr QPoint kCardFirst(2, 3);
 constexpr QPoint kCardLast(6, 5);
 // Twips; on the card, and the line between board and commands.
-constexpr int kCardWidth = 4470;
+constexpr int kCardWidth = CellEdge(kCardLast.x() + 1) - CellEdge(kCardFirst.x()) + 2 * kTwipsPerPixel;
 constexpr QRect kCardNext(1313, 1260, 1845, 570);
 constexpr QRect kLine(960, 8805, 7695, 180);
 constexpr int kCross = 240;
