@@ -94,10 +94,10 @@ foreign=
 for each in "$@"; do
   names_of "$each"
   chroot "$roots/processors" dpkg --add-architecture "$each"
-  foreign="$foreign g++-$triplet libcairo2-dev:$each libpugixml-dev:$each"
+  foreign="$foreign g++-$triplet libcairo2-dev:$each libpugixml-dev:$each libsndfile1-dev:$each"
 done
 add_packages processors g++ cmake ninja-build pkg-config qemu-user-static googletest libcli11-dev nlohmann-json3-dev \
-  libpugixml-dev libcairo2-dev fonts-liberation poppler-utils $foreign || { echo "packages: see $roots/processors.packages.log" >&2; exit 1; }
+  libpugixml-dev libcairo2-dev libsndfile1-dev fonts-liberation poppler-utils $foreign || { echo "packages: see $roots/processors.packages.log" >&2; exit 1; }
 { build "$here" "kestrel-sudoku-cli kestrel-sudoku-script" && make_things "$here"; } >"$roots/processors-$here.log" 2>&1 ||
   { echo "here: see build/platforms/processors-$here.log" >&2; exit 1; }
 printf '| processor | tests | of them | made from seeds | time |\n|---|---|---|---|---|\n'

@@ -21,9 +21,8 @@ std::uint64_t PuzzleReader::TotalBytes() const {
   std::uint64_t total = 0;
   for (const std::string& file : files_) {
     std::error_code error;
-    if (file == "-" || !std::filesystem::is_regular_file(file, error)) return 0;
     total += std::filesystem::file_size(file, error);
-    if (error) return 0;
+    if (file == "-" || error) return 0;
   }
   return total;
 }

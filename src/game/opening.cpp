@@ -57,7 +57,6 @@ void ShowPuzzle(Play& play, MainWindow& main, const Choices& choices, const Stoc
   const int level = choices.SelectedLevel;
   const SudokuRecord& record = stock(level, choices.CurrentNumber(level));
   TakeOver(play.puzzle, record, choices.CurrentNumber(level));
-  play.clock.ClearPause();
   ShowStatus(main, play.puzzle, stock, players, level);
   for (int slot = 0; slot < kTechniques; ++slot) {
     main.LabelCount(kTechniques + slot).caption = std::to_string(record.TechniqueCount[slot]);

@@ -161,6 +161,10 @@ TEST_P(PrintedPdf, GathersSolutionsAtTheEnd) {
   // Upside down: the title is at the bottom of the sheet, on the right.
   EXPECT_EQ(PlaceOf(file_, 1, "Kestrel").second < 100, true);
   EXPECT_GT(PlaceOf(file_, 5, "Solutions").second, 740);
+  if (per_page == "4") {  // from margin to margin
+    EXPECT_NEAR(PlaceOf(file_, 5, "10").first, 506.9, 2);
+    EXPECT_NEAR(PlaceOf(file_, 5, "12").first, 180.9, 2);
+  }
   ASSERT_EQ(Print({"--large", "--pages=3"}), 0);
   EXPECT_LT(PlaceOf(file_, 4, "Solutions").second, 100);
 }
@@ -179,7 +183,8 @@ TEST_F(PrintFiles, AnyPuzzlesInEveryFormat) {
   EXPECT_TRUE(folder_.Get("pages-1.png").starts_with("\x89PNG") && folder_.Get("pages-2.png").size() > 1000);
   print("one.svg", {"--pages=1", "--from=5"});
   const std::string drawing = folder_.Get("one.svg");
-  for (const char* line : {"stroke-width[:=]\"?48\\b", "stroke-width[:=]\"?12\\b"}) {
+  for (const char* line : {"stroke-width[:=]\"?48\\b", "stroke-width[:=]\"?12\\b",
+                           R"(fill[:=]"?rgb\(50\.\d*%, ?50\.\d*%, ?50\.\d*%\))"}) {
     EXPECT_TRUE(std::regex_search(drawing, std::regex(line))) << line;
   }
   EXPECT_TRUE(RunWith({"print", "--output=-", folder_.Path("puzzles")}).out.starts_with("%PDF"));

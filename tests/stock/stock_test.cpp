@@ -172,7 +172,7 @@ DigitGrid Turned(const DigitGrid& grid) {
 class ImportTest : public ::testing::Test {
  protected:
   ImportTest() {
-    for (int number = 10; number <= kPuzzlesPerLevel; number += 10) stock_(2, number).BestMinutes = 3;
+    for (int number = 10; number <= kPuzzlesPerLevel; number += 10) stock_(2, number).BestSeconds = 1;
     while (others_.size() < 130) {
       const DigitGrid givens = testing::MakeTestPuzzle(random_);
       if (judge_.Judge(givens).level == 2) others_.push_back(givens);
@@ -210,8 +210,8 @@ TEST_F(ImportTest, FilesNewPuzzlesAndKeepsBestTimes) {
   EXPECT_EQ((std::array{easy.imported, easy.there, easy.kept, easy.made, easy.too_many, easy.times_lost}),
             (std::array{30, 1, 69, 0, 0, 0}));
   int times = 0;
-  for (int number = 1; number <= kPuzzlesPerLevel; ++number) times += result.stock(2, number).BestMinutes;
-  EXPECT_EQ(times, 30);
+  for (int number = 1; number <= kPuzzlesPerLevel; ++number) times += result.stock(2, number).BestSeconds;
+  EXPECT_EQ(times, 10);
   for (const int level : {1, 3, 4, 5}) EXPECT_EQ(result.stock(level, 7), stock_(level, 7));
   const ImportResult fresh = import.Finish(FillWith::New, {.seed = 1, .jobs = 2});
   EXPECT_TRUE(IsSound(fresh.stock));

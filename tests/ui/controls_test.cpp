@@ -22,6 +22,16 @@ TEST(Controls, HaveNamesOfTheirOwn) {
   EXPECT_EQ(names.size(), count);
 }
 
+// Half pixels would blur every edge at 100 %.
+TEST(Controls, StandOnWholePixels) {
+  Forms forms;
+  EachControl(forms, [](FormId, ControlId id, const Control& control) {
+    for (const int twips : {control.left, control.top, control.width, control.height}) {
+      EXPECT_EQ(twips % kTwipsPerPixel, 0) << FullName(id);
+    }
+  });
+}
+
 // The keyboard's order is gapless, and a letter means one thing in a window.
 TEST(Controls, CanBeReachedByKeyboard) {
   Forms forms;
