@@ -65,6 +65,9 @@ TEST(Access, TreeLeadsToEveryMarkAndBack) {
     for (int k = 0; k < item->childCount(); ++k, ++marks) {
       EXPECT_TRUE(item->child(k)->parent() == item && item->indexOfChild(item->child(k)) == k) << i;
     }
+    for (QAccessibleInterface* other : {board, board->child(0), board->child((i + 1) % kCells)->child(0)}) {
+      EXPECT_EQ(item->indexOfChild(other), -1) << i;
+    }
   }
   EXPECT_EQ(marks, 729);
   // As a table, its cells are the board's, and know their headers.
@@ -87,6 +90,7 @@ TEST(Access, TreeLeadsToEveryMarkAndBack) {
   // What is under a point is what the mouse would reach there.
   QAccessibleInterface* mark = &Access(game, game.NextMark());
   EXPECT_EQ(board->childAt(mark->rect().center().x(), mark->rect().center().y()), mark);
+  EXPECT_EQ(board->childAt(board->rect().x(), board->rect().y()), nullptr);
 }
 
 TEST(Access, MarksOfferTheirActions) {

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kPlace = 16;          // pixels
 constexpr int kOtherColour = 40;    // of 255, in any channel
-constexpr int kOtherPixels = 10;    // in a place
+constexpr int kOtherPixels = 5;     // in a place
 constexpr double kOtherGround = 3;  // of 255, in the mean of a place
 constexpr double kOtherInk = 14;    // the same where letters are
 constexpr int kRoomForText = 2;     // pixels by which letters may stand elsewhere

@@ -2,6 +2,7 @@
 // The board under a real mouse: which press reaches which mark, and what is painted again for it.
 #include <gtest/gtest.h>
 
+#include <QBackingStore>
 #include <QPaintEvent>
 #include <QTest>
 
@@ -110,6 +111,36 @@ TEST(Board, PaintsOnlyWhatChanged) {
   play.game.clock.now += 61;
   EXPECT_TRUE(play.game.WaitFor([&] { return play.game.Main().LabelTijd.caption == "01:01"; }));
   EXPECT_TRUE(watch.painted.isEmpty());
+}
+
+// What is painted piece by piece is what the whole would be.
+TEST(Board, LeavesNothingAsItWas) {
+  Play play(3);
+  MainWindow& main = play.game.Main();
+  FormWindow& window = play.game.Window();
+  const auto expect_fresh = [&](const std::string& after) {
+    const QImage shown = dynamic_cast<QImage&>(*window.backingStore()->paintDevice()).copy();
+    const QImage fresh = window.grab().toImage().convertToFormat(shown.format());
+    EXPECT_TRUE(shown == fresh) << after;
+  };
+  const auto press = [&](const char* control) {
+    play.game.ClickControl(control);
+    expect_fresh(control);
+  };
+  for (int digit = 1; digit <= 9; ++digit) {
+    int cell = 0;
+    while (!main.Mark(digit)(cell).visible) ++cell;
+    play.game.ClickMark(cell, digit, Qt::RightButton);
+    expect_fresh("discarding");
+    press("CommandUndo");
+  }
+  play.game.ClickMark(play.cell, play.digit);
+  for (const Label* header : {&main.LabelRow(play.cell / 9), &main.LabelColumn(play.cell % 9)}) {
+    play.game.Click(QtGame::Corner(*header) + QPoint(17, 17));
+    expect_fresh("headers");
+  }
+  for (const char* control : {"CommandResetCell", "CommandHint", "CommandSolution", "CommandNew"})
+    press(control);
 }
 
 TEST(Board, FollowsTheViewMenuAtOnce) {

@@ -23,10 +23,13 @@ constexpr ColourChoice kContrast = ColourChoice::HighContrast;
 struct Screens : QtGame {
   explicit Screens(int level = 0) : QtGame(level) { QApplication::setCursorFlashTime(0); }
 
-  // With the pointer over nothing that answers.
+  QPoint pointer = QPoint(2, 2);  // over nothing that answers
+  void PointAt(std::string_view control) { pointer = Widget(control)->geometry().center(); }
+
   void Show(const std::string& name, QWidget& widget) {
     front_end.Windows().Sync();
-    if (!front_end.Windows().Board()->Lens()) QTest::mouseMove(widget.window()->windowHandle(), QPoint(2, 2));
+    for (const QPoint point : {QPoint(2, 2), pointer})
+      QTest::mouseMove(widget.window()->windowHandle(), point);
     Settle();
     ExpectApproved(name, widget);
   }
@@ -61,6 +64,7 @@ struct Screens : QtGame {
 
 TEST(Pictures, Start) {
   Screens game;
+  game.PointAt("LabelCount(6)");
   game.ShowIn({kDark}, "start", game.Window());
   game.Main().Picture3.visible = true;
   for (int level = 1; level <= 5; ++level) game.Main().ProgressBar1(level).value = 120 - 20 * level;
@@ -72,6 +76,7 @@ TEST(Pictures, Play) {
   Screens easy(1);
   easy.Fill(40);
   easy.Click(QtGame::Corner(easy.Main().LabelRow(2)) + QPoint(17, 17));
+  easy.pointer = QtGame::Corner(easy.Main().LabelColumn(7)) + QPoint(17, 17);
   easy.Show("play_keypad");
 
   Screens medium(3);
@@ -79,9 +84,13 @@ TEST(Pictures, Play) {
   for (const int digit : {1, 5, 9}) medium.ClickMark(medium.EmptyCell(), digit, Qt::RightButton);
   medium.Click(QtGame::Corner(medium.Main().LabelColumn(5)) + QPoint(17, 17));
   medium.Click(QtGame::Corner(medium.Main().LabelRow(2)) + QPoint(17, 17));
+  medium.PointAt("CommandSolution");
   medium.ShowIn({kDark, kContrast}, "play", medium.Window());
   medium.front_end.Choices().SetSize(75);
+  medium.PointAt("CommandUndo");
+  medium.Press(medium.pointer);
   medium.Show("play_75");
+  medium.Release(QPoint(2, 2));
   medium.front_end.Choices().SetSize(100);
 }
 
@@ -90,8 +99,8 @@ TEST(Pictures, HintAndLens) {
   game.Fill(30);
   game.ClickControl("CommandHint");
   const int cell = game.EmptyCell();
-  const QPoint mark = QtGame::Corner(game.Main().Mark(game.SolutionOf(cell))(cell)) + QPoint(8, 8);
-  QTest::mouseMove(game.Window().windowHandle(), mark);
+  game.pointer = QtGame::Corner(game.Main().Mark(game.SolutionOf(cell))(cell)) + QPoint(8, 8);
+  QTest::mouseMove(game.Window().windowHandle(), game.pointer);
   EXPECT_TRUE(game.WaitFor([&] { return game.front_end.Windows().Board()->Lens().has_value(); }));
   game.ShowIn({kDark}, "hint", game.Window());
 }
@@ -99,10 +108,29 @@ TEST(Pictures, HintAndLens) {
 TEST(Pictures, End) {
   Screens game(2);
   game.Fill(0);
+  game.Widget("RenewLevel(3)")->setFocus(Qt::TabFocusReason);
   game.Show("solved");
   game.ClickControl("CommandNew");
   game.ClickControl("CommandSolution");
+  game.Widget("Picture1")->setFocus(Qt::TabFocusReason);
   game.Show("shown");
+}
+
+// The signs of boxes, and scroll bars.
+TEST(Pictures, Parts) {
+  Screens game;
+  QListWidget list;
+  list.setFlow(QListView::LeftToRight);
+  list.setIconSize(QSize(32, 32));
+  for (const auto sign : {QStyle::SP_MessageBoxInformation, QStyle::SP_MessageBoxWarning,
+                          QStyle::SP_MessageBoxCritical, QStyle::SP_MessageBoxQuestion}) {
+    list.addItem(new QListWidgetItem(list.style()->standardIcon(sign), ""));
+  }
+  list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  list.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  list.resize(200, 100);
+  list.show();
+  game.Show("parts", list);
 }
 
 TEST(Pictures, Renewal) {

@@ -23,10 +23,9 @@ namespace kestrel {
 
 namespace {
 
-constexpr int kBoardWidth = 8790;  // headers, cells, outer line; the technique list's marker begins here
-constexpr int kBoardHeight = 8850;
-constexpr int kRest = 150;         // milliseconds without another digit under the pointer
-constexpr int kTooManyRects = 60;  // from here on one big rectangle is cheaper
+constexpr int kBoardSize = CellEdge(kUnitSize);  // with the edge in which a further box's gap would be
+constexpr int kRest = 150;                       // milliseconds without another digit under the pointer
+constexpr int kTooManyRects = 60;                // from here on one big rectangle is cheaper
 
 int TwipsAt(double logical) {
   return static_cast<int>(std::floor(logical * kTwipsPerPixel / TheLook().zoom));
@@ -97,7 +96,7 @@ BoardWidget::BoardWidget(MainWindow& main, EventSink& sink, std::function<bool()
 }
 
 void BoardWidget::ApplyLook() {
-  setGeometry(0, 0, Logical(kBoardWidth), Logical(kBoardHeight));
+  setGeometry(0, 0, Logical(kBoardSize), Logical(kBoardSize));
   update();
 }
 

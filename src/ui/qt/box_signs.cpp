@@ -51,8 +51,9 @@ QPixmap PaintSign(const Sign& sign, int size) {
   }
   painter.setPen(QPen(QColor(TheColours().accent_text), 3.4, Qt::SolidLine, Qt::RoundCap));
   if (sign.symbol == 'x') {
-    painter.drawLine(QPointF(11, 11), QPointF(21, 21));
-    painter.drawLine(QPointF(21, 11), QPointF(11, 21));
+    const QRectF arms(11, 11, 10, 10);
+    painter.drawLine(arms.topLeft(), arms.bottomRight());
+    painter.drawLine(arms.topRight(), arms.bottomLeft());
     return pixmap;
   }
   painter.setFont(ToQFont(Font{"Arial", 16.5, true}, 1));

@@ -136,4 +136,13 @@ void PaintRounded(QPainter& painter, const QRect& place, double radius, const QC
   painter.restore();
 }
 
+void PaintFocus(QPainter& painter, const PixelGrid& grid, const QRect& place) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double line = grid.Pixels(1);
+  const double radius = grid.Pixels(3);
+  painter.setPen(QPen(QColor(TheColours().accent), line));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
+}
+
 }  // namespace kestrel

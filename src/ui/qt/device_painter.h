@@ -66,4 +66,7 @@ void UseDevicePixels(QPainter& painter);
 void PaintRounded(QPainter& painter, const QRect& place, double radius, const QColor& fill,
                   const QColor& border = {}, int line = 0);
 
+// The ring round what has the keyboard.
+void PaintFocus(QPainter& painter, const PixelGrid& grid, const QRect& place);
+
 }  // namespace kestrel

@@ -80,7 +80,7 @@ void HelpBar::Fit() {
   }
   const bool narrow = wide - Scaled(kGap) > this->width();
   const int gap = Scaled(narrow ? kLeastGap : kGap);
-  const int spare = (this->width() - text - (shown - 1) * gap) / std::max(shown, 1);
+  const int spare = (this->width() - text - (shown - 1) * gap) / shown;
   int left = 0;
   for (std::size_t i = 0; i < buttons_.size(); ++i) {
     if (buttons_[i]->isHidden()) continue;

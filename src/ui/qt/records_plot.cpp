@@ -133,21 +133,20 @@ void RecordsPlot::paintEvent(QPaintEvent* /*event*/) {
   const Axis up = TimeAxis(records_);
   const auto x = [&](int score) { return field.left() + field.width() * across.Part(score); };
   const auto y = [&](int seconds) { return field.bottom() - field.height() * up.Part(seconds); };
-  const QColor text = palette().color(QPalette::Text);
-  const QColor line = TheColours().thin_line;
+  const auto stroke = [&](QPointF from, QPointF to) {
+    painter.setPen(QColor(TheColours().thin_line));
+    painter.drawLine(from, to);
+    painter.setPen(palette().color(QPalette::Text));
+  };
   const double height = painter.fontMetrics().height();
   for (int time = 0; time <= up.high; time += up.step) {
-    painter.setPen(line);
-    painter.drawLine(QPointF(field.left(), y(time)), QPointF(field.right(), y(time)));
-    painter.setPen(text);
+    stroke(QPointF(field.left(), y(time)), QPointF(field.right(), y(time)));
     painter.drawText(QRectF(0, y(time) - height / 2, field.left() - Scaled(4), height),
                      Qt::AlignRight | Qt::AlignVCenter, ToQString(texts::RecordTime(time)));
   }
   const int first = (across.low + across.step - 1) / across.step * across.step;
   for (int score = first; score <= across.high; score += across.step) {
-    painter.setPen(line);
-    painter.drawLine(QPointF(x(score), field.bottom()), QPointF(x(score), field.bottom() + Scaled(3)));
-    painter.setPen(text);
+    stroke(QPointF(x(score), field.bottom()), QPointF(x(score), field.bottom() + Scaled(3)));
     painter.drawText(QRectF(x(score) - Scaled(30), field.bottom() + Scaled(3), Scaled(60), height),
                      Qt::AlignHCenter, QString::number(score));
   }

@@ -29,15 +29,6 @@ bool OnlyDigitsAndColon(const QString& text) {
   return !text.isEmpty();
 }
 
-void PaintFocusRing(QPainter& painter, const PixelGrid& grid, const QRect& area) {
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double line = grid.Pixels(1);
-  painter.setPen(QPen(QColor(TheColours().accent), line));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(QRectF(area).adjusted(line / 2, line / 2, -line / 2, -line / 2), grid.Pixels(3),
-                          grid.Pixels(3));
-}
-
 // The picture in the size that fits the scale best.
 QPixmap LoadForRatio(const QString& path, double ratio) {
   const int times = ratio > 2 ? 3 : ratio > 1 ? 2 : 1;
@@ -256,7 +247,7 @@ void LinkLabel::paintEvent(QPaintEvent* /*event*/) {
   DevicePainter surface(*this);
   QPainter& painter = surface.Painter();
   const QRect area = surface.Area();
-  if (hasFocus()) PaintFocusRing(painter, surface.Grid(), area);
+  if (hasFocus()) PaintFocus(painter, surface.Grid(), area);
   if (text() == QLatin1String(">")) {
     PaintArrow(painter, area);
     return;
@@ -299,7 +290,7 @@ void PictureButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(place, pixmap_);
   }
-  if (hasFocus()) PaintFocusRing(painter, surface.Grid(), area);
+  if (hasFocus()) PaintFocus(painter, surface.Grid(), area);
 }
 
 // ---- StartPanel ----

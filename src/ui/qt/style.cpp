@@ -30,16 +30,6 @@ QColor TextColour(const QStyleOption& option) {
   return Has(option, QStyle::State_Enabled) ? QColor(TheColours().text) : QColor(TheColours().disabled_text);
 }
 
-// The ring round what has the keyboard.
-void PaintFocus(QPainter& painter, const DeviceScope& scope, const QRect& place) {
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double line = scope.Grid().Pixels(1);
-  const double radius = scope.Grid().Pixels(3);
-  painter.setPen(QPen(QColor(TheColours().accent), line));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(QRectF(place).adjusted(line / 2, line / 2, -line / 2, -line / 2), radius, radius);
-}
-
 // Dialogs, and every window that asks to have its ground painted by the style.
 bool HasEdge(const QWidget& widget) {
   return widget.isWindow() && ((widget.windowFlags() & Qt::WindowType_Mask) == Qt::Dialog ||
@@ -87,7 +77,7 @@ void PaintButton(const QStyleOptionButton& option, QPainter& painter, const QWid
                line);
   if (Has(option, QStyle::State_HasFocus) && Has(option, QStyle::State_KeyboardFocusChange)) {
     const int inset = scope.Grid().Pixels(is_default ? 3 : 2);
-    PaintFocus(painter, scope, place.adjusted(inset, inset, -inset, -inset));
+    PaintFocus(painter, scope.Grid(), place.adjusted(inset, inset, -inset, -inset));
   }
   painter.setPen(TextColour(option));
   const int padding = scope.Grid().Pixels(1);
@@ -139,7 +129,7 @@ void PaintChoice(const QStyleOptionButton& option, QPainter& painter, const QWid
   const int height = scope.Grid().Pixels(17);
   const QRect ring(text_place.left() - around, text_place.top() + (text_place.height() - height) / 2,
                    width + 2 * around, height);
-  PaintFocus(painter, scope, ring);
+  PaintFocus(painter, scope.Grid(), ring);
 }
 
 QColor BorderColour(const QStyleOption& option) {
@@ -278,7 +268,7 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
                               const QWidget* widget) const {
   if (element == PE_FrameFocusRect) {
     const DeviceScope scope(*painter, nullptr);
-    return PaintFocus(*painter, scope, scope.Map(option->rect));
+    return PaintFocus(*painter, scope.Grid(), scope.Map(option->rect));
   }
   if (element == PE_Widget && widget != nullptr && HasEdge(*widget)) {
     const DeviceScope scope(*painter, nullptr);

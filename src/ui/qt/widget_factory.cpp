@@ -22,7 +22,7 @@ namespace kestrel {
 
 namespace {
 
-// ---- showing, one function per kind ----
+// ---- showing, one function per kind; captions of what can be pressed are the design's ----
 
 void SetFace(QWidget& widget, Colour back) {
   QPalette palette = QApplication::palette();
@@ -31,9 +31,7 @@ void SetFace(QWidget& widget, Colour back) {
 }
 
 void ShowButton(QPushButton& widget, const Button& now, const Button* before) {
-  if (before == nullptr || now.caption != before->caption || now.mnemonic != before->mnemonic) {
-    widget.setText(WithMnemonic(now.caption, now.mnemonic));
-  }
+  if (before == nullptr) widget.setText(WithMnemonic(now.caption, now.mnemonic));
   if (before == nullptr || now.back != before->back) SetFace(widget, now.back);
 }
 
@@ -44,9 +42,7 @@ void SetTabStop(QRadioButton& widget) {
 }
 
 void ShowOption(QRadioButton& widget, const OptionButton& now, const OptionButton* before) {
-  if (before == nullptr || now.caption != before->caption) {
-    widget.setText(WithMnemonic(now.caption, now.mnemonic));
-  }
+  if (before == nullptr) widget.setText(WithMnemonic(now.caption, now.mnemonic));
   if (widget.isChecked() == now.value) return;
   // With the group's rule on, the last chosen option could not be taken back.
   widget.setAutoExclusive(false);
@@ -56,9 +52,7 @@ void ShowOption(QRadioButton& widget, const OptionButton& now, const OptionButto
 }
 
 void ShowCheckBox(QCheckBox& widget, const CheckBox& now, const CheckBox* before) {
-  if (before == nullptr || now.caption != before->caption) {
-    widget.setText(WithMnemonic(now.caption, now.mnemonic));
-  }
+  if (before == nullptr) widget.setText(WithMnemonic(now.caption, now.mnemonic));
   widget.setChecked(now.value);
 }
 
