@@ -28,12 +28,12 @@ names_of() {
 
 # The programs start each other: what stands in their place runs them under QEMU, with the same process number.
 wrap() {
-  local bin=$roots/processors/srv/kestrel/build/$1/bin
-  mkdir -p "$bin/real"
+  local bin=$roots/processors/srv/kestrel/build/$1/bin real=$roots/processors/srv/kestrel/build/$1/real
+  mkdir -p "$real"
   for program in kestrel-sudoku-cli kestrel-sudoku-script; do
     if head -c 4 "$bin/$program" | grep -q ELF; then
-      mv "$bin/$program" "$bin/real/"
-      printf '#!/bin/sh\nexec qemu-%s-static %s/real/%s "$@"\n' "$processor" "/srv/kestrel/build/$1/bin" "$program" >"$bin/$program"
+      mv "$bin/$program" "$real/"
+      printf '#!/bin/sh\nexec qemu-%s-static %s/%s "$@"\n' "$processor" "/srv/kestrel/build/$1/real" "$program" >"$bin/$program"
       chmod +x "$bin/$program"
     fi
   done

@@ -7,7 +7,7 @@ function __kestrel_sudoku_command
     test "$words[1]" = "$argv[1]"
 end
 complete -c kestrel-sudoku-cli -n __fish_use_subcommand -f -a rate -d 'Rate puzzles - level, score, and how often each technique was needed'
-complete -c kestrel-sudoku-cli -n __fish_use_subcommand -f -a solve -d 'Solve puzzles with the 22 techniques, without guessing'
+complete -c kestrel-sudoku-cli -n __fish_use_subcommand -f -a solve -d 'Solve puzzles as people do, without guessing'
 complete -c kestrel-sudoku-cli -n __fish_use_subcommand -f -a explain -d 'Explain puzzles step by step, as a page with pictures'
 complete -c kestrel-sudoku-cli -n __fish_use_subcommand -f -a convert -d 'Turn puzzles of any format into another'
 complete -c kestrel-sudoku-cli -n __fish_use_subcommand -f -a generate -d 'Make new puzzles with one solution'

@@ -59,7 +59,7 @@ const CommandSpec kRateSpec{
     "JSON lines, technique lines and candidate grids. Lines that begin with # are passed\n"
     "over. Without FILE, or where FILE is -, standard input is read.\n\n"
     "Writes a header line and one line a puzzle, tab separated: puzzle, level (1 to 5;\n"
-    "6 when the 22 techniques are not enough), score (0 at level 6), the 22 counts,\n"
+    "6 when the techniques are not enough), score (0 at level 6), the techniques' counts,\n"
     "and the grid as far as it was solved.",
     kRateOptions,
     "rate puzzles.txt\n"

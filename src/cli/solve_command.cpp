@@ -152,10 +152,10 @@ const CommandSpec kSolveSpec{
     "solve",
     "[FILE...]",
     1 << 20,
-    "Solve puzzles with the 22 techniques, without guessing",
+    "Solve puzzles as people do, without guessing",
     "Reads puzzles as 'rate' does; where one says how far it has been solved, that is\n"
     "where solving goes on. Writes the grid of each, 81 digits with 0 for a cell\n"
-    "that the techniques leave open; with --steps every step in words: its number, the\n"
+    "that the game's techniques leave open; with --steps every step in words: its number, the\n"
     "technique, the cells and digits of the pattern, and what is placed or removed.\n"
     "Rows are called A to H and J, columns 1 to 9: C7 is in the third row.\n"
     "With --trace one line a puzzle: the numbers of the techniques, in order.",

@@ -118,7 +118,7 @@ const CommandSpec kStockListSpec{
     "List the puzzles of a stock",
     "Writes a header line and one line a puzzle, tab separated: level, number, score,\n"
     "number of givens, best time and the number of the player who set it (0 nobody), and\n"
-    "the 22 technique counts. Without FILE as for 'stock verify'.",
+    "how often each technique is needed. Without FILE as for 'stock verify'.",
     kListOptions,
     "stock list --level 5\n"
     "stock list --format json my.kpz"};

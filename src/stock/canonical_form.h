@@ -20,8 +20,8 @@ struct CanonicalPuzzle {
 // the same canonical form, and puzzles that are not disguises of each other give different ones: it is the
 // least of all disguised solutions, read as an 81-digit number (the "minlex" form), and under the disguises
 // that reach it the least givens.
-// `solution` must be a complete valid grid, `givens` must agree with it (0 = empty). Takes well
-// below a millisecond.
+// `solution` must be a complete valid grid, `givens` must agree with it (0 = empty). Takes well below a
+// millisecond.
 CanonicalPuzzle CanonicalForm(const DigitGrid& givens, const DigitGrid& solution);
 
 }  // namespace kestrel

@@ -111,6 +111,7 @@ TEST(StockExport, LinesCanBeRatedAgain) {
 struct Change {
   std::string command;
   std::vector<std::string> words;
+  friend void PrintTo(const Change& change, std::ostream* out) { *out << change.command; }
 };
 
 class StockChange : public ::testing::TestWithParam<Change> {
