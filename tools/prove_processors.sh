@@ -4,8 +4,8 @@
 # tools/prove_processors.sh [--keep] [ARCHITECTURE...]     arm64 and s390x, whose bytes stand the other way round
 # To be run as root. In a fresh bookworm root, build/platforms/processors, with Debian's cross compilers, libraries of those
 # architectures and GoogleTest from its source package: everything but the window. After the tests, puzzles, a renewed
-# stock, a printed page and a played game are made there and here, and compared byte for byte. --keep goes on with the root
-# that a run before left. What failed stays in build/platforms/*.log.
+# stock, an explained puzzle and a played game are made there and here, and compared byte for byte. --keep goes on with
+# the root that a run before left. What failed stays in build/platforms/*.log.
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit
 . tools/setup.sh
@@ -26,17 +26,21 @@ names_of() {
   esac
 }
 
-# The programs start each other: what stands in their place runs them under QEMU, with the same process number.
+# The programs are started by tests and by each other: what stands in their place runs them under QEMU, with the same
+# process number. unwrap puts them back.
 wrap() {
   local bin=$roots/processors/srv/kestrel/build/$1/bin real=$roots/processors/srv/kestrel/build/$1/real
   mkdir -p "$real"
-  for program in kestrel-sudoku-cli kestrel-sudoku-script; do
-    if head -c 4 "$bin/$program" | grep -q ELF; then
-      mv "$bin/$program" "$real/"
-      printf '#!/bin/sh\nexec qemu-%s-static %s/%s "$@"\n' "$processor" "/srv/kestrel/build/$1/real" "$program" >"$bin/$program"
-      chmod +x "$bin/$program"
-    fi
+  for program in $(cd "$bin" && ls | grep -v _test); do
+    mv "$bin/$program" "$real/"
+    printf '#!/bin/sh\nexec qemu-%s-static %s/%s "$@"\n' "$processor" "/srv/kestrel/build/$1/real" "$program" >"$bin/$program"
+    chmod +x "$bin/$program"
   done
+}
+
+unwrap() {
+  local build=$roots/processors/srv/kestrel/build/$1
+  [ ! -d "$build/real" ] || { mv "$build"/real/* "$build/bin/" && rmdir "$build/real"; }
 }
 
 # build ARCHITECTURE TARGET: configured once, for this processor or another one.
@@ -65,15 +69,16 @@ make_things() {
     cp /srv/kestrel/data/sudstock.kpz . &&
     ../bin/kestrel-sudoku-cli stock renew --level 3 --seed 5 --stock sudstock.kpz &&
     ../bin/kestrel-sudoku-cli stock verify --stock sudstock.kpz >verified &&
-    ../bin/kestrel-sudoku-cli print --level 3 --output page.svg --stock sudstock.kpz &&
+    head -n 3 puzzles | ../bin/kestrel-sudoku-cli explain --output explained.html &&
     mkdir home && printf 'press CommandNew\\npress RenewLevel(1)\\nanswer OK\\nrenew 100000\\npress CommandSolution\\nboard\\n' |
       ../bin/kestrel-sudoku-script --home home --seed 3 >transcript"
 }
 
 prove() {
   local log=build/platforms/processors-$1.log start=$SECONDS result=passed
-  { build "$1" all && wrap "$1" && inside processors root "ctest --test-dir build/$1 --output-on-failure --timeout 3600"; } \
-    >"$log" 2>&1 || { result="FAILED, see $log"; failed=1; }
+  local tests="ctest --test-dir build/$1 --output-on-failure --timeout 3600" hardened=build.programs_are_hardened
+  { unwrap "$1" && build "$1" all && inside processors root "$tests -R $hardened" && wrap "$1" &&
+    inside processors root "$tests -E $hardened"; } >"$log" 2>&1 || { result="FAILED, see $log"; failed=1; }
   if grep -q 'warning:' "$log"; then result="WARNS, see $log"; failed=1; fi
   local made=same
   if ! { make_things "$1" && diff -r "$roots/processors/srv/kestrel/build/$1/made" "$roots/processors/srv/kestrel/build/$here/made"; } \
@@ -82,7 +87,7 @@ prove() {
     failed=1
   fi
   printf '| %s | %s | %s | %s | %d s |\n' "$1" "$result" \
-    "$(sed -n 's/.*tests passed.* out of \([0-9]*\)$/\1/p' "$log")" "$made" $((SECONDS - start))
+    "$(awk '/ tests? (passed|failed).* out of / {sum += $NF} END {print sum}' "$log")" "$made" $((SECONDS - start))
 }
 
 leave processors
