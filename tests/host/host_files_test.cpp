@@ -7,6 +7,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <cstring>
+
 #include "host/host_temporary.h"
 #include "support/faulty_calls.h"
 #include "support/temp_folder.h"
@@ -106,6 +109,12 @@ TEST(HostFiles, AnyCallMayFail) {
       EXPECT_GT(n, 10) << "the calls were not reached";
     }
   }
+  // A device that takes nothing and says nothing is given up with a reason.
+  const TempFolder folder;
+  FaultyCalls calls;
+  calls.WriteAtMost(0);
+  errno = 0;
+  EXPECT_EQ(HostFiles(calls).Replace(folder.Written("target"), AsBytes(kNew)).Reason(), std::strerror(EIO));
 }
 
 TEST(HostFiles, TheProcessMayBeKilledAtAnyCall) {
