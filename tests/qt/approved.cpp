@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QImageWriter>
-#include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
 #include <algorithm>
@@ -24,38 +23,14 @@ constexpr double kOtherInk = 14;    // the same where letters are
 constexpr int kRoomForText = 2;     // pixels by which letters may stand elsewhere
 
 // Paints nothing and keeps where texts would stand.
-class TextFinder final : public QPaintDevice, private QPaintEngine {
+class TextFinder final : public QImage, private QPaintEngine {
  public:
-  explicit TextFinder(QSize size) : QPaintEngine(AllFeatures), size_(size) {}
+  explicit TextFinder(QSize size) : QImage(size, Format_Mono), QPaintEngine(AllFeatures) {}
   QRegion texts;
 
   [[nodiscard]] QPaintEngine* paintEngine() const override { return const_cast<TextFinder*>(this); }
 
  private:
-  [[nodiscard]] int metric(PaintDeviceMetric metric) const override {
-    switch (metric) {
-      case PdmWidth:
-        return size_.width();
-      case PdmHeight:
-        return size_.height();
-      case PdmDpiX:
-      case PdmDpiY:
-      case PdmPhysicalDpiX:
-      case PdmPhysicalDpiY:
-        return 96;
-      case PdmWidthMM:
-        return size_.width() * 25 / 96;
-      case PdmHeightMM:
-        return size_.height() * 25 / 96;
-      case PdmNumColors:
-      case PdmDepth:
-        return 32;
-      case PdmDevicePixelRatio:
-        return 1;
-      default:
-        return static_cast<int>(devicePixelRatioFScale());
-    }
-  }
   bool begin(QPaintDevice*) override { return true; }
   bool end() override { return true; }
   [[nodiscard]] Type type() const override { return User; }
@@ -70,7 +45,6 @@ class TextFinder final : public QPaintDevice, private QPaintEngine {
     texts += transform_.mapRect(place).toAlignedRect().adjusted(-kRoomForText, 0, kRoomForText, 0);
   }
 
-  QSize size_;
   QTransform transform_;
 };
 

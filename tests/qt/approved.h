@@ -21,7 +21,7 @@ Picture TakePicture(QWidget& widget);
 // What differs between a picture and the approved one, as places of 16 x 16 pixels; nothing when nobody would see it.
 //
 // Letters are drawn a little differently by every release of Qt and of the font library, lines and grounds are not.
-// So outside of texts, ten pixels that differ are too many, and so is a ground that is another by a hair. Where there
+// So outside of texts, five pixels that differ are too many, and so is a ground that is another by a hair. Where there
 // are texts, in either of the pictures, the ink of a place counts: it may be spread otherwise, not be more or less.
 QRegion Difference(const Picture& now, const QImage& approved);
 

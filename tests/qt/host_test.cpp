@@ -35,7 +35,6 @@ TEST(Help, FollowsPagesForwardAndBack) {
   FormWindow& window = game.front_end.Windows().WindowOf(FormId::Browser);
   HelpView& view = *game.front_end.Windows().Help();
   EXPECT_TRUE(window.isMaximized());
-  EXPECT_EQ(window.windowTitle(), "Kestrel Sudoku - Help");
   EXPECT_EQ(view.toPlainText(), "Naked Single");
   EXPECT_EQ(view.accessibleName(), "Help page");  // without a title
   // The game goes on beside it.
@@ -193,7 +192,7 @@ TEST(Shell, GoesByTheDesktopsChoice) {
   const std::string expected = "https://kestrel-sudoku.example/\n";
   EXPECT_TRUE(QTest::qWaitFor([&] { return folder.Get("log") == expected; }, kPatience));
   // A browser that stays open is not waited for.
-  put("xdg-open", "PATH=/bin; sleep 10; echo late > " + log);
+  put("xdg-open", "exec 2>&-; PATH=/bin; sleep 10; echo late > " + log);
   EXPECT_TRUE(shell.Open(folder.Path("xdg-open").string(), "https://kestrel-sudoku.example/"));
   EXPECT_EQ(folder.Get("log"), expected);
   put("xdg-open", "exit 3");

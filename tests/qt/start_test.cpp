@@ -30,14 +30,11 @@ TEST(Start, KnowsWhereTheWindowStands) {
   EXPECT_EQ(game.Main().window.top, 41 * 15);
 }
 
-// The folder of stock, sounds and help, as the program is given it.
 TEST(Start, AFolderMayHaveABackslashInItsName) {
   const TempFolder folder;
   std::filesystem::create_directory_symlink(KESTREL_SOURCE_DIR "/data", folder.Path("a\\b"));
-  const std::string home = folder.Path().string();
-  const std::string arguments =
-      "' --home " + home + " --program '" + home + "/a\\b' --screenshot " + home + "/shot.png";
-  EXPECT_EQ(std::system(("'" KESTREL_GAME + arguments).c_str()), 0);
+  const std::string command = " && '" KESTREL_GAME "' --home . --program 'a\\b' --screenshot shot.png";
+  EXPECT_EQ(std::system(("cd " + folder.Path().string() + command).c_str()), 0);
 }
 
 TEST(Start, SaysThatTheStockCannotBeRead) {
