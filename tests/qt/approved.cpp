@@ -19,7 +19,7 @@ constexpr int kPlace = 16;          // pixels
 constexpr int kOtherColour = 40;    // of 255, in any channel
 constexpr int kOtherPixels = 5;     // in a place
 constexpr double kOtherGround = 3;  // of 255, in the mean of a place
-constexpr double kOtherInk = 14;    // the same where letters are
+constexpr double kOtherInk = 5;     // the same where letters are
 constexpr int kRoomForText = 2;     // pixels by which letters may stand elsewhere
 
 // Paints nothing and keeps where texts would stand.

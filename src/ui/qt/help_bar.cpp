@@ -65,25 +65,24 @@ void HelpBar::Offer(bool solving) {
 void HelpBar::Fit() {
   setGeometry(view_.x(), 0, view_.width(), view_.y());
   const QFontMetrics metrics(QApplication::font());  // the buttons hear of another size only later
-  std::array<int, 4> texts{};
+  constexpr int kButtons = std::tuple_size_v<decltype(buttons_)>;
+  std::array<int, kButtons> texts{};
   int wide = 0;
   int text = 0;
-  int shown = 0;
+  // Only the last one comes and goes.
+  const int shown = buttons_.back()->isHidden() ? kButtons - 1 : kButtons;
   const auto width = [](int of_text) { return std::max(Scaled(kLeastWidth), of_text + Scaled(kPadding)); };
-  for (std::size_t i = 0; i < buttons_.size(); ++i) {
-    if (buttons_[i]->isHidden()) continue;
+  for (int i = 0; i < shown; ++i) {
     const QPushButton& button = *buttons_[i];
     texts[i] = metrics.horizontalAdvance(WithoutMnemonic(button.text().toStdString()));
     wide += width(texts[i]) + Scaled(kGap);
     text += texts[i];
-    ++shown;
   }
   const bool narrow = wide - Scaled(kGap) > this->width();
   const int gap = Scaled(narrow ? kLeastGap : kGap);
   const int spare = (this->width() - text - (shown - 1) * gap) / shown;
   int left = 0;
-  for (std::size_t i = 0; i < buttons_.size(); ++i) {
-    if (buttons_[i]->isHidden()) continue;
+  for (int i = 0; i < shown; ++i) {
     const int own = narrow ? texts[i] + std::max(spare, Scaled(kLeastPadding)) : width(texts[i]);
     buttons_[i]->setGeometry(left, Scaled(kTop), own, Scaled(kHeight));
     left += own + gap;
