@@ -4,7 +4,9 @@
 namespace kestrel::fuzz {
 
 void MemoryFiles::Put(std::string_view path, std::string_view content) {
-  files_[std::string(path)].assign(content.begin(), content.end());
+  // As bytes at once: characters are copied one by one, which takes longer than a game.
+  const auto* first = reinterpret_cast<const std::uint8_t*>(content.data());
+  files_[std::string(path)].assign(first, first + content.size());
 }
 
 std::string MemoryFiles::Get(std::string_view path) const {

@@ -2,6 +2,7 @@
 // Files in memory, for the fuzzers.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -37,6 +38,12 @@ class MemoryFiles final : public Files {
 // The fuzzers' view of their input.
 inline std::string_view AsText(const std::uint8_t* data, std::size_t size) {
   return {reinterpret_cast<const char*>(data), size};
+}
+
+// True for one input in `n`, drawn from its bytes: for what takes far longer than the rest. A choice that the input makes
+// itself would soon be made by all inputs that the fuzzer keeps.
+inline bool OneIn(std::size_t n, std::string_view input) {
+  return std::hash<std::string_view>()(input) % n == 0;
 }
 
 }  // namespace kestrel::fuzz

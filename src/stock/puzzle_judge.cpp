@@ -8,7 +8,15 @@
 
 namespace kestrel {
 
-Verdict PuzzleJudge::Judge(const DigitGrid& givens) {
+const Verdict& PuzzleJudge::Judge(const DigitGrid& givens) {
+  if (judged_ != givens) {
+    verdict_ = Work(givens);
+    judged_ = givens;
+  }
+  return verdict_;
+}
+
+Verdict PuzzleJudge::Work(const DigitGrid& givens) {
   Verdict verdict;
   const SolutionCount found = counter_.Count(givens);
   verdict.solutions = found.count;

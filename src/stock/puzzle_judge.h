@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "core/stock_table.h"
 #include "solver/technique_table.h"
@@ -24,10 +25,15 @@ struct Verdict {
 class PuzzleJudge {
  public:
   // Any givens may be asked about, also digits above 9. Takes about a millisecond.
-  Verdict Judge(const DigitGrid& givens);
+  // The same givens again, like the zeros of a stock that was cut short, take no time.
+  const Verdict& Judge(const DigitGrid& givens);
 
  private:
+  Verdict Work(const DigitGrid& givens);
+
   SolutionCounter counter_;
+  std::optional<DigitGrid> judged_;
+  Verdict verdict_;  // of `judged_`
 };
 
 // The record of a puzzle with one solution and a level of 1..5, without a best time.

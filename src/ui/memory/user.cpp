@@ -15,12 +15,13 @@ concept Pressable = std::same_as<T, Button> || std::same_as<T, OptionButton> || 
 template <class T>
 concept Lines = std::same_as<T, ListBox> || std::same_as<T, ComboBox>;
 
-// True when `id` has the full name `name`; spares making the names of controls that cannot match.
+}  // namespace
+
 bool HasName(ControlId id, std::string_view name) {
+  const std::size_t length = id.name.size();
+  if (name.size() < length || name[0] != id.name[0] || name[length - 1] != id.name[length - 1]) return false;
   return name.starts_with(id.name) && FullName(id) == name;
 }
-
-}  // namespace
 
 // Calls action(form, id, control) for the control of that name if it can be reached; the action returns
 // NoSuch for a control of a kind that cannot take it.

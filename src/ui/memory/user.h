@@ -9,6 +9,10 @@
 
 namespace kestrel {
 
+// True when `name` is the full name of the control. Quick where it is not: a search asks a thousand controls, most of
+// them in arrays whose names differ in the first or last letter.
+bool HasName(ControlId id, std::string_view name);
+
 class User {
  public:
   // Both must outlive this object.

@@ -5,6 +5,7 @@
 
 #include "ui/memory/json_string.h"
 #include "ui/memory/transcript.h"
+#include "ui/memory/user.h"
 #include "ui/script/parsing.h"
 
 namespace kestrel {
@@ -73,7 +74,7 @@ std::optional<std::string> PropertyText(const Forms& forms, std::string_view nam
                                         std::string_view property) {
   std::optional<std::string> text;
   EachControl(forms, [&](FormId, ControlId id, const auto& control) {
-    if (!name.starts_with(id.name) || FullName(id) != name) return;
+    if (!HasName(id, name)) return;
     text = OwnProperty(control, property);
     if (!text) text = CommonProperty(control, property);
   });
