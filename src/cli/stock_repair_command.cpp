@@ -65,11 +65,11 @@ ExitStatus StockRepairCommand(Arguments& arguments, CliPorts& ports) {
   run.seed = arguments.Has(kSeedOption.name) ? SeedOf(arguments, ports) : ports.seeds.NextSeed();
   const std::string path = WritableStockPath(arguments, ports);
   if (!arguments.Error().empty()) return ExitStatus::kFailure;
-  Bytes bytes;
-  const FileResult read = ports.files.Read(path, 2 * kStockBytes, bytes);
   auto stock = std::make_unique<StockTable>();
-  if (!read || !ReadStockOf(path, ports, *stock)) {
-    if (!read) PrintError(ports, path + ": " + read.Reason());
+  if (!ReadStockOf(path, ports, *stock)) return ExitStatus::kFailure;
+  Bytes bytes;
+  if (const FileResult read = ports.files.Read(path, 2 * kStockBytes, bytes); !read) {
+    PrintError(ports, path + ": " + read.Reason());
     return ExitStatus::kFailure;
   }
   // A wrong file name must not cost a file; the player's own stock may be damaged beyond recognition.
