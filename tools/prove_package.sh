@@ -4,16 +4,17 @@
 # To be run as root, with lintian, autopkgtest and debootstrap. Builds in two folders, compares the bytes, asks lintian and
 # autopkgtest, and, in a fresh root of bookworm: plays as a user, upgrades to the next version, plays on, purges. Everything
 # stays in build/package. NAME goes on with the packages of a run before, and does that step only.
+# shellcheck disable=SC2154  # names from the sourced files
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit
 . tools/setup.sh
 [ "$(id -u)" = 0 ] || { echo "debootstrap needs root" >&2; exit 2; }
-# shellcheck disable=SC2154  # from packages.sh
 install debootstrap lintian autopkgtest debhelper $build_packages || exit 1
 . tools/roots.sh
 out=$PWD/build/package
 root=package-bookworm
 one=$out/one/kestrel-sudoku two=$out/another-folder/of-a-longer-name/kestrel-sudoku next=$out/next/kestrel-sudoku
+commit=$(git rev-parse HEAD)
 version=$(cat VERSION)
 higher=${version%.*}.$((${version##*.} + 1))
 failed=0
@@ -26,7 +27,7 @@ step() {
 # build FOLDER [VERSION]: a clean export, built; the package lies beside the folder.
 build() {
   rm -rf "${1%/*}"
-  mkdir -p "$1" && git archive HEAD | tar -x -C "$1" || return 1
+  mkdir -p "$1" && git archive "$commit" | tar -x -C "$1" || return 1
   if [ $# -gt 1 ]; then
     echo "$2" >"$1/VERSION"
     sed -i "1s/(.*)/($2)/" "$1/debian/changelog"
@@ -101,7 +102,7 @@ titles=(
   "lintian:lintian: no error, no warning" "next:the next version built"
   "autopkgtest:\`autopkgtest\` in a fresh root" "upgrade:best times, players, settings kept by an upgrade"
   "purge:nothing of the package left by a purge, the player's files still there")
-printf '| package %s of %s | |\n|---|---|\n' "$version" "$(git rev-parse --short HEAD)"
+printf '| package %s of %s | |\n|---|---|\n' "$version" "${commit:0:7}"
 for each in "${titles[@]}"; do
   name=${each%%:*}
   [ $# = 0 ] || [ "$1" = "$name" ] || continue

@@ -165,7 +165,8 @@ TEST_P(StockChange, AnyCallMayFailOrBeTheLast) {
 
 TEST(StockChanges, TellWhereAStockThatIsNotMadeYetComesFrom) {
   using Words = std::vector<std::string>;
-  for (const Words& words : {Words{"stock", "renew", "--level", "1"}, Words{"stock", "repair", "--dry-run"}}) {
+  for (const Words& words :
+       {Words{"stock", "renew", "--level", "1"}, Words{"stock", "repair", "--dry-run"}}) {
     const CliResult result = RunWith(words);
     EXPECT_EQ(result.status, 2);
     EXPECT_NE(result.err.find("the game makes it when it is first started"), std::string::npos) << result.err;
