@@ -46,7 +46,7 @@ step_autopkgtest() {
 
 # play NAME: the script on standard input, as the user does it, with what is in the player's home; says what is printed.
 play() {
-  chroot "$roots/$root" setpriv --reuid player --regid player --init-groups env -i HOME=/home/player PATH=/usr/bin:/bin \
+  chroot "$roots/$root" setpriv --reuid player --regid player --init-groups env -i HOME=/srv/player PATH=/usr/bin:/bin \
     sh -c 'cd && kestrel-sudoku-script' | tee "$out/$1.transcript"
 }
 
@@ -58,11 +58,11 @@ install_package() {
 
 # What a player has: the stock with the best times, and every setting.
 kept() {
-  (cd "$roots/$root/home/player" && find .local .config -type f -exec sha256sum {} + | sort)
+  (cd "$roots/$root/srv/player" && find .local .config -type f -exec sha256sum {} + | sort)
 }
 
 step_upgrade() {
-  chroot "$roots/$root" useradd --create-home player
+  chroot "$roots/$root" useradd --home-dir /srv/player --create-home player
   install_package "$one" || return 1
   local solution
   solution=$(printf 'press OptionType(2)\npress CommandOpen\nanswer 1\nsolution\n' | play first | sed -n 's/^solution = //p')
@@ -74,7 +74,7 @@ step_upgrade() {
     printf 'answer OK\nrecord 2 1\n'
   } | play solved
   kept >"$out/before.sums"
-  grep -q 'Ann' "$roots/$root/home/player/.config/Grendale/settings.ini" || return 1
+  grep -q 'Ann' "$roots/$root/srv/player/.config/Grendale/settings.ini" || return 1
   install_package "$next" || return 1
   chroot "$roots/$root" dpkg-query -W -f='${Version}\n' kestrel-sudoku | grep -Fx "$higher" || return 1
   chroot "$roots/$root" kestrel-sudoku-cli --version | grep -F "$higher" || return 1
