@@ -185,6 +185,15 @@ TEST(Dialogs, KeysOfTheDesktopPressTheirButtons) {
   EXPECT_TRUE(game.Controls().browser.window.open);
 }
 
+TEST(Dialogs, EnterTakesWhatTheCardProposes) {
+  QtGame game;
+  for (const auto& [key, level] : {std::pair{Qt::Key_F9, 0}, {Qt::Key_Return, 2}}) {
+    QTest::keyClick(&game.Window(), key);
+    game.Settle();
+    EXPECT_EQ(game.State().play.puzzle.PuzzleLevel, level);
+  }
+}
+
 TEST(Dialogs, KeyboardReachesTheCommands) {
   QtGame game;
   QTest::keyClick(&game.Window(), Qt::Key_Tab);

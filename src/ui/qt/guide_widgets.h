@@ -30,6 +30,7 @@ class GuideCard final : public QWidget {
   // The level that Next would take.
   void SetLevel(const QString& name);
   void PlaceAll();
+  [[nodiscard]] QPushButton& Next() { return next_; }
 
   std::function<void()> on_next;
   std::function<void()> on_close;

@@ -35,7 +35,7 @@ void SetTip(QWidget& widget, const std::string& tip) {
 
 }  // namespace
 
-MainExtras::MainExtras(Mirror& mirror, const MainWindow& main, QWidget& window, Surroundings surroundings)
+MainExtras::MainExtras(Mirror& mirror, const MainWindow& main, FormWindow& window, Surroundings surroundings)
     : main_(main), mirror_(mirror), surroundings_(std::move(surroundings)) {
   MakeWidgets(window);
   for (int i = 0; i < 2 * kTechniques; ++i) {
@@ -53,12 +53,13 @@ MainExtras::MainExtras(Mirror& mirror, const MainWindow& main, QWidget& window, 
   Sync();
 }
 
-void MainExtras::MakeWidgets(QWidget& window) {
+void MainExtras::MakeWidgets(FormWindow& window) {
   ViewChoices& choices = surroundings_.choices;
   menu_ = new ViewMenu(choices, &window);
   card_ = new GuideCard(&window);
   card_->hide();
   card_->on_next = [this] { PressNext(); };
+  window.SetDefaultButton(&card_->Next());
   line_ = new GuideLine(&window);
   card_->on_close = line_->on_close = [this, &choices] {
     choices.CloseGuide();

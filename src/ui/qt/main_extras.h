@@ -18,6 +18,7 @@ class QWidget;
 
 namespace kestrel {
 
+class FormWindow;
 class GuideCard;
 class GuideLine;
 class Mirror;
@@ -35,7 +36,7 @@ class MainExtras {
   };
 
   // Everything must outlive this object but the window, whose children the widgets are.
-  MainExtras(Mirror& mirror, const MainWindow& main, QWidget& window, Surroundings surroundings);
+  MainExtras(Mirror& mirror, const MainWindow& main, FormWindow& window, Surroundings surroundings);
 
   // Brings everything in line with the controls.
   void Sync();
@@ -45,7 +46,7 @@ class MainExtras {
   [[nodiscard]] ViewMenu& Menu() const { return *menu_; }
 
  private:
-  void MakeWidgets(QWidget& window);
+  void MakeWidgets(FormWindow& window);
   void PressNext();
   void SyncGuide();
   void SyncTips();
