@@ -13,7 +13,7 @@ install debootstrap lintian autopkgtest debhelper $build_packages || exit 1
 . tools/roots.sh
 out=$PWD/build/package
 root=package-bookworm
-one=$out/one/kestrel-sudoku two=$out/another-folder/of-a-longer-name/kestrel-sudoku next=$out/next/kestrel-sudoku
+one=$out/one/kestrel-sudoku two=$out/another-folder/of-a-longer-name/kestrel-sudoku
 commit=$(git rev-parse HEAD)
 version=$(cat VERSION)
 higher=${version%.*}.$((${version##*.} + 1))
@@ -21,27 +21,30 @@ failed=0
 
 # step NAME TITLE: runs step_NAME and prints its row.
 step() {
-  if step_"$1" >"$out/$1.log" 2>&1; then echo "| $2 | passed |"; else echo "| $2 | FAILED, see build/package/$1.log |"; failed=1; fi
+  if (step_"$1") >"$out/$1.log" 2>&1; then echo "| $2 | passed |"; else echo "| $2 | FAILED, see build/package/$1.log |"; failed=1; fi
 }
 
-# build FOLDER [VERSION]: a clean export, built; the package lies beside the folder.
+# build FOLDER: a clean export, built; the package lies beside the folder.
 build() {
   rm -rf "${1%/*}"
-  mkdir -p "$1" && git archive "$commit" | tar -x -C "$1" || return 1
-  if [ $# -gt 1 ]; then
-    echo "$2" >"$1/VERSION"
-    sed -i "1s/(.*)/($2)/" "$1/debian/changelog"
-  fi
-  (cd "$1" && DEB_BUILD_OPTIONS=nocheck dpkg-buildpackage -us -uc -b)
+  mkdir -p "$1" && git archive "$commit" | tar -x -C "$1" && (cd "$1" && DEB_BUILD_OPTIONS=nocheck dpkg-buildpackage -us -uc -b)
 }
 
 step_build() { build "$one" && build "$two"; }
-step_bytes() { (cd "$two/.." && sha256sum ./*.deb) | (cd "$one/.." && sha256sum -c --strict); }
-step_lintian() { lintian --allow-root -i -I --pedantic --fail-on error,warning "$one"/../*.changes; }
-step_next() { build "$next" "$higher"; }
+step_bytes() { (cd "$two/.." && sha256sum ./*_"$version"_*.deb) | (cd "$one/.." && sha256sum -c --strict); }
+step_lintian() { lintian --allow-root -i -I --pedantic --fail-on error,warning "$one"/../*_"$version"_*.changes; }
+
+# In the first folder, where only what knows the version is compiled again.
+step_next() {
+  cd "$one" || return 1
+  echo "$higher" >VERSION
+  sed -i "1s/(.*)/($higher)/" debian/changelog
+  rm -f debian/debhelper-build-stamp
+  DEB_BUILD_OPTIONS=nocheck dpkg-buildpackage -nc -us -uc -b
+}
 
 step_autopkgtest() {
-  autopkgtest "$one"/../kestrel-sudoku_*.deb "$one" -- chroot "$roots/$root"
+  autopkgtest "$one"/../kestrel-sudoku_"$version"_*.deb "$one" -- chroot "$roots/$root"
 }
 
 # play NAME: the script on standard input, as the user does it, with what is in the player's home; says what is printed.
@@ -50,8 +53,9 @@ play() {
     sh -c 'cd && kestrel-sudoku-script' | tee "$out/$1.transcript"
 }
 
+# install_package VERSION
 install_package() {
-  cp "$1"/../kestrel-sudoku_*.deb "$roots/$root/tmp/"
+  cp "$one"/../kestrel-sudoku_"$1"_*.deb "$roots/$root/tmp/"
   chroot "$roots/$root" sh -c 'DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends /tmp/kestrel-sudoku_*.deb' &&
     rm "$roots/$root"/tmp/*.deb
 }
@@ -63,7 +67,7 @@ kept() {
 
 step_upgrade() {
   chroot "$roots/$root" useradd --home-dir /srv/player --create-home player
-  install_package "$one" || return 1
+  install_package "$version" || return 1
   local solution
   solution=$(printf 'press OptionType(2)\npress CommandOpen\nanswer 1\nsolution\n' | play first | sed -n 's/^solution = //p')
   [ ${#solution} = 81 ] || return 1
@@ -75,7 +79,7 @@ step_upgrade() {
   } | play solved
   kept >"$out/before.sums"
   grep -q 'Ann' "$roots/$root/srv/player/.config/Grendale/settings.ini" || return 1
-  install_package "$next" || return 1
+  install_package "$higher" || return 1
   chroot "$roots/$root" dpkg-query -W -f='${Version}\n' kestrel-sudoku | grep -Fx "$higher" || return 1
   chroot "$roots/$root" kestrel-sudoku-cli --version | grep -F "$higher" || return 1
   kept | diff "$out/before.sums" - || return 1
@@ -99,8 +103,8 @@ mkdir -p "$out"
 trap 'leave "$root"' EXIT
 titles=(
   "build:built in two folders (\`dpkg-buildpackage -b\`)" "bytes:the same bytes from both"
-  "lintian:lintian: no error, no warning" "next:the next version built"
-  "autopkgtest:\`autopkgtest\` in a fresh root" "upgrade:best times, players, settings kept by an upgrade"
+  "lintian:lintian: no error, no warning" "autopkgtest:\`autopkgtest\` in a fresh root" "next:the next version built"
+  "upgrade:best times, players, settings kept by an upgrade"
   "purge:nothing of the package left by a purge, the player's files still there")
 printf '| package %s of %s | |\n|---|---|\n' "$version" "${commit:0:7}"
 for each in "${titles[@]}"; do
