@@ -39,7 +39,7 @@ kestrel_install_text(CHANGELOG.md changelog ${CMAKE_INSTALL_DOCDIR})
 install(FILES data/sudstock.kpz DESTINATION ${kestrel_share})
 # The icons and the logo travel inside the program; examples are what the help pages are made from.
 install(DIRECTORY data/ DESTINATION ${kestrel_share} FILES_MATCHING PATTERN "*.wav" PATTERN "*.GIF"
-        PATTERN "*.html" PATTERN "*.css" PATTERN "*.png" PATTERN "icons" EXCLUDE PATTERN "examples" EXCLUDE)
+        PATTERN "*.html" PATTERN "*.css" PATTERN "*.svg" PATTERN "icons" EXCLUDE PATTERN "examples" EXCLUDE)
 set(kestrel_completions packaging/completions)
 install(FILES ${kestrel_completions}/kestrel-sudoku-cli.bash RENAME kestrel-sudoku-cli
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
