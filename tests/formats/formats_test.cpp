@@ -75,7 +75,7 @@ TEST(Formats, AreToldApartAndMixed) {
        "4 character 1 is 'T', not a digit or '.'|5 #"},
       {Drawn("", "", '.').substr(0, 50) + "\n" + Drawn("", "", '.'), "1 only 5 of 9 rows|7 #"},
       {Drawn("", "", '.').substr(0, 30) + "\n" + Drawn("", "\n", '.'), "1 only 3 of 9 rows|6 #"},
-      {Drawn("", "", '.').replace(12, 1, "x") + line, "1 row 2: character 3 is 'x', not a digit or '.'|10 #"},
+      {Drawn("", "", '.').replace(12, 1, "~") + line, "1 row 2: character 3 is '~', not a digit or '.'|10 #"},
       {Drawn("", "", '.').replace(12, 1, "") + line, "1 row 2: has 8 cells instead of 9|10 #"},
       {"<opensudoku>\n<game", "1 broken XML: Error parsing start element tag"},
       {std::string(3'000'000, '7') + "\n" + line, "1 more than 81 characters|2 #"},

@@ -167,6 +167,10 @@ TEST_P(PrintedPdf, GathersSolutionsAtTheEnd) {
   }
   ASSERT_EQ(Print({"--large", "--pages=3"}), 0);
   EXPECT_LT(PlaceOf(file_, 4, "Solutions").second, 100);
+  EXPECT_LT(PlaceOf(file_, 2, "2").second, 100);  // its number stands over a puzzle
+  folder_.Put("of_a_book", std::string(81, '.'));
+  ASSERT_EQ(RunWith({"print", "--output", file_, folder_.Path("of_a_book")}).status, 0);
+  EXPECT_EQ(PlaceOf(file_, 1, "of_a_book").second, PlaceOf(file_, 1, "Kestrel").second);
 }
 
 TEST_F(PrintFiles, AnyPuzzlesInEveryFormat) {

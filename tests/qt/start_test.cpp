@@ -33,8 +33,11 @@ TEST(Start, KnowsWhereTheWindowStands) {
 TEST(Start, AFolderMayHaveABackslashInItsName) {
   const TempFolder folder;
   std::filesystem::create_directory_symlink(KESTREL_SOURCE_DIR "/data", folder.Path("a\\b"));
-  const std::string command = " && '" KESTREL_GAME "' --home . --program 'a\\b' --screenshot shot.png";
+  const std::string command =
+      " && '" KESTREL_GAME "' --home . --program 'a\\b' --scale 1.5 --screenshot shot.png";
   EXPECT_EQ(std::system(("cd " + folder.Path().string() + command).c_str()), 0);
+  EXPECT_EQ(QImage(QString::fromStdString(folder.Path("shot.png").string())).size(),
+            QSize(1152, 987) * qGuiApp->devicePixelRatio());
 }
 
 TEST(Start, SaysThatTheStockCannotBeRead) {

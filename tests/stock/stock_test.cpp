@@ -199,6 +199,7 @@ TEST_F(ImportTest, FilesNewPuzzlesAndKeepsBestTimes) {
   for (int i = 0; i < 30; ++i) Take(import, others_[i]);
   Take(import, Turned(others_[4]));
   Take(import, stock_(2, 50).GivenCells);
+  Take(import, stock_(5, 50).GivenCells);
   std::vector<std::string> reasons;
   for (const Refusal& refusal : import.Refused()) reasons.push_back(refusal.source + ": " + refusal.reason);
   EXPECT_EQ(reasons,
