@@ -50,7 +50,7 @@ step_autopkgtest() {
 # play NAME: the script on standard input, as the user does it, with what is in the player's home; says what is printed.
 play() {
   chroot "$roots/$root" setpriv --reuid player --regid player --init-groups env -i HOME=/srv/player PATH=/usr/bin:/bin \
-    sh -c 'cd && kestrel-sudoku-script' | tee "$out/$1.transcript"
+    sh -c 'cd && kestrel-sudoku-script --home .' | tee "$out/$1.transcript"
 }
 
 # install_package VERSION
@@ -62,7 +62,7 @@ install_package() {
 
 # What a player has: the stock with the best times, and every setting.
 kept() {
-  (cd "$roots/$root/srv/player" && find .local .config -type f -exec sha256sum {} + | sort)
+  (cd "$roots/$root/srv/player" && find . -name '.?*' -prune -o -type f -exec sha256sum {} + | sort)
 }
 
 step_upgrade() {
@@ -74,11 +74,11 @@ step_upgrade() {
   {
     printf 'clock 10:00:00\npress cmdPlayers\npress KnopNieuweSpeler\ntype NaamInvoerveld Ann\nkey NaamInvoerveld enter\npress KnopOK\n'
     printf 'press OptionType(2)\npress CommandOpen\nanswer 1\n'
-    for ((cell = 0; cell < 81; ++cell)); do [ $cell != 80 ] || printf 'clock 10:01:40\ntick\n'; echo "mark $cell ${solution:$cell:1}"; done
+    for ((cell = 0; cell < 81; ++cell)); do [ $cell != 40 ] || printf 'clock 10:01:40\ntick\n'; echo "mark $cell ${solution:$cell:1}"; done
     printf 'answer OK\nrecord 2 1\n'
   } | play solved
   kept >"$out/before.sums"
-  grep -q 'Ann' "$roots/$root/srv/player/.config/Grendale/settings.ini" || return 1
+  grep -q 'Ann' "$roots/$root/srv/player/settings.ini" || return 1
   install_package "$higher" || return 1
   chroot "$roots/$root" dpkg-query -W -f='${Version}\n' kestrel-sudoku | grep -Fx "$higher" || return 1
   chroot "$roots/$root" kestrel-sudoku-cli --version | grep -F "$higher" || return 1
