@@ -25,9 +25,11 @@ Picture TakePicture(QWidget& widget);
 // are texts, in either of the pictures, the ink of a place counts: it may be spread otherwise, not be more or less.
 QRegion Difference(const Picture& now, const QImage& approved);
 
-// Compares with the approved picture of that name and says where they differ. Then approved picture, present one and
-// the difference are left side by side in NAME.png in the folder "pictures" where the test runs. With
-// KESTREL_RENEW_PICTURES=1 the present picture is stored as the approved one instead: look at it.
+// Compares with the approved picture of that name and says where they differ: in any pixel where this machine draws
+// letters, shapes and Qt's own widgets to the pixel as the one that drew the approved pictures ("drawn_by_qt"), else as
+// Difference() tells. Then approved picture, present one and the difference are left side by side in NAME.png in the
+// folder "pictures" where the test runs. With KESTREL_RENEW_PICTURES=1 the present picture is stored as the approved one
+// instead, and so is "drawn_by_qt": look at it.
 void ExpectApproved(const std::string& name, QWidget& widget);
 
 }  // namespace kestrel::testing
