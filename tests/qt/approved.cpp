@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QDir>
+#include <QGuiApplication>
 #include <QImageWriter>
 #include <QPaintEngine>
 #include <QPainter>
@@ -13,7 +15,9 @@
 #include <QStyleFactory>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 
 namespace kestrel::testing {
@@ -102,9 +106,11 @@ void Save(const QImage& image, const QString& file) {
 }
 
 // A file of tests/qt/pictures. Those of ending ".newer" are for newer releases of Qt, which put a few things, like the
-// slider's knob, a pixel or two elsewhere.
+// slider's knob, a pixel or two elsewhere. A scale other than the design's has files of its own.
 QString FileOf(const std::string& name, const char* ending = "") {
-  return QStringLiteral(KESTREL_SOURCE_DIR "/tests/qt/pictures/%1%2.png").arg(name.c_str(), ending);
+  const double ratio = qGuiApp->devicePixelRatio();
+  const QString scale = ratio == 1 ? QString() : QString("_at_%1").arg(std::lround(100 * ratio));
+  return QStringLiteral(KESTREL_SOURCE_DIR "/tests/qt/pictures/") + name.c_str() + scale + ending + ".png";
 }
 
 QImage Approved(const std::string& name, const char* ending = "") {
@@ -160,12 +166,49 @@ QRegion OtherPixels(const QImage& now, const QImage& approved) {
   return other;
 }
 
+// One line for each that can be seen, those within further to the right.
+void WriteAccess(QAccessibleInterface& each, QPoint origin, int depth, QString& lines) {
+  const QAccessible::State state = each.state();
+  if (state.invisible) return;
+  quint64 bits = 0;
+  static_assert(sizeof state == sizeof bits);
+  std::memcpy(&bits, &state, sizeof bits);
+  const QRect place = each.rect().translated(-origin);
+  QStringList parts;
+  for (const auto text : {QAccessible::Name, QAccessible::Description, QAccessible::Value, QAccessible::Help})
+    parts << each.text(text);
+  if (auto* action = each.actionInterface(); action != nullptr) {
+    for (const QString& name : action->actionNames())
+      parts << name + ':' + action->localizedActionName(name) + ':' +
+                   action->localizedActionDescription(name);
+  }
+  if (auto* cell = each.tableCellInterface(); cell != nullptr) {
+    parts << QString("cell %1 %2 %3").arg(cell->rowIndex()).arg(cell->columnIndex()).arg(cell->isSelected());
+  }
+  if (const auto* widget = qobject_cast<QWidget*>(each.object()); widget != nullptr) {
+    parts << QString("cursor %1 focus %2").arg(widget->cursor().shape()).arg(widget->focusPolicy());
+  }
+  lines += QString(depth, ' ') + QString("%1 %2 %3,%4 %5x%6 ")
+                                     .arg(each.role())
+                                     .arg(bits, 0, 16)
+                                     .arg(place.x())
+                                     .arg(place.y())
+                                     .arg(place.width())
+                                     .arg(place.height());
+  lines += parts.join('|').replace('\n', ' ') + '\n';
+  for (int i = 0; i < each.childCount(); ++i) {
+    if (QAccessibleInterface* child = each.child(i)) WriteAccess(*child, origin, depth + 1, lines);
+  }
+}
+
 }  // namespace
 
 Picture TakePicture(QWidget& widget) {
   TextFinder finder(widget.size());
   widget.render(&finder);
-  return {widget.grab().toImage().convertToFormat(QImage::Format_RGB32), finder.texts};
+  const QImage image = widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+  const double ratio = image.devicePixelRatio();
+  return {image, QTransform::fromScale(ratio, ratio).map(finder.texts)};
 }
 
 QRegion Difference(const Picture& now, const QImage& approved) {
@@ -195,8 +238,7 @@ QRegion Difference(const Picture& now, const QImage& approved) {
   return difference;
 }
 
-void ExpectApproved(const std::string& name, QWidget& widget) {
-  const Picture now = TakePicture(widget);
+void ExpectApproved(const std::string& name, const Picture& now) {
   const QByteArray renew = qgetenv("KESTREL_RENEW_PICTURES");
   if (renew == "1") {
     Save(now.image, FileOf(name));
@@ -216,6 +258,22 @@ void ExpectApproved(const std::string& name, QWidget& widget) {
   const QRect place = difference.boundingRect();
   ADD_FAILURE() << name << " is not as approved, first at " << place.x() << "," << place.y() << ": see "
                 << qPrintable(beside);
+}
+
+void ExpectApprovedAccess(const std::string& name, QWidget& window) {
+  QString now;
+  WriteAccess(*QAccessible::queryAccessibleInterface(&window), window.mapToGlobal(QPoint()), 0, now);
+  QFile file(FileOf(name, "").replace(".png", ".access"));
+  if (qgetenv("KESTREL_RENEW_PICTURES") == "1" && file.open(QFile::WriteOnly)) file.write(now.toUtf8());
+  file.close();
+  if (!DrawsAlike()) return;
+  EXPECT_TRUE(file.open(QFile::ReadOnly)) << name;
+  const QStringList approved = QString::fromUtf8(file.readAll()).split('\n');
+  const QStringList lines = now.split('\n');
+  EXPECT_EQ(lines.size(), approved.size()) << name;
+  for (qsizetype i = 0; i < std::min(lines.size(), approved.size()); ++i) {
+    ASSERT_EQ(lines[i].toStdString(), approved[i].toStdString()) << name;
+  }
 }
 
 }  // namespace kestrel::testing

@@ -10,7 +10,7 @@
 
 namespace kestrel::testing {
 
-// A picture, and where texts stand in it.
+// A picture, and where texts stand in it, in its pixels.
 struct Picture {
   QImage image;
   QRegion texts;
@@ -30,6 +30,10 @@ QRegion Difference(const Picture& now, const QImage& approved);
 // Difference() tells. Then approved picture, present one and the difference are left side by side in NAME.png in the
 // folder "pictures" where the test runs. With KESTREL_RENEW_PICTURES=1 the present picture is stored as the approved one
 // instead, and so is "drawn_by_qt": look at it.
-void ExpectApproved(const std::string& name, QWidget& widget);
+void ExpectApproved(const std::string& name, const Picture& now);
+
+// Compares what assistive tools see of a window - roles, names, values, states, places, actions - with the approved
+// text of that name, where this machine draws alike; elsewhere nothing is compared. KESTREL_RENEW_PICTURES=1 stores it.
+void ExpectApprovedAccess(const std::string& name, QWidget& window);
 
 }  // namespace kestrel::testing

@@ -2,14 +2,18 @@
 // Every screen in its states against approved pictures.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPainter>
+#include <QTableView>
 #include <QTest>
 
 #include "qt/approved.h"
 #include "qt/qt_game.h"
+#include "ui/qt/help_view.h"
 #include "ui/qt/main_extras.h"
 #include "ui/qt/view_menu.h"
 
@@ -31,7 +35,7 @@ struct Screens : QtGame {
     for (const QPoint point : {QPoint(2, 2), pointer})
       QTest::mouseMove(widget.window()->windowHandle(), point);
     Settle();
-    ExpectApproved(name, widget);
+    ExpectApproved(name, TakePicture(widget));
   }
   void Show(const std::string& name) { Show(name, Window()); }
   // In the light colours, and in others.
@@ -42,6 +46,52 @@ struct Screens : QtGame {
     }
     front_end.Choices().SetColours(ColourChoice::Light);
     Show(name, widget);
+  }
+
+  // Controls of a window in every palette, each at rest, pointed at, pressed, with the keyboard, and not enabled.
+  void ShowStates(const std::string& name, const std::vector<QWidget*>& controls) {
+    for (const ColourChoice choice : {ColourChoice::Light, ColourChoice::Dark, ColourChoice::HighContrast}) {
+      front_end.Choices().SetColours(choice);
+      Picture sheet{QImage(1000, 40 * static_cast<int>(controls.size()), QImage::Format_RGB32), {}};
+      sheet.image.fill(Qt::magenta);
+      for (std::size_t row = 0; row < controls.size(); ++row)
+        AddStates(sheet, *controls[row], 40 * static_cast<int>(row));
+      ExpectApproved(name + std::to_string(static_cast<int>(choice)), sheet);
+    }
+    front_end.Choices().SetColours(ColourChoice::Light);
+  }
+  void AddStates(Picture& sheet, QWidget& control, int top) {
+    QPoint place(0, top);
+    const auto add = [&] {
+      const Picture now = TakePicture(control);
+      QPainter(&sheet.image).drawImage(QRectF(place * 1.0, now.image.size() / 1.0), now.image);
+      sheet.texts += now.texts.translated(place);
+      place += QPoint(now.image.width() + 4, 0);
+    };
+    QWindow* window = control.window()->windowHandle();
+    const auto point_at = [&](QPoint point) {
+      QTest::mouseMove(window, point);
+      Settle();
+      add();
+    };
+    const bool enabled = control.isEnabled();
+    control.setEnabled(true);
+    control.window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    point_at(QPoint(1, 1));
+    point_at(control.mapTo(control.window(), control.rect().center()));
+    if (auto* button = qobject_cast<QAbstractButton*>(&control)) {
+      button->setDown(true);
+      add();
+      button->setDown(false);
+    }
+    QTest::mouseMove(window, QPoint(1, 1));
+    QWidget* before = control.window()->focusWidget();
+    control.setFocus(Qt::TabFocusReason);
+    add();
+    if (before != nullptr) before->setFocus();
+    control.setEnabled(false);
+    add();
+    control.setEnabled(enabled);
   }
 
   // Fills the cells in order until only `left` are empty.
@@ -92,6 +142,75 @@ TEST(Pictures, Play) {
   medium.Show("play_75");
   medium.Release(QPoint(2, 2));
   medium.front_end.Choices().SetSize(100);
+}
+
+TEST(Pictures, StatesOfControls) {
+  Screens game(3);
+  std::vector<QWidget*> controls;
+  for (const char* name : {"CommandNew", "CommandUndo", "CommandHint", "OptionType(2)", "OptionType(3)",
+                           "chkSound", "RenewLevel(4)", "LabelCount(6)", "LabelCount(28)", "Picture1",
+                           "LabelHint", "StatusBar(2)", "cmdPlayers"}) {
+    controls.push_back(game.Widget(name));
+    ASSERT_NE(controls.back(), nullptr) << name;
+  }
+  controls.push_back(&game.front_end.Windows().Extras()->Menu());
+  game.ShowStates("states_main", controls);
+  game.Expect([&](QWidget& dialog) {
+    std::vector<QWidget*> of_dialog;
+    for (const char* name : {"PageSlider", "SudokuTypeKeuze", "TextFrom", "OptionAantal(1)",
+                             "OptionAantal(2)", "CheckSolution"}) {
+      of_dialog.push_back(game.Widget(name));
+    }
+    game.ShowStates("states_print", of_dialog);
+    dialog.close();
+  });
+  game.ClickControl("CommandPrint");
+}
+
+// What assistive tools see of every window.
+TEST(Pictures, Access) {
+  Screens game;
+  ExpectApprovedAccess("start", game.Window());
+  game.ClickControl("CommandNew");
+  game.Fill(30);
+  game.ClickControl("CommandHint");
+  game.Click(QtGame::Corner(game.Main().LabelRow(2)) + QPoint(17, 17));
+  ExpectApprovedAccess("play", game.Window());
+  for (const auto& [button, name] :
+       {std::pair{"cmdPlayers", "players"}, {"CommandPrint", "print"}, {"CommandQuit", "quit"}}) {
+    game.Expect([&, name = name](QWidget& dialog) {
+      ExpectApprovedAccess(name, dialog);
+      dialog.close();
+    });
+    if (button == std::string("CommandQuit"))
+      game.Window().close();
+    else
+      game.ClickControl(button);
+  }
+  game.front_end.OpenRecords(3);
+  ExpectApprovedAccess("records", *game.front_end.Records());
+}
+
+// Small, with times of every length, and pointed at.
+TEST(Pictures, SmallWindows) {
+  Screens game(3);
+  game.front_end.Choices().SetSize(75);
+  game.Expect([&](QWidget& dialog) {
+    game.Show("print_75", dialog);
+    dialog.close();
+  });
+  game.ClickControl("CommandPrint");
+  for (int number = 1; number <= 100; ++number) {
+    SudokuRecord& record = (*game.State().stockroom.stock)(2, number);
+    record.Score = 40 + number;
+    record.BestMinutes = static_cast<std::int16_t>(number < 60 ? number : 0);
+  }
+  game.front_end.OpenRecords(2);
+  RecordsWindow& records = *game.front_end.Records();
+  auto* map = records.findChild<QTableView*>();
+  game.pointer = map->viewport()->mapTo(&records, map->visualRect(map->model()->index(3, 3)).center());
+  game.Show("records_75", records);
+  game.front_end.Choices().SetSize(100);
 }
 
 TEST(Pictures, HintAndLens) {
@@ -211,13 +330,19 @@ TEST(Pictures, Help) {
   game.program_folder.Put("help/index.html",
                           R"(<html><body><p><a href="index.html">Contents</a></p><h1>A page</h1>
       <table><tr><td>Some words about what stands beside them.</td>
-      <td class="picture"><img src="board.svg" width="282" height="281"></td></tr></table>
+<td class="picture"><img src="board.svg" width="282" height="281"></td></tr></table>
       <h2>More</h2><p class="note">A note that is small.</p></body></html>)");
   game.program_folder.Put("help/board.svg", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 564 562">
       <rect class="cell" x="20" y="20" width="500" height="500" fill="#fff" stroke="#000" stroke-width="8"/></svg>)");
   game.ClickControl("CommandHelp");
   FormWindow& window = game.front_end.Windows().WindowOf(FormId::Browser);
   game.ShowIn({kDark}, "help", window);
+  window.setWindowState(Qt::WindowNoState);
+  window.resize(330, 400);
+  game.Settle();
+  game.front_end.Windows().OfferSolving(&game.State().play.puzzle.GivenDigits);
+  QTest::keyClick(game.front_end.Windows().Help(), Qt::Key_F, Qt::ControlModifier);
+  game.Show("help_narrow", window);
 }
 
 // The measure itself: faults of one pixel are seen, letters that are drawn otherwise are not.

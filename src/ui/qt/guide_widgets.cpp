@@ -17,14 +17,19 @@ namespace {
 // The cells that the card covers, in the middle of the board.
 constexpr QPoint kCardFirst(2, 3);
 constexpr QPoint kCardLast(6, 5);
-// Twips; on the card, and the line between board and commands.
-constexpr int kCardWidth = CellEdge(kCardLast.x() + 1) - CellEdge(kCardFirst.x()) + 2 * kTwipsPerPixel;
-constexpr QRect kCardNext(1313, 1260, 1845, 570);
-constexpr QRect kLine(960, 8805, 7695, 180);
-constexpr int kCross = 240;
+// Pixels of 96 dpi; on the card, and the line between board and commands.
+constexpr int kCardWidth = (CellEdge(kCardLast.x() + 1) - CellEdge(kCardFirst.x())) / kTwipsPerPixel + 2;
+constexpr QRect kCardNext(88, 84, 123, 38);
+constexpr QRect kLine(64, 587, 513, 12);
+constexpr int kCross = 16;
 
-QRect LogicalRect(const QRect& twips) {
-  return PixelGrid(TheLook().zoom).Rect(twips.x(), twips.y(), twips.width(), twips.height());
+QRect On(const PixelGrid& grid, const QRect& pixels) {
+  return grid.Rect(pixels.x() * kTwipsPerPixel, pixels.y() * kTwipsPerPixel, pixels.width() * kTwipsPerPixel,
+                   pixels.height() * kTwipsPerPixel);
+}
+
+QRect LogicalRect(const QRect& pixels) {
+  return On(PixelGrid(TheLook().zoom), pixels);
 }
 
 }  // namespace
@@ -90,7 +95,7 @@ void GuideCard::PlaceAll() {
   setGeometry(RectOnLines(PixelGrid(TheLook().zoom), kCardFirst, kCardLast));
   next_.setGeometry(LogicalRect(kCardNext));
   next_.setFont(ToQFont(Font{"MS Sans Serif", 12, true}, TheLook().zoom));
-  cross_.setGeometry(LogicalRect(QRect(kCardWidth - kCross - 90, 90, kCross, kCross)));
+  cross_.setGeometry(LogicalRect(QRect(kCardWidth - kCross - 6, 6, kCross, kCross)));
 }
 
 void GuideCard::paintEvent(QPaintEvent* /*event*/) {
@@ -101,11 +106,11 @@ void GuideCard::paintEvent(QPaintEvent* /*event*/) {
   PaintRounded(painter, surface.Area(), 0, colours.paper, colours.thick_line, grid.Pixels(2));
   painter.setPen(QColor(colours.text));
   painter.setFont(ToQFont(Font{"MS Sans Serif", 11.25, true}, grid.Ratio()));
-  PaintText(painter, grid.Rect(0, 525, kCardWidth, 300), Align::Centre, QLatin1String(texts::kCardTitle));
+  PaintText(painter, On(grid, QRect(0, 35, kCardWidth, 20)), Align::Centre, QLatin1String(texts::kCardTitle));
   painter.setFont(ToQFont(Font{"MS Sans Serif", 9, false}, grid.Ratio()));
-  PaintText(painter, grid.Rect(0, 855, kCardWidth, 270), Align::Centre,
+  PaintText(painter, On(grid, QRect(0, 57, kCardWidth, 18)), Align::Centre,
             QLatin1String(texts::kCardLevel).arg(level_));
-  PaintText(painter, grid.Rect(0, 1965, kCardWidth, 300), Align::Centre, QLatin1String(texts::kCardHelp));
+  PaintText(painter, On(grid, QRect(0, 131, kCardWidth, 20)), Align::Centre, QLatin1String(texts::kCardHelp));
 }
 
 // ---- GuideLine ----
@@ -138,7 +143,7 @@ void GuideLine::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(QColor(TheColours().text));
   painter.setFont(ToQFont(Font{}, grid.Ratio()));
   // A little higher than the middle: what hangs down must fit as well.
-  PaintText(painter, grid.Rect(0, 0, kLine.width(), kLine.height() - 30), Align::Centre, text_);
+  PaintText(painter, On(grid, QRect(0, 0, kLine.width(), kLine.height() - 2)), Align::Centre, text_);
 }
 
 }  // namespace kestrel

@@ -6,8 +6,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextBrowser>
 
+#include "ui/qt/fonts.h"
+#include "ui/qt/look.h"
 #include "ui/qt/texts.h"
 
 namespace kestrel {
@@ -50,10 +53,14 @@ void HelpFind::Close() {
 }
 
 void HelpFind::Fit() {
-  setFont(view_.window()->font());  // not the page's; and after a change of the size, too
+  setFont(ToQFont(Font{}, TheLook().zoom));  // not the page's; and after a change of the size, too
   answer_->setMinimumWidth(answer_->fontMetrics().horizontalAdvance(QLatin1String(texts::kNotFound)) + 6);
   const int height = sizeHint().height();
-  const QRect inside = view_.contentsRect();
+  const auto room = [](const QScrollBar* bar, int thickness) { return bar->isVisible() ? thickness : 0; };
+  const QScrollBar* side = view_.verticalScrollBar();
+  const QScrollBar* below = view_.horizontalScrollBar();
+  const QRect inside =
+      view_.contentsRect().adjusted(0, 0, -room(side, side->width()), -room(below, below->height()));
   setGeometry(inside.left(), inside.bottom() + 1 - height, inside.width(), height);
 }
 

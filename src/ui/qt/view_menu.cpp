@@ -5,14 +5,15 @@
 #include <QShortcut>
 
 #include "ui/qt/form_window.h"
+#include "ui/qt/scaled.h"
 #include "ui/qt/texts.h"
 
 namespace kestrel {
 
 namespace {
 
-// Between the levels and the technique list, in twips of the window.
-constexpr QRect kPlace(10560, 2385, 840, 300);
+// Between the levels and the technique list, in pixels of 96 dpi.
+constexpr QRect kPlace(704, 159, 56, 20);
 
 struct NamedColours {
   ColourChoice choice;
@@ -43,10 +44,9 @@ ViewMenu::ViewMenu(ViewChoices& choices, QWidget* parent)
 }
 
 void ViewMenu::PlaceButton() {
-  const int left = Logical(kPlace.x());
-  const int top = Logical(kPlace.y());
-  setGeometry(left, top, Logical(kPlace.x() + kPlace.width()) - left,
-              Logical(kPlace.y() + kPlace.height()) - top);
+  const QPoint corner(Scaled(kPlace.left()), Scaled(kPlace.top()));
+  const QPoint end(Scaled(kPlace.left() + kPlace.width()), Scaled(kPlace.top() + kPlace.height()));
+  setGeometry(QRect(corner, end - QPoint(1, 1)));
 }
 
 // They work in every window of the game, but not behind a dialog.
