@@ -2,11 +2,16 @@
 // The board under a real mouse: which press reaches which mark, and what is painted again for it.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QBackingStore>
+#include <QHelpEvent>
 #include <QPaintEvent>
 #include <QTest>
+#include <QToolTip>
 
 #include "qt/qt_game.h"
+#include "ui/qt/texts.h"
+#include "view/texts.h"
 
 namespace kestrel::testing {
 namespace {
@@ -125,7 +130,23 @@ TEST(Board, LeavesNothingAsItWas) {
     play.game.ClickControl("CommandUndo");
     expect_fresh("undoing");
   }
-  play.game.ClickMark(play.cell, play.digit);
+  BoardWidget& board = *play.game.front_end.Windows().Board();
+  const auto point_at = [&](QPoint point) {
+    QTest::mouseMove(window.windowHandle(), point);
+    play.game.Settle();
+    expect_fresh("pointing");
+  };
+  point_at(play.middle);
+  EXPECT_TRUE(play.game.WaitFor([&] { return board.Lens().has_value(); }));
+  play.game.Press(play.middle);
+  expect_fresh("pressing");
+  point_at(play.middle + QPoint(0, 40));
+  point_at(play.middle);
+  play.game.Release(play.middle, Qt::LeftButton);
+  point_at(QtGame::Corner(main.LabelRow(play.cell / 9)) + QPoint(17, 17));
+  EXPECT_TRUE(play.game.WaitFor([&] { return !board.Lens().has_value(); }));
+  play.game.Settle();
+  expect_fresh("the lens has gone");
   play.game.Click(QtGame::Corner(main.LabelRow(play.cell / 9)) + QPoint(17, 17));
   play.game.Click(QtGame::Corner(main.LabelColumn(play.cell % 9)) + QPoint(17, 17));
   for (const char* each : {"CommandResetCell", "CommandHint", "CommandSolution", "CommandNew"}) {
@@ -133,6 +154,30 @@ TEST(Board, LeavesNothingAsItWas) {
     play.game.ClickControl(each);
   }
   expect_fresh("opening");
+}
+
+TEST(Board, SaysHowToPlayBesideTheCells) {
+  for (const int level : {1, 3}) {
+    QtGame game(level);
+    BoardWidget& board = *game.front_end.Windows().Board();
+    const auto tip_at = [&](QPoint point) {
+      QHelpEvent event(QEvent::ToolTip, point, board.mapToGlobal(point));
+      QApplication::sendEvent(&board, &event);
+      return QToolTip::text();
+    };
+    const QPoint cell = QtGame::Corner(game.Main().Grid(40)) + QPoint(20, 20);
+    const QString tip = tip_at({60, 300});
+    EXPECT_EQ(tip, level == 1 ? texts::kKeypadTip : texts::kMarksTip);
+    EXPECT_EQ(tip_at({234, 300}), tip);  // the line between two boxes
+    EXPECT_EQ(tip_at({581, 300}), tip);
+    for (const QPoint elsewhere : {cell, QPoint(20, 20), QPoint(47, 300)}) {
+      tip_at({60, 300});
+      tip_at(elsewhere);
+      EXPECT_TRUE(game.WaitFor([] { return QToolTip::text().isEmpty(); }, 5000)) << elsewhere.x();
+    }
+    EXPECT_EQ(tip_at(QtGame::Corner(game.Main().LabelRow(0)) + QPoint(9, 9)).toStdString(),
+              texts::kHeaderTip);
+  }
 }
 
 TEST(Board, FollowsTheViewMenuAtOnce) {

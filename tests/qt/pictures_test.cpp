@@ -118,6 +118,7 @@ TEST(Pictures, Start) {
   game.ShowIn({kDark}, "start", game.Window());
   game.Main().Picture3.visible = true;
   for (int level = 1; level <= 5; ++level) game.Main().ProgressBar1(level).value = 120 - 20 * level;
+  game.Main().LabelStap.caption = "123456";
   game.Show("start_panel");
   game.Main().Picture3.visible = false;
 }

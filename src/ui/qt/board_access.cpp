@@ -372,7 +372,6 @@ QString BoardItem::SpokenName() const {
 std::vector<std::unique_ptr<BoardItem>> MakeBoardItems(BoardWidget& board) {
   QAccessible::installFactory(MakeBoardInterface);
   std::vector<std::unique_ptr<BoardItem>> items;
-  items.reserve(10 * kCells + 2 * kUnitSize);
   const auto add = [&](Kind kind, int count, int digit) {
     for (int i = 0; i < count; ++i) items.push_back(std::make_unique<BoardItem>(board, kind, i, digit));
   };
