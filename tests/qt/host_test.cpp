@@ -19,6 +19,7 @@
 #include "qt/qt_game.h"
 #include "support/test_stock.h"
 #include "ui/qt/help_view.h"
+#include "ui/qt/qt_sound_device.h"
 
 namespace kestrel::testing {
 namespace {
@@ -166,6 +167,26 @@ TEST(Sound, RefusesWhatIsNoWaveFile) {
     EXPECT_EQ(device.Load(folder.Written("sound.wav")) >= 0, good) << content.size();
   }
   EXPECT_LT(device.Load(folder.Written("missing.wav")), 0);
+  // Bytes of 8 bits, then words in stereo; a chunk of an odd size stands between.
+  const auto number = [](qsizetype value, int bytes) {
+    QByteArray result;
+    for (int i = 0; i < bytes; ++i) result += static_cast<char>(value >> 8 * i);
+    return result;
+  };
+  for (const auto& [bits, channels, zero] : {std::tuple{8, 1, '\x80'}, {16, 2, '\0'}}) {
+    const int frame = bits / 8 * channels;
+    const QByteArray format = number(1, 2) + number(channels, 2) + number(101, 4) + number(101 * frame, 4) +
+                              number(frame, 2) + number(bits, 2);
+    const QByteArray start = "WAVEfmt " + number(16, 4) + format;
+    const QByteArray samples(5 * frame, '\x11');
+    const QByteArray file =
+        start + "odd " + number(3, 4) + "abc" + '\0' + "data" + number(5 * frame, 4) + samples;
+    // 101 frames a second: the silence has 50.
+    const QByteArray wanted = start + "data" + number(55 * frame, 4) + samples + QByteArray(50 * frame, zero);
+    EXPECT_EQ(WaveWithSilence("RIFF" + number(9, 4) + file), "RIFF" + number(wanted.size(), 4) + wanted)
+        << bits;
+    EXPECT_TRUE(WaveWithSilence(("RIFF" + number(9, 4) + file).chopped(1)).isEmpty());
+  }
   // Ids that no file got do nothing.
   device.Play(-1);
   device.Play(7);

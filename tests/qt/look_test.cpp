@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDBusMessage>
+#include <QDBusVariant>
 #include <QFontMetrics>
 #include <QTextBlock>
 #include <QTextTable>
@@ -120,6 +122,29 @@ TEST(Look, FollowsTheFilesOfDesktops) {
     const EnvironmentValue theme("GTK_THEME", "HighContrast");
     EXPECT_EQ(DesktopLookAtStart(), (DesktopLook{false, true}));
   }
+}
+
+// What the portal tells while the game runs.
+TEST(Look, FollowsThePortal) {
+  DesktopColours colours({true, false});
+  int changes = 0;
+  colours.on_change = [&] { ++changes; };
+  const auto told = [&](const char* group, const char* key, unsigned value) {
+    QDBusMessage signal = QDBusMessage::createSignal("/a", "org.a", "SettingChanged");
+    signal << group << key << QVariant::fromValue(QDBusVariant(value));
+    EXPECT_TRUE(QMetaObject::invokeMethod(&colours, "OnSettingChanged", Q_ARG(QDBusMessage, signal)));
+    return colours.SchemeFor(ColourChoice::Desktop);
+  };
+  const char* group = "org.freedesktop.appearance";
+  EXPECT_EQ(told(group, "color-scheme", 2), Scheme::Light);
+  EXPECT_EQ(told(group, "color-scheme", 1), Scheme::Dark);
+  EXPECT_EQ(told(group, "color-scheme", 2), Scheme::Light);
+  EXPECT_EQ(told(group, "color-scheme", 0), Scheme::Dark);  // none, as at the start
+  EXPECT_EQ(told(group, "contrast", 1), Scheme::HighContrast);
+  EXPECT_EQ(told(group, "contrast", 0), Scheme::Dark);
+  EXPECT_EQ(changes, 6);
+  EXPECT_EQ(told("org.a", "color-scheme", 2), Scheme::Dark);
+  EXPECT_EQ(changes, 6);
 }
 
 // What stands on a help page, as the view laid it out: every text against the ground of its cell, or the page's.

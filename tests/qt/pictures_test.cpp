@@ -94,6 +94,16 @@ struct Screens : QtGame {
     control.setEnabled(enabled);
   }
 
+  // In the dialog.
+  void AddPlayers(QWidget& dialog, std::initializer_list<const char*> names) {
+    auto* field = dialog.findChild<QLineEdit*>();
+    for (const char* name : names) {
+      ClickControl("KnopNieuweSpeler");
+      QTest::keyClicks(field, name);
+      QTest::keyClick(field, Qt::Key_Return);
+    }
+  }
+
   // Fills the cells in order until only `left` are empty.
   void Fill(int left) {
     while (std::ranges::count(State().play.puzzle.CurrentDigits, 0) > left) {
@@ -201,10 +211,16 @@ TEST(Pictures, SmallWindows) {
     dialog.close();
   });
   game.ClickControl("CommandPrint");
+  game.Expect([&](QWidget& dialog) {
+    game.AddPlayers(dialog, {"Ann", "Bo", "Cy", "Di", "Ed"});
+    dialog.close();
+  });
+  game.ClickControl("cmdPlayers");
   for (int number = 1; number <= 100; ++number) {
     SudokuRecord& record = (*game.State().stockroom.stock)(2, number);
     record.Score = 40 + number;
     record.BestMinutes = static_cast<std::int16_t>(number < 60 ? number : 0);
+    record.BestPlayer = static_cast<std::int16_t>(number % 6);
   }
   game.front_end.OpenRecords(2);
   RecordsWindow& records = *game.front_end.Records();
@@ -268,11 +284,7 @@ TEST(Pictures, Players) {
   Screens game;
   game.Expect([&](QWidget& dialog) {
     game.Show("players_none", dialog);
-    for (const char* name : {"Ann", "Bo"}) {
-      game.ClickControl("KnopNieuweSpeler");
-      QTest::keyClicks(dialog.findChild<QLineEdit*>(), name);
-      QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
-    }
+    game.AddPlayers(dialog, {"Ann", "Bo"});
     dialog.findChild<QListWidget*>()->setCurrentRow(1);
     game.ShowIn({kDark, kContrast}, "players", dialog);
     game.ClickControl("KnopWijzigen");

@@ -40,8 +40,8 @@ QByteArray Silence(const QByteArray& format) {
   return {wanted / frame * frame, is_unsigned ? '\x80' : '\0'};
 }
 
-// The format and the samples of a wave file, with silence behind them; empty when it is none. The sound
-// server throws away what is not played yet when the samples end: that must be nothing that one should hear.
+}  // namespace
+
 QByteArray WaveWithSilence(const QByteArray& file) {
   if (!file.startsWith("RIFF") || file.mid(8, 4) != "WAVE") return {};
   QByteArray format;
@@ -60,8 +60,6 @@ QByteArray WaveWithSilence(const QByteArray& file) {
   }
   return {};
 }
-
-}  // namespace
 
 bool QtSoundDevice::Open() {
   return !QMediaDevices::defaultAudioOutput().isNull();

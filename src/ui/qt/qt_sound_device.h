@@ -2,6 +2,7 @@
 // Plays the sounds through Qt Multimedia. Built by the front end.
 #pragma once
 
+#include <QByteArray>
 #include <QSoundEffect>
 #include <cstdint>
 #include <memory>
@@ -11,6 +12,10 @@
 #include "forms/sound_device.h"
 
 namespace kestrel {
+
+// The format and the samples of a wave file, with half a second of silence behind them; empty when it is none. The sound
+// server throws away what is not played yet when the samples end: that must be nothing that one should hear.
+QByteArray WaveWithSilence(const QByteArray& file);
 
 // One voice per sound: a sound that is played again while it lasts starts anew, so that a burst of clicks
 // does not pile up.
