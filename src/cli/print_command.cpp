@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -115,7 +116,7 @@ PrintedPuzzle Prepared(const DigitGrid& givens, int number, SolutionCounter& cou
 
 // The heading of pages from files: a file's name without its folders, not longer than fits beside the title.
 std::string HeadingOf(const std::vector<std::string>& files) {
-  constexpr std::size_t kLongest = 36;
+  constexpr std::size_t kLongest = 32;
   if (files.size() != 1 || files[0] == "-") return {};
   const std::string name = files[0].substr(files[0].find_last_of('/') + 1);
   return name.size() <= kLongest ? name : name.substr(0, kLongest - 3) + "...";
@@ -145,9 +146,8 @@ std::string NumberedName(const std::string& name, std::size_t page, std::size_t 
   if (pages == 1) return name;
   const std::string digits = std::to_string(page);
   const std::string number = '-' + std::string(std::to_string(pages).size() - digits.size(), '0') + digits;
-  const std::size_t dot = name.find_last_of("./");
-  if (dot == std::string::npos || dot == 0 || name[dot] != '.') return name + number;
-  return name.substr(0, dot) + number + name.substr(dot);
+  const std::filesystem::path path(name);
+  return path.parent_path() / (path.stem().string() + number + path.extension().string());
 }
 
 ExitStatus WritePages(const PrintWish& wish, const std::vector<std::string>& sources, CliPorts& ports) {

@@ -28,7 +28,7 @@ TEST(Program, DoesWhatTheTranscriptSays) {
                   kProgram + " '" KESTREL_SCRIPT "' " + source + "/data " + source +
                   "/tests/cli/transcript.txt > played"),
             0);
-  testing::ExpectApproved("cli/transcript.txt", folder.Get("played"));
+  ExpectApproved("cli/transcript.txt", folder.Get("played"));
 }
 
 TEST(Program, LostOutputIsNoticed) {

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
 
 #include "recording_page.h"
 
@@ -18,23 +17,9 @@ std::vector<Drawn> PrintOnePage(const StockTable& stock, const PrintSettings& se
   return page.pages.at(0);
 }
 
-TEST(PageMetrics, EveryGridHasItsPlace) {
+TEST(PageMetrics, AreInWholeUnitsOfEveryPrinter) {
   const PageMetrics even = MeasurePage(2100, 2970);
   EXPECT_EQ(even, (PageMetrics{100, 1600, 2470, 250, 250, 1850, 2720}));
-  struct Row {
-    int per_page, position;
-    GridSquare sudoku, solution;
-  };
-  for (const Row& row : std::initializer_list<Row>{{1, 1, {250, 350, 1600}, {250, 2020, 700}},
-                                                   {2, 1, {250, 350, 1000}, {1350, 850, 500}},
-                                                   {2, 2, {250, 1620, 1000}, {1350, 2120, 500}},
-                                                   {4, 1, {250, 350, 700}, {250, 1100, 400}},
-                                                   {4, 2, {1150, 350, 700}, {1150, 1100, 400}},
-                                                   {4, 3, {250, 1570, 700}, {250, 2320, 400}},
-                                                   {4, 4, {1150, 1570, 700}, {1150, 2320, 400}}}) {
-    EXPECT_EQ(SudokuSquare(even, row.per_page, row.position), row.sudoku) << row.per_page << row.position;
-    EXPECT_EQ(SolutionSquare(even, row.per_page, row.position), row.solution) << row.per_page << row.position;
-  }
   // 600 dpi, 23.62 units a millimetre; and U = 47, so that 4.5 U = 211 and 8.5 U = 399.
   EXPECT_EQ(MeasurePage(4960, 7016), (PageMetrics{236, 3780, 5836, 590, 590, 4370, 6426}));
   const PageMetrics odd = MeasurePage(1000, 1414);
@@ -42,7 +27,7 @@ TEST(PageMetrics, EveryGridHasItsPlace) {
   EXPECT_EQ(SolutionSquare(odd, 4, 2), (GridSquare{881 - 329, 119 + 399, 188}));
 }
 
-// All twelve kinds of page: what is on them, in which sizes, and that nothing overlaps or leaves the sheet.
+// All twelve kinds of page: nothing overlaps or leaves the sheet.
 TEST(PageLayout, EveryKindOfPageHasItsTextsApart) {
   const StockTable stock = StockToPrint();
   for (int kind = 0; kind < 12; ++kind) {
@@ -50,22 +35,14 @@ TEST(PageLayout, EveryKindOfPageHasItsTextsApart) {
     const int per_page = 1 << kind / 4;
     std::vector<Drawn> page =
         PrintOnePage(stock, {.per_page = per_page, .with_solutions = solutions, .with_pencil_marks = marks});
-    std::set<std::pair<char, int>> sizes;  // T(imes) or A(rial), points; below 0: bold
     for (Drawn& one : page) {
       // Five millimetres of a sheet are out of reach for printers.
       EXPECT_TRUE(one.left >= 50 && one.top >= 50 && one.right <= 2050 && one.bottom <= 2920) << one.text;
       if (!one.IsText()) continue;
-      sizes.insert({one.style.font.family[0], one.style.font.bold ? -one.size : one.size});
       // Ink fills the middle of a text's box only: the boxes of the largest digits are higher than a cell.
       one.top += one.size / 2;
       one.bottom -= one.size / 2;
     }
-    const auto k = static_cast<std::size_t>(kind / 4);
-    std::set<std::pair<char, int>> expected = {{'A', 18}, {'A', 8}, {'A', std::array{18, 11, 8}[k]}};
-    expected.insert({'T', std::array{-42, -28, -18}[k]});
-    if (marks) expected.insert({'T', std::array{11, 7, 5}[k]});
-    if (solutions) expected.insert({'T', std::array{11, 8, 6}[k]});
-    EXPECT_EQ(sizes, expected);
     for (const Drawn& one : page) {
       for (const Drawn& other : page) {
         const bool apart = other.right <= one.left || other.left >= one.right || other.bottom <= one.top ||

@@ -17,7 +17,6 @@ struct Drawn {
   std::string text;
   int left = 0, top = 0, right = 0, bottom = 0;
   int size = 0;
-  TextStyle style;
   [[nodiscard]] bool IsText() const { return text != "-" && text != "#"; }
 };
 
@@ -33,13 +32,13 @@ class RecordingPage : public Page {
   }
   void Text(int x, int y, const TextStyle& style, std::string_view text) override {
     const auto [w, h] = Measure(style, text);
-    drawn.push_back({std::string(text), x, y, x + w, y + h, static_cast<int>(style.font.size), style});
+    drawn.push_back({std::string(text), x, y, x + w, y + h, static_cast<int>(style.font.size)});
   }
   void Line(int x1, int y1, int x2, int y2, int thickness) override {
-    drawn.push_back({"-", x1, y1, x2, y2, thickness, {}});
+    drawn.push_back({"-", x1, y1, x2, y2, thickness});
   }
   void Box(int x1, int y1, int x2, int y2, int thickness) override {
-    drawn.push_back({"#", x1, y1, x2, y2, thickness, {}});
+    drawn.push_back({"#", x1, y1, x2, y2, thickness});
   }
   bool NewPage() override {
     pages.push_back(std::move(drawn));

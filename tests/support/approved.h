@@ -10,7 +10,7 @@
 #include <sstream>
 #include <string>
 
-namespace kestrel::testing {
+namespace kestrel {
 
 // Compares a text, line by line, with the file `name` below tests.
 inline void ExpectApproved(const std::string& name, const std::string& text) {
@@ -26,4 +26,4 @@ inline void ExpectApproved(const std::string& name, const std::string& text) {
   EXPECT_FALSE(std::getline(lines, line)) << "more than in " << name << ": " << line;
 }
 
-}  // namespace kestrel::testing
+}  // namespace kestrel

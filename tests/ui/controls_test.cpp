@@ -3,33 +3,50 @@
 
 #include <map>
 #include <set>
+#include <sstream>
 #include <string>
 
 #include "forms/forms.h"
+#include "support/approved.h"
 
 namespace kestrel {
 namespace {
 
-// Scripts name a control without its form, and screen readers read every control.
-TEST(Controls, HaveNamesOfTheirOwn) {
+// Everything about every control, in tests/ui/controls.txt.
+TEST(Controls, AreAsApproved) {
   Forms forms;
   std::set<std::string> names;
-  int count = 0;
-  EachControl(forms, [&](FormId, ControlId id, auto&) {
-    names.insert(FullName(id));
-    ++count;
-  });
-  EXPECT_EQ(names.size(), count);
-}
-
-// Half pixels would blur every edge at 100 %.
-TEST(Controls, StandOnWholePixels) {
-  Forms forms;
-  EachControl(forms, [](FormId, ControlId id, const Control& control) {
-    for (const int twips : {control.left, control.top, control.width, control.height}) {
-      EXPECT_EQ(twips % kTwipsPerPixel, 0) << FullName(id);
+  std::ostringstream all;
+  EachControl(forms, [&](FormId form, ControlId id, const auto& c) {
+    all << static_cast<int>(form) << ' ' << FullName(id) << ' ' << c.left << ',' << c.top << ' ' << c.width
+        << 'x' << c.height << (c.visible ? "" : " hidden") << (c.enabled ? "" : " off")
+        << (c.transparent ? " clear" : "");
+    if (c.tab_index >= 0) all << " tab " << c.tab_index;
+    if (c.fore != kWindowTextColour || c.back != kWindowColour)
+      all << std::hex << ' ' << c.fore << " on " << c.back;
+    all << std::dec;
+    if (c.font != Font()) all << ' ' << c.font.family << ' ' << c.font.size << (c.font.bold ? " bold" : "");
+    if constexpr (requires { c.align; })
+      all << " align " << static_cast<int>(c.align) << (c.link ? " link" : "");
+    if constexpr (requires { c.value; }) all << " is " << c.value;
+    if constexpr (requires { c.maximum; }) all << " of " << c.minimum << ".." << c.maximum;
+    if constexpr (requires { c.is_default; }) all << " keys " << c.is_default << c.is_cancel;
+    if constexpr (requires { c.lines; }) all << " line " << c.index << " of " << c.lines.size();
+    if constexpr (requires { c.max_length; })
+      all << " takes " << c.max_length << c.digits_only << " \"" << c.text << '"';
+    if constexpr (requires { c.interval; }) all << " every " << c.interval;
+    if constexpr (requires { c.modal; }) all << " state " << static_cast<int>(c.state) << c.open << c.modal;
+    if constexpr (requires { c.caption; }) all << " \"" << c.caption << '"';
+    if constexpr (requires { c.mnemonic; }) all << " [" << (c.mnemonic != 0 ? c.mnemonic : ' ') << ']';
+    for (const std::string& text : {c.tooltip, c.tag, c.spoken}) all << (text.empty() ? "" : " | ") << text;
+    all << '\n';
+    // Scripts name a control without its form, and screen readers read every control.
+    EXPECT_TRUE(names.insert(FullName(id)).second) << FullName(id);
+    for (const int twips : {c.left, c.top, c.width, c.height}) {
+      EXPECT_EQ(twips % kTwipsPerPixel, 0) << FullName(id);  // half pixels would blur every edge at 100 %
     }
   });
+  ExpectApproved("ui/controls.txt", all.str());
 }
 
 // The keyboard's order is gapless, and a letter means one thing in a window.
