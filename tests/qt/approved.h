@@ -32,8 +32,9 @@ QRegion Difference(const Picture& now, const QImage& approved);
 // instead, and so is "drawn_by_qt": look at it.
 void ExpectApproved(const std::string& name, const Picture& now);
 
-// Compares what assistive tools see of a window - roles, names, values, states, places, actions - with the approved
-// text of that name, where this machine draws alike; elsewhere nothing is compared. KESTREL_RENEW_PICTURES=1 stores it.
-void ExpectApprovedAccess(const std::string& name, QWidget& window);
+// Compares what cannot be seen of a window with the approved text of that name, where this machine draws alike; elsewhere
+// nothing is compared: what assistive tools are told - roles, names, values, states, places, actions - and the properties
+// of all objects that are not those of a plain widget. KESTREL_RENEW_PICTURES=1 stores it.
+void ExpectApprovedInside(const std::string& name, QWidget& window);
 
 }  // namespace kestrel::testing

@@ -270,7 +270,7 @@ class BoardInterface final : public QAccessibleWidget, public QAccessibleTableIn
 
   bool Toggle(BoardSpot::Kind kind, int line, bool wanted) {
     if (!wanted || !IsLine(line)) return false;
-    board_.Click({kind, line, 0}, MouseButton::Left);
+    board_.Click({kind, line}, MouseButton::Left);
     return true;
   }
 
@@ -322,9 +322,9 @@ const Label& BoardItem::GetControl() const {
 BoardSpot BoardItem::Spot() const {
   switch (kind_) {
     case Kind::Row:
-      return {BoardSpot::Kind::Row, index_, 0};
+      return {BoardSpot::Kind::Row, index_};
     case Kind::Column:
-      return {BoardSpot::Kind::Column, index_, 0};
+      return {BoardSpot::Kind::Column, index_};
     case Kind::Mark:
       return {BoardSpot::Kind::Mark, index_, digit_};
     case Kind::Cell:

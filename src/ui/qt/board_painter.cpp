@@ -184,8 +184,8 @@ void BoardPainter::PaintDigits(QPainter& painter, const QRegion& region) const {
 void BoardPainter::PaintHeaders(QPainter& painter, const QRegion& region, const BoardPointer& pointer) const {
   painter.setFont(header_font_);
   for (int line = 0; line < kUnitSize; ++line) {
-    const BoardSpot row{BoardSpot::Kind::Row, line, 0};
-    const BoardSpot column{BoardSpot::Kind::Column, line, 0};
+    const BoardSpot row{BoardSpot::Kind::Row, line};
+    const BoardSpot column{BoardSpot::Kind::Column, line};
     if (region.intersects(SpotRect(row))) PaintHeader(painter, main_.LabelRow(line), row, pointer);
     if (region.intersects(SpotRect(column))) PaintHeader(painter, main_.LabelColumn(line), column, pointer);
   }

@@ -147,8 +147,8 @@ void BoardWidget::Sync() {
   shown_->target = target;
   shown_->end = main_.end;
   for (int line = 0; line < kUnitSize; ++line) {
-    const BoardSpot row{BoardSpot::Kind::Row, line, 0};
-    const BoardSpot column{BoardSpot::Kind::Column, line, 0};
+    const BoardSpot row{BoardSpot::Kind::Row, line};
+    const BoardSpot column{BoardSpot::Kind::Column, line};
     whole |= SyncLabel(main_.LabelRow(line), shown_->LabelRow(line), painter.SpotRect(row));
     whole |= SyncLabel(main_.LabelColumn(line), shown_->LabelColumn(line), painter.SpotRect(column));
   }
@@ -191,8 +191,8 @@ BoardSpot BoardWidget::SpotAt(QPointF point) const {
   const int x = TwipsAt(point.x());
   const int y = TwipsAt(point.y());
   for (int line = 0; line < kUnitSize; ++line) {
-    if (Reachable(main_.LabelRow(line), x, y)) return {BoardSpot::Kind::Row, line, 0};
-    if (Reachable(main_.LabelColumn(line), x, y)) return {BoardSpot::Kind::Column, line, 0};
+    if (Reachable(main_.LabelRow(line), x, y)) return {BoardSpot::Kind::Row, line};
+    if (Reachable(main_.LabelColumn(line), x, y)) return {BoardSpot::Kind::Column, line};
   }
   for (int cell = 0; cell < kCells; ++cell) {
     if (!Contains(main_.Grid(cell), x, y)) continue;
