@@ -17,6 +17,11 @@ bool IsRowSeparator(char c) {
   return kRowSeparators.find(c) != std::string_view::npos;
 }
 
+// A cell as a set of digits, empty for 0.
+CandidateMask MaskOf(int digit) {
+  return digit == 0 ? CandidateMask{} : DigitBit(digit);
+}
+
 std::string WithoutSeparators(std::string_view text) {
   std::string cells;
   std::ranges::copy_if(text, std::back_inserter(cells), [](char c) { return !IsRowSeparator(c); });
@@ -44,7 +49,7 @@ std::optional<GridBlock::Row> GridBlock::ReadGroups(std::string_view text) {
     for (; !text.empty() && !IsRowSeparator(text.front()); text.remove_prefix(1), ++length) {
       const int digit = CellDigit(text.front());
       if (digit < 0 || (digit == 0 && length > 0)) return std::nullopt;
-      if (digit > 0) cell |= DigitBit(digit);
+      cell |= MaskOf(digit);
     }
     if (std::popcount(cell) != length && cell != 0) return std::nullopt;  // a digit twice
     row.groups = row.groups || length > 1;
@@ -59,7 +64,7 @@ std::optional<GridBlock::Row> GridBlock::ReadRow(std::string_view text) {
   for (std::size_t i = 0; i < kUnitSize; ++i) {
     const int digit = CellDigit(cells[i]);
     if (digit < 0) return ReadGroups(text);
-    if (digit > 0) row.digits[i] = DigitBit(digit);
+    row.digits[i] = MaskOf(digit);
     (cells[i] == '-' ? row.dash_is_open : row.other_is_open) |= digit == 0;
   }
   row.dashes = cells.find_first_not_of('-') == std::string::npos;

@@ -17,9 +17,27 @@ namespace {
 constexpr std::string_view kPuzzle =
     "043000080600700003000100090306200500000905000004003108060009000200007006090000830";
 
+// A text that comes byte by byte, as through a slow pipe.
+class Dripping final : public std::streambuf {
+ public:
+  explicit Dripping(const std::string& text) : text_(text) {}
+
+ protected:
+  std::streamsize showmanyc() override { return 0; }
+  int_type underflow() override {
+    if (next_ == text_.size()) return traits_type::eof();
+    char* byte = text_.data() + next_++;
+    setg(byte, byte, byte + 1);
+    return traits_type::to_int_type(*byte);
+  }
+
+ private:
+  std::string text_;
+  std::size_t next_ = 0;
+};
+
 // What a text holds: "LINE puzzle" with '#' for kPuzzle, or "LINE error".
-std::string Read(const std::string& text) {
-  std::istringstream in(text);
+std::string Read(std::istream& in, std::size_t bytes) {
   PuzzleStream stream(in);
   std::string all;
   for (FoundPuzzle found; stream.Next(found);) {
@@ -27,7 +45,16 @@ std::string Read(const std::string& text) {
     const std::string what = !found.error.empty() ? found.error : cells == kPuzzle ? "#" : cells;
     all += (all.empty() ? "" : "|") + std::to_string(found.line) + " " + what;
   }
-  EXPECT_EQ(stream.Bytes(), text.size());
+  EXPECT_EQ(stream.Bytes(), bytes);
+  return all;
+}
+
+std::string Read(const std::string& text) {
+  Dripping slow(text);
+  std::istream dripping(&slow);
+  std::istringstream in(text);
+  const std::string all = Read(in, text.size());
+  EXPECT_EQ(Read(dripping, text.size()), all);
   return all;
 }
 
@@ -79,6 +106,7 @@ TEST(Formats, AreToldApartAndMixed) {
       {Drawn("", "", '.').replace(12, 1, "") + line, "1 row 2: has 8 cells instead of 9|10 #"},
       {"<opensudoku>\n<game", "1 broken XML: Error parsing start element tag"},
       {std::string(3'000'000, '7') + "\n" + line, "1 more than 81 characters|2 #"},
+      {"\r\n\n\r\r\n" + line + "\n\r\n" + line, "5 #|7 #"},
       {big_endian, "1 #|2 #|3 character 41 is '?', not a digit or '.'"},
   };
   for (const auto& [text, expected] : cases) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "game/board.h"
+#include "support/approved.h"
 #include "support/map_settings.h"
 #include "view/digit_lens.h"
 #include "view/guide.h"
@@ -10,6 +11,7 @@
 #include "view/state_tips.h"
 #include "view/texts.h"
 #include "view/view_settings.h"
+#include "view/window_size.h"
 
 namespace kestrel {
 namespace {
@@ -136,15 +138,18 @@ TEST(Tips, SayWhyNothingHappens) {
 }
 
 TEST(WindowSize, FitsTheScreen) {
-  // 1280 x 800, 1920 x 1080 and 2560 x 1440, and the first with a factor of 2.
-  EXPECT_EQ(ComfortableSize(800 / 688.0), 100);
-  EXPECT_EQ(ComfortableSize(1080 / 688.0), 125);
-  EXPECT_EQ(ComfortableSize(1440 / 688.0), 150);
-  EXPECT_EQ(ComfortableSize(400 / 688.0), 50);
-  EXPECT_EQ(FittingSize(200, 1.6), 150);
-  EXPECT_EQ(FittingSize(125, 0.8), 75);
-  EXPECT_EQ(NextWindowSize(50, -1), 50);
-  EXPECT_EQ(NextWindowSize(200, 1), 200);
+  EXPECT_EQ(ComfortableSize(800 / 688.0), 100);  // 1280 x 800
+  std::string text;
+  for (int room = 40; room <= 300; room += 5) {
+    text += std::to_string(room) + ':';
+    for (const int size :
+         {ComfortableSize(room / 100.0), FittingSize(200, room / 100.0), FittingSize(125, room / 100.0),
+          NextWindowSize(room, -1), NextWindowSize(room, 1), static_cast<int>(IsWindowSize(room))}) {
+      text += ' ' + std::to_string(size);
+    }
+    text += '\n';
+  }
+  ExpectApproved("view/sizes.txt", text);
 }
 
 TEST(ViewSettings, AreRemembered) {
