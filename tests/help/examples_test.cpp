@@ -9,9 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "explain/board_picture.h"
 #include "explain/names.h"
-#include "explain/reasons.h"
 #include "explain/technique_words.h"
 #include "help/site_files.h"
 #include "solver/solver.h"
@@ -117,38 +115,6 @@ TEST(Examples, EveryFormHasItsExampleAndExercises) {
     EXPECT_EQ(puzzles.size(), 4U) << form.key;
   }
   EXPECT_TRUE(by_key.empty()) << by_key.begin()->first;
-}
-
-// Text and picture of an example name every cell that matters, and the picture has a sign for each.
-TEST(Examples, TextAndPictureShowEveryCell) {
-  for (const Example& example : Shipped()) {
-    SCOPED_TRACE(example.key);
-    const std::string text = ExampleText(example);
-    const BoardPicture drawn = DrawBoard(example);
-    const std::string& words = drawn.words;
-    std::size_t struck = 0;
-    for (const Removal& removal : example.finding.removals) {
-      EXPECT_NE(text.find(CellName(removal.cell)), std::string::npos);
-      EXPECT_NE(words.find(CellName(removal.cell)), std::string::npos);
-      struck += static_cast<std::size_t>(BitCount[removal.digits]);
-    }
-    for (const PatternCell& part : example.finding.pattern) {
-      EXPECT_NE(words.find(CellName(part.cell)), std::string::npos);
-      // The cells of a box in an Empty Rectangle are named by their lines.
-      if (example.finding.technique != Technique::EmptyRectangle) {
-        EXPECT_NE(text.find(CellName(part.cell)), std::string::npos);
-      }
-    }
-    const std::string& picture = drawn.svg;
-    const auto count = [&](std::string_view part) {
-      std::size_t times = 0;
-      for (std::size_t at = picture.find(part); at != std::string::npos; at = picture.find(part, at + 1))
-        ++times;
-      return times;
-    };
-    EXPECT_EQ(count("l16 -16"), struck);  // the strokes
-    EXPECT_EQ(drawn.signs.contains(Sign::Removed), struck > 0);
-  }
 }
 
 // Every change of one line that makes an example meaningless is refused, with the number of a line.

@@ -88,11 +88,6 @@ TEST(Pages, EveryLinkAndPictureLeadsSomewhere) {
   }
 }
 
-TEST(Pages, EveryTechniqueHasItsPage) {
-  for (const TechniqueRow& row : kTechniqueTable)
-    EXPECT_TRUE(fs::exists(kHelp / row.help_page)) << row.caption;
-}
-
 // The help window knows few tags. That they are balanced is for tidy to check.
 TEST(Pages, HaveOnlyTagsThatTheHelpWindowKnows) {
   static const std::regex kTag("<(/?[a-z0-9]+|!)");
