@@ -63,7 +63,7 @@ TEST(PrintJob, DrawsWhatIsApproved) {
   print(PageKind::Large, 1, 5, false, true);
   print(PageKind::Large, 1, 1, false, false);
   print(PageKind::Booklet, 2, 1, true, false);
-  print(PageKind::Game, 1, 1, true, true);
+  for (const int per_page : {1, 2, 4}) print(PageKind::Game, per_page, per_page, true, true);
   ExpectApproved("print/pages.txt", page.notes.str() + '\n');
 }
 

@@ -45,6 +45,7 @@ TEST(DigitLens, ShowsEqualsMarksAndLines) {
   fives.Add(30);
   EXPECT_EQ(lens->DigitsOf(open.main), fives);  // right and wrong ones alike
   EXPECT_EQ(lens->Lines().Size(), 21);
+  EXPECT_EQ((DigitLens{0, 5, true}.Lines().Size()), 21);
   EXPECT_TRUE(lens->Lines().Has(9) && lens->Lines().Has(78) && lens->Lines().Has(26));
   const CellSet marks = lens->MarksOf(open.main);
   EXPECT_TRUE(marks.Has(80));
