@@ -143,7 +143,12 @@ TEST(Dialogs, PrintChoicesAnswerToKeysAndMouse) {
     auto* slider = dialog.findChild<QSlider*>("PageSlider");
     QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(slider->width() - 3, slider->height() - 2));
     EXPECT_EQ(form.PageSlider.value, 10);
-    QTest::mouseClick(slider, Qt::LeftButton, {}, QPoint(2, 1));
+    QTest::mousePress(slider, Qt::LeftButton, {}, QPoint(2, 1));
+    QTest::mouseMove(slider, QPoint(slider->width() / 2, 1));
+    EXPECT_EQ(form.PageSlider.value, 6);
+    QTest::mouseMove(slider, QPoint(2, 1));
+    QTest::mouseRelease(slider, Qt::LeftButton);
+    QTest::mouseMove(slider, QPoint(slider->width() / 2, 1));
     QTest::keyClick(slider, Qt::Key_Right);
     EXPECT_EQ(form.PageSlider.value, 2);
     QTest::keyClick(dialog.findChild<QComboBox*>("SudokuTypeKeuze"), Qt::Key_Down);

@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCursor>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -329,6 +330,7 @@ TEST(Pictures, Help) {
   game.ShowIn({kDark}, "help", window);
   window.setWindowState(Qt::WindowNoState);
   window.resize(330, 400);
+  QCursor::setPos(window.mapToGlobal(QPoint(2, 2)));  // not where the button is to come
   game.Settle();
   game.front_end.Windows().OfferSolving(&game.State().play.puzzle.GivenDigits);
   QTest::keyClick(game.front_end.Windows().Help(), Qt::Key_F, Qt::ControlModifier);
