@@ -3,20 +3,14 @@
 // every viewer understands.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <functional>
-#include <numeric>
 #include <regex>
 #include <set>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "explain/palette.h"
-#include "help/practice.h"
 #include "help/site_files.h"
-#include "solver/technique_table.h"
 
 namespace kestrel::help {
 namespace {
@@ -101,45 +95,6 @@ TEST(Pages, HaveOnlyTagsThatTheHelpWindowKnows) {
   }
 }
 
-// What each sign is drawn with, in the order of the signs.
-const std::regex kShapes[] = {
-    std::regex(R"re(<circle [^>]*r="9" fill)re"),
-    std::regex(R"re(width="16" height="16" rx="2")re"),
-    std::regex(R"re(r="8" fill="#ffffff" stroke)re"),
-    std::regex("l11 11l-11 11"),
-    std::regex(R"re(width="51" height="51" rx="8")re"),
-    std::regex(R"re(r="22")re"),
-    std::regex(R"re(r="10" [^>]*>\s*<circle [^>]*r="7")re"),
-    std::regex(R"re(width="14" height="11")re"),
-    std::regex("l16 -16"),
-    std::regex(kLightPalette.unit_wash),
-    std::regex(kLightPalette.lose_wash),
-    std::regex("stroke-dasharray"),
-    std::regex("stroke-opacity"),
-};
-
-// Picture by picture: every sign in it is in the legend beside it, and the legend has no other.
-TEST(Pages, LegendsNameTheSignsOfTheirPicture) {
-  int pictures = 0;
-  for (const std::string& name : PageNames()) {
-    const std::string html = FileText(kHelp / name);
-    for (std::size_t at = 0; (at = html.find("<table class=\"example\">", at)) != std::string::npos; ++at) {
-      const std::string part =
-          html.substr(at, html.find("</table>", html.find("class=\"picture\"", at)) - at);
-      const std::string picture = Values(part, "src").back();
-      const std::string svg = FileText(kHelp / picture);
-      for (std::size_t sign = 0; sign < std::size(kShapes); ++sign) {
-        const bool named =
-            part.find("pictures/sign-" + std::to_string(sign + 1) + ".svg") != std::string::npos;
-        EXPECT_EQ(std::regex_search(svg, kShapes[sign]), named)
-            << name << ' ' << picture << " sign " << sign + 1;
-      }
-      ++pictures;
-    }
-  }
-  EXPECT_GT(pictures, 500);
-}
-
 TEST(Pages, MistakesInTheTextsAreReported) {
   SiteSources sources = ReadSiteInput(kProject);
   const SiteInput good = sources.Input();
@@ -160,34 +115,6 @@ TEST(Pages, MistakesInTheTextsAreReported) {
               text.erase(text.find("@example x_wing-columns"), 10);
             }),
             "");
-}
-
-// The puzzles of a rung need its technique and nothing harder; no other such puzzle needs fewer steps besides.
-TEST(Practice, RungsHoldTheSimplestPuzzlesOfTheirTechnique) {
-  SiteSources sources = ReadSiteInput(kProject);
-  ASSERT_TRUE(sources.stock);
-  for (const Technique technique : kAllTechniques) {
-    const Rung rung = RungOf(*sources.stock, technique);
-    std::vector<int> others(kPuzzlesPerLevel + 1, -1);  // -1: needs something harder, or not the technique
-    for (int number = 1; number <= kPuzzlesPerLevel; ++number) {
-      const auto& counts = (*sources.stock)(rung.level, number).TechniqueCount;
-      const auto own = counts.begin() + SlotOf(technique);
-      const auto harder = std::max(own + 1, counts.begin() + 2);
-      if (*own == 0 || std::any_of(harder, counts.end(), [](int count) { return count > 0; })) continue;
-      const auto after_singles = std::min(counts.begin() + 2, own);
-      others[static_cast<std::size_t>(number)] = std::accumulate(after_singles, own, 0);
-    }
-    int most = 0;
-    for (const int number : rung.puzzles) {
-      const int steps = std::exchange(others[static_cast<std::size_t>(number)], -1);
-      EXPECT_GE(steps, most) << RowOf(technique).caption;  // simplest first
-      most = steps;
-    }
-    EXPECT_LE(rung.puzzles.size(), 5U);
-    for (const int left_out : others) {
-      EXPECT_TRUE(left_out < 0 || (rung.puzzles.size() == 5 && left_out >= most)) << RowOf(technique).caption;
-    }
-  }
 }
 
 }  // namespace
