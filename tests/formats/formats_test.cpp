@@ -146,30 +146,5 @@ TEST(Formats, WhatIsWrittenIsReadBack) {
   }
 }
 
-TEST(Formats, TechniqueLinesAndBegunGamesHoldAState) {
-  std::string grid(kPuzzle);
-  grid.replace(0, 1, "+7");  // placed, not given
-  std::stringstream text(":0300:59:" + grid + ":514 922:x:\n:1:2:" + grid + ":5144::\n");
-  PuzzleStream stream(text);
-  FoundPuzzle found;
-  ASSERT_TRUE(stream.Next(found) && found.puzzle.state);
-  EXPECT_EQ(GridText(found.puzzle.givens), kPuzzle);
-  const PuzzleState& state = *found.puzzle.state;
-  EXPECT_EQ(state.digits[0], 7);
-  EXPECT_EQ(state.candidates[3], DigitBit(6));      // 5 and 6 fit into the fourth cell of the first row
-  EXPECT_FALSE(HasDigit(state.candidates[10], 9));  // row 2, column 2
-  ASSERT_TRUE(stream.Next(found));
-  EXPECT_EQ(found.error, "a removed candidate of the technique line is not digit, row and column");
-
-  std::string game = "<opensudoku><game data=\"version: 1&#10;";
-  for (int cell = 0; cell < kCells; ++cell) {
-    const bool given = kPuzzle[static_cast<std::size_t>(cell)] != '0';
-    game += given       ? std::string(1, kPuzzle[static_cast<std::size_t>(cell)]) + "|-|0|"
-            : cell == 0 ? "7|-|1|"
-                        : "0|1,2,|1|";
-  }
-  EXPECT_EQ(Read(game + "\"/></opensudoku>"), "1 #");
-}
-
 }  // namespace
 }  // namespace kestrel
