@@ -78,6 +78,10 @@ struct Scale {
   }
 };
 
+std::string PuzzlesOf(std::uint64_t count, int level) {
+  return std::to_string(count) + (count == 1 ? " puzzle of " : " puzzles of ") + RatingName(level);
+}
+
 std::string Whole(double value) {
   return std::to_string(std::llround(value));
 }
@@ -181,7 +185,7 @@ std::string TechniquePlot(const ReportData& data) {
       if (count == 0) continue;
       const double part = 100 * static_cast<double>(count) / all;
       svg += Bar(scale(share), top, scale(share + part) - scale(share), kRow - 6, level,
-                 caption + ": " + std::to_string(count) + " puzzles of " + RatingName(level));
+                 caption + ": " + PuzzlesOf(count, level));
       share += part;
     }
     svg += TextAt(scale(share) + 6, top + 13, Percent(Sum(needing), data.Puzzles()), "start", "small");
@@ -213,12 +217,12 @@ std::string GivensPlot(const ReportData& data) {
   for (const auto& [givens, counts] : columns) {
     double height = 0;
     for (int level = 1; level <= kRatings; ++level) {
-      const auto count = static_cast<double>(counts[static_cast<std::size_t>(level - 1)]);
+      const std::uint64_t count = counts[static_cast<std::size_t>(level - 1)];
       if (count == 0) continue;
-      svg += Bar(scale(givens) + width * 0.08, up(height + count), width * 0.84,
-                 up(height) - up(height + count), level,
-                 std::to_string(givens) + " givens: " + Whole(count) + " puzzles of " + RatingName(level));
-      height += count;
+      const double top = height + static_cast<double>(count);
+      svg += Bar(scale(givens) + width * 0.08, up(top), width * 0.84, up(height) - up(top), level,
+                 std::to_string(givens) + " givens: " + PuzzlesOf(count, level));
+      height = top;
     }
     svg += TextAt(scale(givens) + width / 2, kBottom + 16, std::to_string(givens), "middle", "small");
   }
