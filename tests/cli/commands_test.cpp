@@ -103,7 +103,7 @@ TEST(Solve, SaysEveryStepInWords) {
     const CliResult solved = RunWith({"solve", "--steps", "--jobs", "1"}, line);
     EXPECT_NE(solved.out.find(Fields(line)[1] + "\n"), std::string::npos) << line;
   }
-  EXPECT_EQ(sentences, 47);
+  EXPECT_EQ(sentences, 48);
 }
 
 // Every stored puzzle's page tells of the steps of the trace in their order, and nothing that it removes or places

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <sstream>
 
+#include "core/cell_names.h"
 #include "core/global.h"
 #include "host/host_folders.h"
 
@@ -32,6 +33,12 @@ TEST(Text, NumbersAreWrittenAndReadByTheirRules) {
   for (int value = 0; typed >> text >> value;) EXPECT_EQ(LeadingNumber("  " + text), value) << text;
   EXPECT_EQ(LeadingNumber("") + LeadingNumber("  "), 0);
   std::fesetround(FE_TONEAREST);
+}
+
+TEST(Text, CellsHaveTheirNames) {
+  for (int cell = 0; cell < kCells; ++cell) EXPECT_EQ(CellOfName(CellName(cell)), cell);
+  for (const char* name : {"", "A", "A0", "A:", "I1", "K1", "a1", "A11"})
+    EXPECT_EQ(CellOfName(name), -1) << name;
 }
 
 TEST(Text, NamesHaveSixteenCharactersNotBytes) {

@@ -153,10 +153,11 @@ class PoorCalls final : public SystemCalls {
     if (call == Call::kWrite) log += "write ";
     if (call == Call::kFsync) log += "flush ";
     if (call == Call::kRename) log += "rename ";
-    errno = call == Call::kLink ? EPERM : ENOLCK;
+    errno = call == Call::kLink ? link_error : ENOLCK;
     return call != Call::kLink && call != Call::kFlock;
   }
   std::string log;
+  int link_error = EPERM;
 };
 
 TEST(HostFiles, FlushesInTheRightOrderEvenWithoutHardLinksAndLocks) {
@@ -170,6 +171,8 @@ TEST(HostFiles, FlushesInTheRightOrderEvenWithoutHardLinksAndLocks) {
   EXPECT_TRUE(ActUpdate(files, folder, "target"));
   EXPECT_EQ(folder.Get("target"), kNew);
   EXPECT_EQ(calls.log, "write flush rename flush write flush rename flush ");
+  calls.link_error = EIO;  // nothing that could be done in another way
+  EXPECT_FALSE(ActCopy(files, folder, "other"));
 }
 
 TEST(HostFiles, ManyWritersAndSweepersDoNoDamage) {

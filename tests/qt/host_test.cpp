@@ -161,10 +161,10 @@ TEST(Sound, RefusesWhatIsNoWaveFile) {
   std::ostringstream label;
   label << std::ifstream(KESTREL_SOURCE_DIR "/data/Label.wav", std::ios::binary).rdbuf();
   const std::string whole = label.str();
-  for (const auto& [content, good] :
-       {std::pair{whole, true}, {"", false}, {whole.substr(0, 30), false}, {"x" + whole, false}}) {
+  for (const auto& [content, id] :
+       {std::pair{whole, 0}, {"", -1}, {whole.substr(0, 30), -1}, {"x" + whole, -1}, {whole, 1}}) {
     folder.Put("sound.wav", content);
-    EXPECT_EQ(device.Load(folder.Written("sound.wav")) >= 0, good) << content.size();
+    EXPECT_EQ(device.Load(folder.Written("sound.wav")), id) << content.size();
   }
   EXPECT_LT(device.Load(folder.Written("missing.wav")), 0);
   // Bytes of 8 bits, then words in stereo; a chunk of an odd size stands between.

@@ -154,6 +154,8 @@ TEST(Pictures, Play) {
   medium.Press(medium.pointer);
   medium.Show("play_75");
   medium.Release(QPoint(2, 2));
+  medium.front_end.Choices().SetSize(200);
+  medium.Show("play_200");
   medium.front_end.Choices().SetSize(100);
 }
 

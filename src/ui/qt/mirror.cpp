@@ -236,7 +236,7 @@ void Mirror::KeepOnScreen() {
   if (window == nullptr || !window->isVisible()) return;
   const QRect screen = window->screen()->availableGeometry();
   const QSize frame = window->size() + (window->frameGeometry().size() - window->geometry().size());
-  const int left = std::max(screen.left(), std::min(window->x(), screen.right() + 1 - window->width()));
+  const int left = std::max(screen.left(), std::min(window->x(), screen.right() + 1 - frame.width()));
   const int top = std::max(screen.top(), std::min(window->y(), screen.bottom() + 1 - frame.height()));
   if (QPoint(left, top) != window->pos()) window->move(left, top);
 }
