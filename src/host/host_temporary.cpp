@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kestrel {
@@ -55,10 +56,9 @@ HostTemporary::~HostTemporary() {
 }
 
 void HostTemporary::Discard() {
-  if (!path_.empty()) calls_.Unlink(path_);
-  if (file_ >= 0) calls_.Close(file_);  // after the unlinking: the lock keeps sweepers away until then
-  path_.clear();
-  file_ = -1;
+  if (!path_.empty()) calls_.Unlink(std::exchange(path_, {}));
+  // After the unlinking: the lock keeps sweepers away until then.
+  if (file_ >= 0) calls_.Close(std::exchange(file_, -1));
 }
 
 bool HostTemporary::Create(mode_t mode) {

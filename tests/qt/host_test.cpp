@@ -91,6 +91,11 @@ TEST(Help, FindsWordsAndFitsPictures) {
   EXPECT_GT(view.textCursor().position(), first);
   QTest::keyClick(words, Qt::Key_Return);
   EXPECT_EQ(view.textCursor().position(), first);
+  for (auto* button : words->parentWidget()->findChildren<QPushButton*>()) {
+    const int before = view.textCursor().position();
+    button->click();
+    EXPECT_NE(view.textCursor().position(), before) << qPrintable(button->text());
+  }
   QTest::keyClicks(words, "s");
   EXPECT_FALSE(answer->text().isEmpty());
   QTest::keyClick(words, Qt::Key_Escape);

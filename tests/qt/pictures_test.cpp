@@ -326,7 +326,7 @@ TEST(Pictures, Help) {
 <td class="picture"><img src="board.svg" width="282" height="281"></td></tr></table>
       <h2>More</h2><p class="note">A note that is small.</p></body></html>)");
   game.program_folder.Put("help/board.svg", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 564 562">
-      <rect class="cell" x="20" y="20" width="500" height="500" fill="#fff" stroke="#000" stroke-width="8"/></svg>)");
+      <rect class="cell" x="20" y="20" width="500" height="500" fill="#fdeceb" stroke="#20262d" stroke-width="8"/></svg>)");
   game.ClickControl("CommandHelp");
   FormWindow& window = game.front_end.Windows().WindowOf(FormId::Browser);
   game.ShowIn({kDark}, "help", window);

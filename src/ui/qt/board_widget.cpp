@@ -53,6 +53,13 @@ MouseButton ToMouseButton(Qt::MouseButton button) {
   }
 }
 
+// Whether there was anything new.
+bool TakeOver(const Label& now, Label& shown) {
+  if (now == shown) return false;
+  shown = now;
+  return true;
+}
+
 ControlId IdOf(const BoardSpot& spot) {
   switch (spot.kind) {
     case BoardSpot::Kind::Row:
@@ -116,8 +123,7 @@ void BoardWidget::Invalidate(const QRect& device) {
 }
 
 bool BoardWidget::SyncLabel(const Label& now, Label& shown, const QRect& place) {
-  if (now == shown) return false;
-  shown = now;
+  if (!TakeOver(now, shown)) return false;
   Invalidate(place);
   return true;
 }
@@ -139,7 +145,6 @@ void BoardWidget::SyncLabels(int& changed) {
 }
 
 void BoardWidget::Sync() {
-  const BoardPainter painter(main_, devicePixelRatioF() * TheLook().zoom, TheColours());
   int changed = 0;
   SyncLabels(changed);
   const int target = ResetTarget(main_);
@@ -147,10 +152,8 @@ void BoardWidget::Sync() {
   shown_->target = target;
   shown_->end = main_.end;
   for (int line = 0; line < kUnitSize; ++line) {
-    const BoardSpot row{BoardSpot::Kind::Row, line};
-    const BoardSpot column{BoardSpot::Kind::Column, line};
-    whole |= SyncLabel(main_.LabelRow(line), shown_->LabelRow(line), painter.SpotRect(row));
-    whole |= SyncLabel(main_.LabelColumn(line), shown_->LabelColumn(line), painter.SpotRect(column));
+    whole |= TakeOver(main_.LabelRow(line), shown_->LabelRow(line));
+    whole |= TakeOver(main_.LabelColumn(line), shown_->LabelColumn(line));
   }
   if (dirty_.isEmpty() && !whole) return;
   // The frame of the cell that both headers name moves with them.
