@@ -88,8 +88,8 @@ TEST(Program, InterruptedStockIsAsItWas) {
 
 // A progress bar appears on a terminal only, and is taken off again.
 TEST(Program, ProgressBarOnATerminal) {
-  EXPECT_EQ(ProgressLine("rate", 1, 3, "x"),
-            "rate [" + std::string(10, '#') + std::string(20, '.') + "]  33 %  x");
+  EXPECT_EQ(ProgressLine("rate", 2, 3, "x"),
+            "rate [" + std::string(20, '#') + std::string(10, '.') + "]  66 %  x");
   TempFolder folder;
   const std::string typescript = folder.Path("typescript");
   if (Shell("script -q -c true /dev/null > /dev/null 2>&1 < /dev/null") != 0) {

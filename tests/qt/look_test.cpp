@@ -189,16 +189,6 @@ TEST(Look, HelpPagesCanBeReadInEveryPalette) {
   SetUpLook({});
 }
 
-// The fonts that stand in have the widths of those that are named.
-TEST(Look, FontsHaveTheWidthsOfThoseThatAreNamed) {
-  const std::pair<std::string_view, int> kWidths[] = {
-      {"Arial", 172}, {"Courier New", 180}, {"Times New Roman", 168}};  // of "0Wi" at 100 pixels
-  for (const auto& [family, width] : kWidths) {
-    EXPECT_NEAR(QFontMetrics(ToQFont(Font{family, 75, false}, 1)).horizontalAdvance("0Wi"), width, 2)
-        << family;
-  }
-}
-
 // The text that a control may have to show, and the pixels it needs beside it.
 template <class C>
 std::pair<std::string, int> Wanted(const C& control) {
