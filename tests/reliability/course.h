@@ -31,7 +31,7 @@ struct Course {
 // Looks at the home after a run of `course` that printed `output`, however it ended, and starts the program
 // there again. The stock is the one that was written last, or wholly a later one; settings that were stored
 // are there; no temporary is left; the game is ready.
-void ExpectNothingLost(GameHome& home, const Course& course, const std::string& output);
+void ExpectNothingLost(GameHome& home, const Course& course, const std::string& output_of_run);
 
 // What `run` returns in a child process, or the exit status that ended the child before.
 int InAChild(const std::function<int()>& run);
