@@ -23,6 +23,8 @@
 #include <cstring>
 #include <memory>
 
+#include "support/approved.h"
+
 namespace kestrel::testing {
 
 namespace {
@@ -266,7 +268,7 @@ QRegion Difference(const Picture& now, const QImage& approved) {
 }
 
 void ExpectApproved(const std::string& name, const Picture& now) {
-  const QByteArray renew = qgetenv("KESTREL_RENEW_PICTURES");
+  const QByteArray renew = qgetenv("KESTREL_RENEW");
   if (renew == "1") {
     Save(now.image, FileOf(name));
     Save(DrawnByQt(), FileOf("drawn_by_qt"));
@@ -288,21 +290,12 @@ void ExpectApproved(const std::string& name, const Picture& now) {
 }
 
 void ExpectApprovedInside(const std::string& name, QWidget& window) {
-  QString now;
-  WriteAccess(*QAccessible::queryAccessibleInterface(&window), window.mapToGlobal(QPoint()), 0, now);
-  WriteProperties(window, now);
-  for (const QObject* each : window.findChildren<QObject*>()) WriteProperties(*each, now);
-  QFile file(FileOf(name, "").replace(".png", ".inside"));
-  if (qgetenv("KESTREL_RENEW_PICTURES") == "1" && file.open(QFile::WriteOnly)) file.write(now.toUtf8());
-  file.close();
   if (!DrawsAlike()) return;
-  EXPECT_TRUE(file.open(QFile::ReadOnly)) << name;
-  const QStringList approved = QString::fromUtf8(file.readAll()).split('\n');
-  const QStringList lines = now.split('\n');
-  EXPECT_EQ(lines.size(), approved.size()) << name;
-  for (qsizetype i = 0; i < std::min(lines.size(), approved.size()); ++i) {
-    ASSERT_EQ(lines[i].toStdString(), approved[i].toStdString()) << name;
-  }
+  QString inside;
+  WriteAccess(*QAccessible::queryAccessibleInterface(&window), window.mapToGlobal(QPoint()), 0, inside);
+  WriteProperties(window, inside);
+  for (const QObject* each : window.findChildren<QObject*>()) WriteProperties(*each, inside);
+  kestrel::ExpectApproved("qt/pictures/" + name + ".inside", inside.toStdString());
 }
 
 }  // namespace kestrel::testing

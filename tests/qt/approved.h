@@ -28,13 +28,13 @@ QRegion Difference(const Picture& now, const QImage& approved);
 // Compares with the approved picture of that name and says where they differ: in any pixel where this machine draws
 // letters, shapes and Qt's own widgets to the pixel as the one that drew the approved pictures ("drawn_by_qt"), else as
 // Difference() tells. Then approved picture, present one and the difference are left side by side in NAME.png in the
-// folder "pictures" where the test runs. With KESTREL_RENEW_PICTURES=1 the present picture is stored as the approved one
+// folder "pictures" where the test runs. With KESTREL_RENEW=1 the present picture is stored as the approved one
 // instead, and so is "drawn_by_qt": look at it.
 void ExpectApproved(const std::string& name, const Picture& now);
 
 // Compares what cannot be seen of a window with the approved text of that name, where this machine draws alike; elsewhere
 // nothing is compared: what assistive tools are told - roles, names, values, states, places, actions - and the properties
-// of all objects that are not those of a plain widget. KESTREL_RENEW_PICTURES=1 stores it.
+// of all objects that are not those of a plain widget. KESTREL_RENEW=1 stores it.
 void ExpectApprovedInside(const std::string& name, QWidget& window);
 
 }  // namespace kestrel::testing

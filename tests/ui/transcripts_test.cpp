@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Plays every script in tests/scripts and compares what it prints with the stored transcript. After a wanted
-// change, KESTREL_COLLECT=1 writes the transcripts anew; look at the difference before committing it.
+// change, KESTREL_RENEW=1 writes the transcripts anew; look at the difference before committing it.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -16,7 +16,7 @@ TEST_P(Transcripts, Agree) {
   const RecordedGame recorded(GetParam());
   const std::string report =
       recorded.Play([](GameHome& home, const std::string& run) { return home.Play(run); });
-  if (std::getenv("KESTREL_COLLECT") != nullptr) recorded.Store(report);
+  if (std::getenv("KESTREL_RENEW") != nullptr) recorded.Store(report);
   EXPECT_EQ(report, recorded.Expected());
 }
 
