@@ -23,13 +23,13 @@ constexpr QRect kCardNext(88, 84, 123, 38);
 constexpr QRect kLine(64, 587, 513, 12);
 constexpr int kCross = 16;
 
-QRect On(const PixelGrid& grid, const QRect& pixels) {
+QRect ScaledRect(const PixelGrid& grid, const QRect& pixels) {
   return grid.Rect(pixels.x() * kTwipsPerPixel, pixels.y() * kTwipsPerPixel, pixels.width() * kTwipsPerPixel,
                    pixels.height() * kTwipsPerPixel);
 }
 
 QRect LogicalRect(const QRect& pixels) {
-  return On(PixelGrid(TheLook().zoom), pixels);
+  return ScaledRect(PixelGrid(TheLook().zoom), pixels);
 }
 
 }  // namespace
@@ -106,11 +106,13 @@ void GuideCard::paintEvent(QPaintEvent* /*event*/) {
   PaintRounded(painter, surface.Area(), 0, colours.paper, colours.thick_line, grid.Pixels(2));
   painter.setPen(QColor(colours.text));
   painter.setFont(ToQFont(Font{"MS Sans Serif", 11.25, true}, grid.Ratio()));
-  PaintText(painter, On(grid, QRect(0, 35, kCardWidth, 20)), Align::Centre, QLatin1String(texts::kCardTitle));
+  PaintText(painter, ScaledRect(grid, QRect(0, 35, kCardWidth, 20)), Align::Centre,
+            QLatin1String(texts::kCardTitle));
   painter.setFont(ToQFont(Font{"MS Sans Serif", 9, false}, grid.Ratio()));
-  PaintText(painter, On(grid, QRect(0, 57, kCardWidth, 18)), Align::Centre,
+  PaintText(painter, ScaledRect(grid, QRect(0, 57, kCardWidth, 18)), Align::Centre,
             QLatin1String(texts::kCardLevel).arg(level_));
-  PaintText(painter, On(grid, QRect(0, 131, kCardWidth, 20)), Align::Centre, QLatin1String(texts::kCardHelp));
+  PaintText(painter, ScaledRect(grid, QRect(0, 131, kCardWidth, 20)), Align::Centre,
+            QLatin1String(texts::kCardHelp));
 }
 
 // ---- GuideLine ----
@@ -143,7 +145,7 @@ void GuideLine::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(QColor(TheColours().text));
   painter.setFont(ToQFont(Font{}, grid.Ratio()));
   // A little higher than the middle: what hangs down must fit as well.
-  PaintText(painter, On(grid, QRect(0, 0, kLine.width(), kLine.height() - 2)), Align::Centre, text_);
+  PaintText(painter, ScaledRect(grid, QRect(0, 0, kLine.width(), kLine.height() - 2)), Align::Centre, text_);
 }
 
 }  // namespace kestrel
