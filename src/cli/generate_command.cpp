@@ -52,11 +52,11 @@ std::string RatedText(const RatedPuzzle& puzzle, bool json) {
 // What is to be made: attempts of a seed, and which of them are written.
 struct Order {
   MakeRun run;
-  int level{};                      // 0: all
+  int level = 0;                    // 0: all
   std::uint64_t most = UINT64_MAX;  // puzzles to write
   std::string format;
   Shard shard;
-  bool json{};
+  bool json = false;
   std::optional<PuzzleFormat> plain;  // a format for the puzzles alone
 
   std::string Text(const RatedPuzzle& puzzle) const {

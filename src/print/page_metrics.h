@@ -17,13 +17,13 @@ namespace kestrel {
 
 // All in the printer's units.
 struct PageMetrics {
-  int U{};  // 10 mm, the step of the layout
-  int W{};  // what is printed on, without the margins of 25 mm
-  int H{};
-  int left{};
-  int top{};
-  int right{};
-  int bottom{};
+  int U = 0;  // 10 mm, the step of the layout
+  int W = 0;  // what is printed on, without the margins of 25 mm
+  int H = 0;
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
 
   friend bool operator==(const PageMetrics&, const PageMetrics&) = default;
 };
@@ -34,9 +34,9 @@ PageMetrics MeasurePage(int width, int height);
 
 // A 9 x 9 grid on the page by its top-left corner and its side.
 struct GridSquare {
-  int x{};
-  int y{};
-  int side{};
+  int x = 0;
+  int y = 0;
+  int side = 0;
 
   friend bool operator==(const GridSquare&, const GridSquare&) = default;
 };

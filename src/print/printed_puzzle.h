@@ -16,7 +16,7 @@ struct PrintedPuzzle {
   DigitGrid givens{};
   DigitGrid solution{};                            // 0 where it is not known
   std::array<std::int16_t, kTechniques> counts{};  // by display slot
-  int number{};
+  int number = 0;
   std::string label;  // what stands before the number; may be empty
 };
 

@@ -14,7 +14,7 @@ namespace kestrel {
 
 // `level` may also be 6, or 0 when it is above the highest level asked for.
 struct RatedPuzzle : RatedNewPuzzle {
-  std::uint64_t attempt{};
+  std::uint64_t attempt = 0;
 };
 
 // Makes and rates puzzle number `attempt` of the seed. A puzzle found to be above `highest_level` (1..5, or 6

@@ -174,7 +174,7 @@ std::set<std::uint64_t> FillStock(std::uint64_t seed, MadeStock& made) {
 
 void AddToPool(Pool& pool, const RatedPuzzle& puzzle) {
   if (puzzle.level < 1 || puzzle.level > kLevels) return;
-  PoolPuzzle entry{puzzle.attempt, puzzle.score, {}};
+  PoolPuzzle entry{puzzle.attempt, puzzle.score, 0};
   const SlotCounts counts = CountsBySlot(puzzle.counters);
   for (int slot = 0; slot < kTechniques; ++slot) {
     if (counts[slot] > 0) entry.techniques |= 1U << static_cast<unsigned>(slot);

@@ -18,9 +18,9 @@ namespace kestrel {
 
 // What the pool remembers of a puzzle.
 struct PoolPuzzle {
-  std::uint64_t attempt{};
-  std::int32_t score{};
-  std::uint32_t techniques{};  // bit s: the technique of display slot s was needed
+  std::uint64_t attempt = 0;
+  std::int32_t score = 0;
+  std::uint32_t techniques = 0;  // bit s: the technique of display slot s was needed
   bool Needs(int slot) const { return (techniques >> static_cast<unsigned>(slot) & 1U) != 0; }
   friend bool operator==(const PoolPuzzle&, const PoolPuzzle&) = default;
 };

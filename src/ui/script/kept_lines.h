@@ -41,10 +41,10 @@ class KeptLines final : public Yield {
  private:
   struct Kept {
     std::string line;
-    int line_number{};
-    unsigned yield{};
-    unsigned left{};  // yields to come, this one included
-    int depth = 0;    // of the line that it belongs to; 0: not begun
+    int line_number = 0;
+    unsigned yield = 0;
+    unsigned left = 0;  // yields to come, this one included
+    int depth = 0;      // of the line that it belongs to; 0: not begun
   };
 
   Yield& inner_;
