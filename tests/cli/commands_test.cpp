@@ -5,7 +5,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -75,23 +74,6 @@ TEST(RateAndSolve, AgreeWithThePlainSolver) {
     next += 3;
   }
   EXPECT_TRUE(levels.contains("1/1") && levels.contains("6/0")) << levels.size();
-}
-
-TEST(Rate, JobsChangeNothing) {
-  const std::string input = "bad\n" + ManyPuzzles(500, 3) + "worse\n";
-  for (const std::vector<std::string>& command :
-       {std::vector<std::string>{"rate", "--format=json"}, {"solve", "--steps", "--format=json"}}) {
-    std::vector<std::string> words = command;
-    words.insert(words.end(), {"--jobs", "1"});
-    const CliResult one = RunWith(words, input);
-    words.back() = "5";
-    const CliResult five = RunWith(words, input);
-    EXPECT_EQ(one.status, 1);
-    EXPECT_EQ(five.status, 1);
-    EXPECT_EQ(one.out, five.out);
-    EXPECT_EQ(one.err, five.err);
-    EXPECT_GT(one.out.size(), 100'000U);
-  }
 }
 
 // A sentence for every form of every technique, each from the solution of a puzzle. Read them when you change

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "explain/palette.h"
 #include "help/site_files.h"
 
 namespace kestrel::help {
@@ -93,6 +94,45 @@ TEST(Pages, HaveOnlyTagsThatTheHelpWindowKnows) {
       EXPECT_TRUE(std::regex_match(tag->str(), kKnown)) << name << ": " << tag->str();
     }
   }
+}
+
+// What each sign is drawn with, in the order of the signs.
+const std::regex kShapes[] = {
+    std::regex(R"re(<circle [^>]*r="9" fill)re"),
+    std::regex(R"re(width="16" height="16" rx="2")re"),
+    std::regex(R"re(r="8" fill="#ffffff" stroke)re"),
+    std::regex("l11 11l-11 11"),
+    std::regex(R"re(width="51" height="51" rx="8")re"),
+    std::regex(R"re(r="22")re"),
+    std::regex(R"re(r="10" [^>]*>\s*<circle [^>]*r="7")re"),
+    std::regex(R"re(width="14" height="11")re"),
+    std::regex("l16 -16"),
+    std::regex(kLightPalette.unit_wash),
+    std::regex(kLightPalette.lose_wash),
+    std::regex("stroke-dasharray"),
+    std::regex("stroke-opacity"),
+};
+
+// Picture by picture: every sign in it is in the legend beside it, and the legend has no other.
+TEST(Pages, LegendsNameTheSignsOfTheirPicture) {
+  int pictures = 0;
+  for (const std::string& name : PageNames()) {
+    const std::string html = FileText(kHelp / name);
+    for (std::size_t at = 0; (at = html.find("<table class=\"example\">", at)) != std::string::npos; ++at) {
+      const std::string part =
+          html.substr(at, html.find("</table>", html.find("class=\"picture\"", at)) - at);
+      const std::string picture = Values(part, "src").back();
+      const std::string svg = FileText(kHelp / picture);
+      for (std::size_t sign = 0; sign < std::size(kShapes); ++sign) {
+        const bool named =
+            part.find("pictures/sign-" + std::to_string(sign + 1) + ".svg") != std::string::npos;
+        EXPECT_EQ(std::regex_search(svg, kShapes[sign]), named)
+            << name << ' ' << picture << " sign " << sign + 1;
+      }
+      ++pictures;
+    }
+  }
+  EXPECT_GT(pictures, 500);
 }
 
 TEST(Pages, MistakesInTheTextsAreReported) {
