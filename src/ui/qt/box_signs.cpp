@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt/box_signs.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
 #include <optional>
@@ -35,12 +36,9 @@ std::optional<Sign> SignOf(QStyle::StandardPixmap standard) {
   }
 }
 
-QPixmap PaintSign(const Sign& sign, int size) {
-  QPixmap pixmap(size, size);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
+// On a square of 32 by 32.
+void PaintSign(QPainter& painter, const Sign& sign) {
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.scale(size / 32.0, size / 32.0);
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(sign.colour));
   if (sign.triangle) {
@@ -54,22 +52,42 @@ QPixmap PaintSign(const Sign& sign, int size) {
     const QRectF arms(11, 11, 10, 10);
     painter.drawLine(arms.topLeft(), arms.bottomRight());
     painter.drawLine(arms.topRight(), arms.bottomLeft());
-    return pixmap;
+    return;
   }
   painter.setFont(ToQFont(Font{"Arial", 16.5, true}, 1));
   const QRect place(0, sign.triangle ? 3 : 0, 32, 32);
   PaintText(painter, place, Align::Centre, QString(QLatin1Char(sign.symbol)));
-  return pixmap;
 }
+
+// As sharp as the screen, whatever its scale.
+class SignEngine final : public QIconEngine {
+ public:
+  explicit SignEngine(const Sign& sign) : sign_(sign) {}
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
+    painter->save();
+    painter->translate(rect.topLeft());
+    painter->scale(rect.width() / 32.0, rect.height() / 32.0);
+    PaintSign(*painter, sign_);
+    painter->restore();
+  }
+  [[nodiscard]] QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, pixmap.rect(), mode, state);
+    return pixmap;
+  }
+  [[nodiscard]] QIconEngine* clone() const override { return new SignEngine(sign_); }
+
+ private:
+  Sign sign_;
+};
 
 }  // namespace
 
 QIcon BoxSign(QStyle::StandardPixmap standard) {
-  QIcon icon;
   const std::optional<Sign> sign = SignOf(standard);
-  if (!sign) return icon;
-  for (const int size : {32, 40, 48, 64, 96, 128}) icon.addPixmap(PaintSign(*sign, size));
-  return icon;
+  return sign ? QIcon(new SignEngine(*sign)) : QIcon();
 }
 
 }  // namespace kestrel
