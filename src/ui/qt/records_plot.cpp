@@ -147,8 +147,11 @@ void RecordsPlot::paintEvent(QPaintEvent* /*event*/) {
   const int first = (across.low + across.step - 1) / across.step * across.step;
   for (int score = first; score <= across.high; score += across.step) {
     stroke(QPointF(x(score), field.bottom()), QPointF(x(score), field.bottom() + Scaled(3)));
-    painter.drawText(QRectF(x(score) - Scaled(30), field.bottom() + Scaled(3), Scaled(60), height),
-                     Qt::AlignHCenter, QString::number(score));
+    const QString text = QString::number(score);
+    const double half = painter.fontMetrics().horizontalAdvance(text) / 2.0;
+    const double middle = std::min(x(score), width() - half - 1);  // whole at the edge, too
+    painter.drawText(QRectF(middle - Scaled(30), field.bottom() + Scaled(3), Scaled(60), height),
+                     Qt::AlignHCenter, text);
   }
   painter.drawText(QRectF(Scaled(4), Scaled(2), width(), height), Qt::AlignLeft,
                    QLatin1String(texts::kTimeAxis));
