@@ -19,18 +19,6 @@ TEST(RandomPlay, KeepsTheBoardAndItsHistoryTrue) {
   }
 }
 
-// Whatever bytes stand in the stock, every puzzle opens and can be played.
-TEST(RandomPlay, SurvivesAStockOfRandomBytes) {
-  RandomSource random(99);
-  GameHome home;
-  std::filesystem::create_directory(home.home.Path("KestrelSudoku"));
-  std::string bytes;
-  for (std::size_t i = 0; i < kStockBytes; ++i) bytes += static_cast<char>(random.Below(256));
-  home.home.Put("KestrelSudoku/sudstock.kpz", bytes);
-  EXPECT_EQ(RandomUser(5, 3000, false).Play(home), 0);
-  EXPECT_EQ(home.StockBytes(), bytes);
-}
-
 // Lines that bring a game from its start to a situation.
 struct Situation {
   const char* name;

@@ -11,11 +11,6 @@
 namespace kestrel::testing {
 namespace {
 
-class Stop final : public Yield {
- public:
-  bool KeepGoing() override { return false; }
-};
-
 // A puzzle as it stands when it was just opened: all marks that the givens leave.
 OpenPuzzle Opened(const DigitGrid& givens, int level) {
   OpenPuzzle puzzle;
@@ -85,11 +80,6 @@ TEST(FindHint, AgreesWithTheRatingStepByStep) {
     }
   }
   EXPECT_GT(seen.size(), 10);
-}
-
-TEST(FindHint, StopsBeforeTheSearch) {
-  Stop stop;
-  EXPECT_EQ(FindHint(Opened(kHard, 3), stop), std::nullopt);
 }
 
 }  // namespace

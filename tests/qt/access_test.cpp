@@ -4,9 +4,6 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
-#include <QComboBox>
-#include <QMessageBox>
-#include <QSlider>
 #include <stdexcept>
 
 #include "qt/qt_game.h"
@@ -36,17 +33,6 @@ QString Press() {
 TEST(Access, TreeLeadsToEveryMarkAndBack) {
   QtGame game(3);
   QAccessibleInterface* board = QAccessible::queryAccessibleInterface(game.front_end.Windows().Board());
-  int marks = 0;
-  for (int i = 0; i < board->childCount(); ++i) {
-    QAccessibleInterface* item = board->child(i);
-    EXPECT_TRUE(item->parent() == board && board->indexOfChild(item) == i) << i;
-    for (int k = 0; k < item->childCount(); ++k, ++marks) {
-      EXPECT_TRUE(item->child(k)->parent() == item && item->indexOfChild(item->child(k)) == k) << i;
-    }
-    EXPECT_TRUE(item->indexOfChild(board) == -1 && item->indexOfChild(board->child(0)) == -1) << i;
-    EXPECT_EQ(item->indexOfChild(board->child((i + 1) % kCells)->child(0)), -1) << i;
-  }
-  EXPECT_EQ(marks, 729);
   // As a table, its cells are the board's, and know their headers.
   QAccessibleTableInterface* table = board->tableInterface();
   ASSERT_NE(table, nullptr);
@@ -85,17 +71,6 @@ TEST(Access, MarksOfferTheirActions) {
   EXPECT_EQ(Actions(easy, easy.NextMark()), QStringList({Press()}));
 }
 
-TEST(Access, PlaysAGameToTheEnd) {
-  QtGame game;
-  Do(game, "OptionType(3)", QAccessibleActionInterface::toggleAction());
-  Do(game, "CommandNew", Press());  // shows the pressed button for a moment before it acts
-  ASSERT_TRUE(game.WaitFor([&] { return game.State().play.puzzle.PuzzleLevel == 3; }));
-  Do(game, "LabelColumn(4)", Press());
-  EXPECT_TRUE(Access(game, "LabelColumn(4)").state().selected);
-  while (game.EmptyCell() >= 0) Do(game, game.NextMark(), Press());
-  EXPECT_TRUE(game.State().play.clock.ClockStopped);
-}
-
 // Assistive tools press nothing behind a dialog, and what they toggle goes back.
 TEST(Access, StopsAtDialogs) {
   QtGame game(3);
@@ -124,32 +99,6 @@ TEST(Access, StopsAtDialogs) {
     dialog.close();
   });
   game.ClickControl("cmdPlayers");
-  EXPECT_EQ(game.StillExpected(), 0U);
-}
-
-// The same for combos and sliders of a dialog behind a box.
-TEST(Access, MovesNothingBehindABox) {
-  QtGame game;
-  const auto behind_box = [&game](QWidget& dialog, const std::function<void()>& change) {
-    game.Expect([&](QWidget& box) {
-      change();
-      game.Settle();
-      box.close();
-    });
-    QMessageBox box(&dialog);
-    box.exec();
-  };
-  game.Expect([&](QWidget& dialog) {
-    behind_box(dialog, [&] {
-      Access(game, "PageSlider").valueInterface()->setCurrentValue(4);
-      emit qobject_cast<QComboBox*>(game.Widget("SudokuTypeKeuze"))->activated(4);
-    });
-    EXPECT_EQ(game.Controls().print.PageSlider.value, 1);
-    EXPECT_EQ(qobject_cast<QSlider*>(game.Widget("PageSlider"))->value(), 1);
-    EXPECT_EQ(game.Controls().print.SudokuTypeKeuze.index, 1);
-    dialog.close();
-  });
-  game.ClickControl("CommandPrint");
   EXPECT_EQ(game.StillExpected(), 0U);
 }
 

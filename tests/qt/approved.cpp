@@ -199,7 +199,10 @@ void WriteAccess(QAccessibleInterface& each, QPoint origin, int depth, QString& 
                                      .arg(place.height());
   lines += parts.join('|').replace('\n', ' ') + '\n';
   for (int i = 0; i < each.childCount(); ++i) {
-    if (QAccessibleInterface* child = each.child(i)) WriteAccess(*child, origin, depth + 1, lines);
+    QAccessibleInterface* child = each.child(i);
+    if (child == nullptr) continue;
+    if (child->parent() != &each || each.indexOfChild(child) != i) lines += "astray: ";
+    WriteAccess(*child, origin, depth + 1, lines);
   }
 }
 

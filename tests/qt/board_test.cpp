@@ -89,7 +89,12 @@ TEST(Board, ShowsWhatCanBeClicked) {
   };
   EXPECT_EQ(hover(play.middle), Qt::PointingHandCursor);
   EXPECT_EQ(hover(play.corner + QPoint(0, 8)), Qt::ArrowCursor);
-  // A mark that goes takes the hand with it.
+  // A mark that goes takes the hand with it, and a finger needs no pointer before it.
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(play.game.front_end.Windows().Board(), &leave);
+  QTest::mousePress(play.game.Window().windowHandle(), Qt::LeftButton, {}, play.middle);
+  EXPECT_EQ(play.game.front_end.Windows().Board()->cursor().shape(), Qt::PointingHandCursor);
+  play.game.Release(QPoint(1, 1));
   hover(play.middle);
   play.game.Click(play.middle, Qt::RightButton);
   EXPECT_EQ(play.game.front_end.Windows().Board()->cursor().shape(), Qt::ArrowCursor);
@@ -192,6 +197,9 @@ TEST(Board, FollowsTheViewMenuAtOnce) {
   BoardWidget& board = *play.game.front_end.Windows().Board();
   EXPECT_TRUE(play.game.WaitFor([&] { return board.Lens().has_value(); }));
   EXPECT_EQ(board.Lens()->digit, play.digit);
+  choices.SetDigitLens(false);
+  QTest::mouseMove(play.game.Window().windowHandle(), middle + QPoint(1, 0));
+  EXPECT_TRUE(play.game.WaitFor([&] { return !board.Lens().has_value(); }));
   play.game.Click(middle);
   EXPECT_EQ(play.Digit(), play.digit);
   choices.SetSize(100);

@@ -218,6 +218,9 @@ TEST(Dialogs, KeyboardReachesTheCommands) {
   game.ExpectBox("Renew Selected Set of Sudokus", "Cancel");
   QWidget* link = game.Widget("RenewLevel(5)");
   link->setFocus();
+  game.Main().CommandHelp.enabled = false;
+  game.front_end.Windows().Sync();
+  EXPECT_EQ(QApplication::focusWidget(), link);  // which another control does not take
   QTest::keyClick(link, Qt::Key_Return);
   EXPECT_EQ(game.State().stockroom.RenewingLevel, 0);
   EXPECT_EQ(game.StillExpected(), 0U);

@@ -134,7 +134,8 @@ TEST(Help, ShowsHowAPuzzleIsSolvedWhenItHasEnded) {
   EXPECT_TRUE(shows("Level 3 (Medium)"));
   // In a narrow window all buttons have their texts, also when everything is large.
   window.setWindowState(Qt::WindowNoState);
-  for (const auto& [width, size] : {std::pair{360, 100}, {1000, 200}, {1200, 100}}) {
+  for (int width = 1200; width >= 360; width -= 12) {
+    const int size = width < 800 ? 100 : 200;
     game.front_end.Choices().SetSize(size);
     window.resize(width, 700);
     game.Settle();
@@ -212,6 +213,12 @@ TEST(Shell, GoesByTheDesktopsChoice) {
   put("xdg-open", "echo \"$1\" > " + log);
   put("xdg-mime", "true");
   EXPECT_FALSE(shell.FindExecutable("x\\temphtm.HTM").has_value());
+  put("x-www-browser", "true");
+  EXPECT_EQ(shell.FindExecutable("x"), folder.Path("x-www-browser").string());
+  put("other", "true");
+  qputenv("BROWSER", "missing:other %s:xdg-mime");
+  EXPECT_EQ(shell.FindExecutable("x"), folder.Path("other").string());
+  qunsetenv("BROWSER");
   put("xdg-mime", "echo browser.desktop");
   EXPECT_EQ(shell.FindExecutable("x\\temphtm.HTM"), folder.Path("xdg-open").string());
   EXPECT_TRUE(shell.Open(folder.Path("xdg-open").string(), "https://kestrel-sudoku.example/"));

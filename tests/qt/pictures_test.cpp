@@ -16,6 +16,7 @@
 #include "qt/qt_game.h"
 #include "ui/qt/help_view.h"
 #include "ui/qt/main_extras.h"
+#include "ui/qt/records_plot.h"
 #include "ui/qt/view_menu.h"
 
 namespace kestrel::testing {
@@ -208,6 +209,67 @@ TEST(Pictures, SmallWindows) {
   game.pointer = map->viewport()->mapTo(&records, map->visualRect(map->model()->index(3, 3)).center());
   game.Show("records_75", records);
   game.front_end.Choices().SetSize(100);
+}
+
+// Axes for every range of scores and times, with ever more holders.
+TEST(Pictures, Plots) {
+  const Screens game;
+  const std::vector<std::pair<int, int>> ranges = {{0, 0},     {1, 9},      {7, 51},     {20, 170},
+                                                   {55, 400},  {300, 1300}, {900, 2990}, {3000, 5900},
+                                                   {9, 12000}, {60, 40000}, {5, 90000},  {2, 600}};
+  Picture sheet{QImage(960, 640, QImage::Format_RGB32), {}};
+  sheet.image.fill(Qt::magenta);
+  QPoint place;
+  for (std::size_t i = 0; i < ranges.size(); ++i) {
+    const auto& [scores, longest] = ranges[i];
+    LevelRecords records;
+    for (int number = 0; number < kPuzzlesPerLevel; ++number) {
+      PuzzleRecord& record = records.puzzles[number];
+      record.score = 100 + scores * number / 99;
+      record.seconds = number % 3 == 0 ? 0 : longest * (number * 37 % 100) / 99;
+      record.player = number % static_cast<int>(i + 1);
+      records.holders.push_back({number, "", 0});
+    }
+    RecordsPlot plot(nullptr);
+    plot.resize(320, 160);
+    plot.Show(records);
+    const Picture now = TakePicture(plot);
+    QPainter(&sheet.image).drawImage(QRectF(place * 1.0, now.image.size() / 1.0), now.image);
+    sheet.texts += now.texts.translated(place);
+    place = i % 3 == 2 ? QPoint(0, place.y() + 160) : place + QPoint(320, 0);
+  }
+  ExpectApproved("plots", sheet);
+}
+
+// What is marked in the corners of the board and in its middle.
+TEST(Pictures, Corners) {
+  Screens game(3);
+  game.front_end.Choices().SetDigitLens(false);  // it comes when the pointer rests
+  MainWindow& main = game.Main();
+  Picture sheet{QImage(640, 320, QImage::Format_RGB32), {}};
+  sheet.image.fill(Qt::magenta);
+  QPoint place;
+  for (const int cell : {0, 8, 40, 72, 80}) {
+    for (int digit = 1; digit <= 9; ++digit)
+      main.Mark(digit)(cell).visible = main.Mark(digit)(cell).enabled = true;
+    main.Grid(cell).caption.clear();
+    game.Click(QtGame::Corner(main.LabelRow(cell / 9)) + QPoint(17, 17));
+    game.Click(QtGame::Corner(main.LabelColumn(cell % 9)) + QPoint(17, 17));
+    const QRect part(QtGame::Corner(main.Grid(cell)) - QPoint(37, 52), QSize(128, 160));
+    for (const int digit : {1, 9}) {
+      const QPoint mark = QtGame::Corner(main.Mark(digit)(cell)) + QPoint(8, 8);
+      QTest::mouseMove(game.Window().windowHandle(), mark);
+      if (digit == 9) game.Press(mark);
+      game.Settle();
+      const Picture now = TakePicture(*game.front_end.Windows().Board());
+      QPainter(&sheet.image).drawImage(place, now.image, part);
+      sheet.texts += (now.texts & part).translated(place - part.topLeft());
+      place += QPoint(0, 160);
+    }
+    game.Release(QPoint(1, 1));
+    place = QPoint(place.x() + 128, 0);
+  }
+  ExpectApproved("corners", sheet);
 }
 
 TEST(Pictures, HintAndLens) {

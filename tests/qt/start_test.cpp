@@ -2,8 +2,10 @@
 // The game's start: settings, the picture taken off screen.
 #include <gtest/gtest.h>
 
+#include <QIcon>
 #include <QImage>
 #include <QScreen>
+#include <QTimer>
 
 #include "qt/qt_game.h"
 
@@ -29,6 +31,9 @@ TEST(Start, KnowsWhereTheWindowStands) {
   game.Settle();
   EXPECT_EQ(game.Main().window.left, 37 * 15);
   EXPECT_EQ(game.Main().window.top, 41 * 15);
+  game.Main().window.left += 150;
+  game.front_end.Windows().Sync();
+  EXPECT_EQ(game.Window().pos(), QPoint(47, 41));
   // Where it grows, it stays whole on its screen.
   const QRect screen = game.Window().screen()->availableGeometry();
   game.front_end.Choices().SetSize(50);
@@ -37,6 +42,20 @@ TEST(Start, KnowsWhereTheWindowStands) {
   game.front_end.Choices().SetSize(75);
   EXPECT_EQ(game.Window().frameGeometry().bottomRight(), screen.bottomRight());
   game.front_end.Choices().SetSize(100);
+}
+
+TEST(Start, RunsFromTheFirstPictureToTheEnd) {
+  QtGame game(QtGame::kNotStarted);
+  game.ExpectBox("Quit Kestrel Sudoku", "Yes");
+  QTimer::singleShot(0, [&] {
+    QList<QSize> icons;
+    EXPECT_TRUE(
+        game.WaitFor([&] { return !(icons = QApplication::windowIcon().availableSizes()).isEmpty(); }));
+    EXPECT_EQ(icons.size(), 6);
+    for (const QSize& size : icons) EXPECT_EQ(QApplication::windowIcon().pixmap(size, 1).size(), size);
+    game.Window().close();
+  });
+  EXPECT_EQ(game.front_end.Run(), 0);
 }
 
 TEST(Start, AFolderMayHaveABackslashInItsName) {
@@ -48,6 +67,22 @@ TEST(Start, AFolderMayHaveABackslashInItsName) {
   EXPECT_EQ(folder.Get("errors"), "");  // what Qt says about the desktop is not for the player
   EXPECT_EQ(QImage(QString::fromStdString(folder.Path("shot.png").string())).size(),
             QSize(1152, 987) * qGuiApp->devicePixelRatio());
+}
+
+TEST(Start, SaysThatThereIsNoDisplay) {
+  const TempFolder folder;
+  const auto said = [&](const std::string& display, const std::string& options) {
+    const std::string command =
+        "cd " + folder.Path().string() + " && env -u QT_QPA_PLATFORM -u DISPLAY -u WAYLAND_DISPLAY " +
+        display + " timeout 20 '" KESTREL_GAME "' --home . --program '" KESTREL_SOURCE_DIR "/data' " +
+        options + " 2>errors";
+    const int status = std::system(command.c_str()) / 256;
+    return std::to_string(status) + ' ' + folder.Get("errors");
+  };
+  EXPECT_EQ(said("", ""), "2 kestrel-sudoku: there is no display; --screenshot FILE works without one\n");
+  EXPECT_EQ(said("DISPLAY=:977", ""),
+            "2 kestrel-sudoku: the display cannot be opened; --screenshot FILE works without one\n");
+  EXPECT_EQ(said("DISPLAY=:977", "--screenshot shot.png"), "0 ");
 }
 
 TEST(Start, SaysThatTheStockCannotBeRead) {

@@ -68,17 +68,6 @@ TEST(Damage, PlayGoesOnAndWhatWouldBeLostIsKeptAside) {
   }
 }
 
-TEST(Damage, AFolderInThePlaceOfTheStockIsReportedAndLeftAlone) {
-  GameHome home;
-  fs::create_directories(home.home.Path(kStock) / "folder");
-  SystemCalls calls;
-  const Played played = PlayOn(home, calls, "echo not reached\n");
-  EXPECT_EQ(played.status, 1);
-  EXPECT_TRUE(played.Has("message \"File Error\" \"Error reading sudokus from file!\" exclamation OK"));
-  EXPECT_EQ(played.Count("message \"Critical Error!\" \"The program failed to open the file"), 1);
-  EXPECT_TRUE(fs::is_directory(home.home.Path(kStock) / "folder"));
-}
-
 TEST(Damage, TheOlderCopyIsRenewedAtMidnightAndTheMessageNamesBoth) {
   GameHome home;
   SystemCalls calls;

@@ -47,11 +47,7 @@ inline std::vector<std::string> EveryControl() {
 // `events` lines at random. Boxes are answered and dialogs closed between them.
 class RandomUser : public std::streambuf, public Yield {
  public:
-  explicit RandomUser(std::uint64_t seed, int events = 0, bool renews = true)
-      : random_(seed), events_(events) {
-    if (!renews)
-      std::erase_if(controls_, [](const auto& line) { return line.starts_with("press RenewLevel"); });
-  }
+  explicit RandomUser(std::uint64_t seed, int events = 0) : random_(seed), events_(events) {}
 
   // Plays in `home` until everything is done. The exit status.
   int Play(GameHome& home) {
