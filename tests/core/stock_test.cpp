@@ -243,17 +243,6 @@ TEST_F(StockTest, OnlyAWholeStockBecomesTheOlderCopy) {
   }
 }
 
-TEST_F(StockTest, TheProgramsCopyIsTakenOnlyWhenThereIsNone) {
-  TempFolder program;
-  CopyStockIfMissing(files_, program.Written(), folder_.Written());
-  EXPECT_EQ(folder_.Count(), 0);
-  for (const char* content : {"shipped", "newer"}) {
-    program.Put("sudstock.kpz", content);
-    CopyStockIfMissing(files_, program.Written(), folder_.Written());
-    EXPECT_EQ(folder_.Get("sudstock.kpz"), "shipped");
-  }
-}
-
 TEST(SudokuRecord, NonsenseIsFoundAndLeadsNowhere) {
   SudokuRecord sound = Sound(3, 0x5555);
   EXPECT_EQ(CheckRecord(sound, 3), "");

@@ -12,6 +12,7 @@ class StopAt final : public Yield {
  public:
   explicit StopAt(int n) : left_(n) {}
   [[nodiscard]] bool KeepGoing() override { return --left_ > 0; }
+  [[nodiscard]] int Left() const { return left_; }
 
  private:
   int left_;

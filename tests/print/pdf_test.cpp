@@ -153,7 +153,8 @@ TEST_F(PrintFiles, AnyPuzzlesInEveryFormat) {
     return RunWith(words);
   };
   EXPECT_EQ(print("pages.png").status, 1);
-  EXPECT_TRUE(folder_.Get("pages-1.png").starts_with("\x89PNG") && folder_.Get("pages-2.png").size() > 1000);
+  EXPECT_TRUE(folder_.Get("pages-1.png").starts_with("\x89PNG"));
+  EXPECT_NE(folder_.Get("pages-1.png"), folder_.Get("pages-2.png"));
   print("one.svg", {"--pages=1", "--from=5"});
   const std::string drawing = folder_.Get("one.svg");
   for (const char* line : {"stroke-width[:=]\"?48\\b", "stroke-width[:=]\"?12\\b",

@@ -2,6 +2,7 @@
 // The board under a real mouse: which press reaches which mark, and what is painted again for it.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QBackingStore>
 #include <QHelpEvent>
@@ -182,6 +183,10 @@ TEST(Board, SaysHowToPlayBesideTheCells) {
     }
     EXPECT_EQ(tip_at(QtGame::Corner(game.Main().LabelRow(0)) + QPoint(9, 9)).toStdString(),
               texts::kHeaderTip);
+    const auto* line = game.Window().findChild<QWidget*>("GuideLine");
+    EXPECT_TRUE(line->isVisible());
+    line->findChild<QAbstractButton*>()->click();
+    EXPECT_FALSE(line->isVisible());
   }
 }
 

@@ -121,7 +121,7 @@ TEST(Help, ShowsHowAPuzzleIsSolvedWhenItHasEnded) {
   game.ClickControl("CommandHelp");
   FormWindow& window = game.front_end.Windows().WindowOf(FormId::Browser);
   HelpView& view = *game.front_end.Windows().Help();
-  const auto* button = window.findChild<QPushButton*>("HelpSolved");
+  auto* button = window.findChild<QPushButton*>("HelpSolved");
   const auto shows = [&](const char* words) { return view.toPlainText().contains(words); };
   EXPECT_FALSE(button->isVisible());
   view.Navigate(std::string(kHelpFolder) + kSolvedPage);
@@ -132,6 +132,9 @@ TEST(Help, ShowsHowAPuzzleIsSolvedWhenItHasEnded) {
   EXPECT_TRUE(button->isVisible());
   EXPECT_TRUE(shows("Singles (steps 1 to"));
   EXPECT_TRUE(shows("Level 3 (Medium)"));
+  window.findChild<QPushButton*>("HelpContents")->click();
+  button->click();
+  EXPECT_TRUE(shows("steps 1 to"));
   // In a narrow window all buttons have their texts, also when everything is large.
   window.setWindowState(Qt::WindowNoState);
   for (int width = 1200; width >= 360; width -= 12) {

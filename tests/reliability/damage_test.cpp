@@ -85,7 +85,7 @@ TEST(Damage, TheOlderCopyIsRenewedAtMidnightAndTheMessageNamesBoth) {
   home.home.Put(kStock, home.StockBytes().replace(40 * kRecordBytes, 9, Noise(9)));
   const Played played = PlayOn(home, calls, "press CommandNew\nget StatusBar(5).caption\n");
   EXPECT_EQ(played.Count("message \"File Error\" \"Your file of sudokus"), 1) << played.output;
-  EXPECT_NE(played.output.find(older), std::string::npos);
+  EXPECT_NE(played.output.find("'" + home.home.Path(older).string()), std::string::npos);
   EXPECT_EQ(home.home.Get(older).substr(0, 9), good.substr(0, 9));
 }
 
