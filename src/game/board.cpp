@@ -10,12 +10,6 @@ void Board::ClearGrid() {
   main_.end = PuzzleEnd::None;
   main_.filled_in = CellSet();
   for (int cell = 0; cell < kCells; ++cell) {
-    for (int digit = 1; digit <= 9; ++digit) {
-      Label& mark = main_.Mark(digit)(cell);
-      mark.back = kWindowColour;
-      mark.transparent = true;
-      mark.caption = std::to_string(digit);
-    }
     ShowMarks(kAllDigits, cell);
     Label& label = main_.Grid(cell);
     label.caption.clear();

@@ -73,19 +73,6 @@ TEST(Program, ClosedStreamsDoNotSpoilTheStock) {
   EXPECT_EQ(Shell(kProgram + " stock verify " + stock + " > /dev/null"), 0);
 }
 
-TEST(Program, InterruptedStockIsAsItWas) {
-  TempFolder folder;
-  folder.Put("stock", "something of the user's");
-  const std::string stock = folder.Path("stock");
-  for (const char* signal : {"INT", "TERM"}) {
-    EXPECT_GT(Shell(std::string("timeout --preserve-status -s ") + signal + " 0.3 " + kProgram +
-                    " stock new --force --seed 1 " + stock + " 2> /dev/null"),
-              128);
-    EXPECT_EQ(folder.Get("stock"), "something of the user's");
-    EXPECT_EQ(folder.Count(), 1);
-  }
-}
-
 // A progress bar appears on a terminal only, and is taken off again.
 TEST(Program, ProgressBarOnATerminal) {
   EXPECT_EQ(ProgressLine("rate", 2, 3, "x"),

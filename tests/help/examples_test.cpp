@@ -136,6 +136,7 @@ TEST(Examples, BrokenBlocksAreRefused) {
       replaced("row J", "# row J"),
       replaced("units r", "units x"),
       replaced("covers c", "covers c0"),
+      replaced("\ndigits ", std::string("\ndigits ") + good[good.find("\ndigits ") + 8]),
       replaced("pattern ", "pattern K"),
       replaced("\nremove", "\nput"),
       replaced("\nremove", "\nplace A1:1\nremove"),

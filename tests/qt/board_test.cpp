@@ -207,6 +207,8 @@ TEST(Board, FollowsTheViewMenuAtOnce) {
   EXPECT_TRUE(play.game.WaitFor([&] { return !board.Lens().has_value(); }));
   play.game.Click(middle);
   EXPECT_EQ(play.Digit(), play.digit);
+  choices.SetSize(124);
+  EXPECT_EQ(ViewChoices::Size(), 150);
   choices.SetSize(100);
 }
 

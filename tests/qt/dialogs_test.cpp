@@ -127,6 +127,12 @@ TEST(Dialogs, PlayersAnswerToKeys) {
       QTest::keyClick(list, key);
       EXPECT_TRUE(form.KnopOK.enabled && form.Naamlijst.index == 0) << key;
     }
+    game.ClickControl("KnopNieuweSpeler");
+    Type(*field, "Bob");
+    QTest::keyClick(field, Qt::Key_Return);
+    list->setCurrentRow(0);
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(form.Naamlijst.index, 1);
     // Escape is the cancel button's again.
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
@@ -186,6 +192,9 @@ TEST(Dialogs, KeysOfTheDesktopPressTheirButtons) {
   game.Expect([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
   game.ClickControl("RenewLevel(5)");
   EXPECT_EQ(game.State().stockroom.RenewingLevel, 0);
+  press(Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_LT(ViewChoices::Size(), 100);
+  press(Qt::Key_0, Qt::ControlModifier);
   press(Qt::Key_F1);
   EXPECT_TRUE(game.Controls().browser.window.open);
 }
@@ -197,6 +206,11 @@ TEST(Dialogs, EnterTakesWhatTheCardProposes) {
     game.Settle();
     EXPECT_EQ(game.State().play.puzzle.PuzzleLevel, level);
   }
+  game.front_end.Choices().CloseGuide();
+  game.ClickControl("CommandSolution");
+  game.Window().setFocus();
+  QTest::keyClick(&game.Window(), Qt::Key_Return);  // where no card proposes anything
+  EXPECT_EQ(game.State().play.phase, PlayPhase::Over);
 }
 
 TEST(Dialogs, KeyboardReachesTheCommands) {
